@@ -1,0 +1,57 @@
+// The program: owns the one record, opens and closes screens.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "core/game_settings.h"
+#include "core/texts.h"
+#include "toolkit/desktop.h"
+#include "toolkit/screen.h"
+
+namespace quillor {
+
+enum class ScreenId { Start, Menu, Game, Options, Word1, Word2, Inventor };
+
+class Program {
+  public:
+    /// `folder` is the program folder: everything the program keeps is in it.
+    Program(Desktop& desktop, std::filesystem::path folder);
+    ~Program();
+
+    using Factory = std::function<std::unique_ptr<Screen>(Program&)>;
+    /// Says how a screen is made. The start screen and the menu are known.
+    void addScreen(ScreenId id, Factory factory);
+
+    GameSettings settings;
+    Desktop& desktop;
+    const std::filesystem::path folder;
+
+    /// The text of a pair in the interface's language.
+    Text lang(const TextPair& pair) const { return eLang(settings, pair); }
+
+    /// Makes and loads a screen without showing it; one that is loaded already
+    /// is returned as it is.
+    Screen& load(ScreenId id);
+    Screen& show(ScreenId id);
+    /// The loaded screen, or null.
+    Screen* find(ScreenId id) const;
+    /// Unloads and hides a screen; it is destroyed by `destroyClosed`.
+    void close(Screen& screen);
+    /// Closes every screen and ends the run.
+    void end();
+
+    /// Destroys the screens that have been closed. For the shell, once no
+    /// handler of theirs is running any more.
+    void destroyClosed() { closed_.clear(); }
+
+  private:
+    std::map<ScreenId, Factory> factories_;
+    std::map<ScreenId, std::unique_ptr<Screen>> screens_;
+    std::vector<std::unique_ptr<Screen>> closed_;
+};
+
+}  // namespace quillor

@@ -1,0 +1,32 @@
+#include "app/shared_operations.h"
+
+#include "core/text_rules.h"
+
+namespace quillor {
+
+void eCutPhrase(Program& program) {
+    GameSettings& settings = program.settings;
+    WrappedPhrase wrapped = wrapPhrase(settings.gsPhrase);
+    if (wrapped.cut)
+        program.desktop.messageBox(MessageIcon::Information, program.lang(texts::kPhraseCut));
+    settings.gsPhrase = eFoldAccents(settings.gsPhrase);
+    settings.gsShownPhrase = wrapped.shown;
+    settings.gsCutPhrase = std::move(wrapped.shown);
+}
+
+int ePasteText(Program& program, TextView text, TextView selected, int caret) {
+    PastedText pasted = ePasteText(text, selected, caret, program.desktop.clipboard());
+    program.settings.gsTextResult = std::move(pasted.text);
+    return pasted.caret;
+}
+
+void eCopyToClipboard(Program& program, TextView text) { program.desktop.setClipboard(text); }
+
+void eRestartGame(Program& program, Screen& caller) {
+    if (Screen* start = program.find(ScreenId::Start))
+        program.close(*start);
+    program.show(ScreenId::Start);
+    program.close(caller);
+}
+
+}  // namespace quillor

@@ -1,0 +1,30 @@
+# How every library of the project is built.
+
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+# What all of our own code is compiled with; third-party code is not.
+add_library(quillor_options INTERFACE)
+target_compile_features(quillor_options INTERFACE cxx_std_20)
+target_include_directories(quillor_options INTERFACE ${PROJECT_SOURCE_DIR})
+if(MSVC)
+    target_compile_options(quillor_options INTERFACE /W4 /utf-8 $<$<BOOL:${QUILLOR_WERROR}>:/WX>)
+else()
+    target_compile_options(quillor_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow
+                           -Wnon-virtual-dtor $<$<BOOL:${QUILLOR_WERROR}>:-Werror>)
+endif()
+if(QUILLOR_SANITIZE)
+    target_compile_options(quillor_options INTERFACE -fsanitize=address,undefined
+                           -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(quillor_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# quillor_library(NAME DEPENDS folder...): the static library of the current
+# folder, from all of its .cpp files, linking the libraries of the named folders.
+function(quillor_library name)
+    cmake_parse_arguments(ARG "" "" "DEPENDS" ${ARGN})
+    file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+    add_library(${name} STATIC ${sources})
+    target_link_libraries(${name} PUBLIC ${ARG_DEPENDS} PRIVATE quillor_options)
+    target_compile_features(${name} PUBLIC cxx_std_20)
+    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
+endfunction()

@@ -1,0 +1,30 @@
+// The one way in which an operation ends quietly on an unexpected error.
+#pragma once
+
+#include <exception>
+#include <functional>
+#include <string_view>
+
+namespace quillor {
+
+/// Called with each swallowed error; writes one line to standard error when
+/// QUILLOR_LOG is set in the environment, else does nothing.
+void logSwallowed(std::string_view operation, std::string_view error) noexcept;
+
+/// Runs `body`. An exception ends it at that point, keeping what it had changed
+/// so far, and is logged under the name of the operation.
+/// Returns true when `body` ran to its end.
+template <typename Body>
+bool quietly(std::string_view operation, Body&& body) {
+    try {
+        std::forward<Body>(body)();
+        return true;
+    } catch (const std::exception& error) {
+        logSwallowed(operation, error.what());
+    } catch (...) {
+        logSwallowed(operation, "unknown error");
+    }
+    return false;
+}
+
+}  // namespace quillor

@@ -1,0 +1,54 @@
+// The alphabets that decide what may be typed, folding of accents, and the
+// wrapping of a phrase into the rows of the board.
+#pragma once
+
+#include "core/game_settings.h"
+#include "core/types.h"
+
+namespace quillor {
+
+inline constexpr int kRowCells = 14;
+inline constexpr int kBoardRows = 3;
+inline constexpr int kBoardCells = kRowCells * kBoardRows;
+
+/// The whole text in capitals; accents are kept. Own tables for Latin, Greek
+/// and Cyrillic letters, never the C locale. Keeps the length.
+Text upperCase(TextView text);
+Text lowerCase(TextView text);
+char16_t upperCase(char16_t character);
+char16_t lowerCase(char16_t character);
+
+/// Without the blanks (U+0020 only) at both ends.
+Text trimmed(TextView text);
+
+/// The text with every occurrence of `what` replaced; `what` empty changes nothing.
+Text replaceAll(TextView text, TextView what, TextView with);
+
+/// full: digits 1..9 and 0, capitals, small letters (86 characters); otherwise
+/// the 38 small letters. Each accented vowel stands behind its plain one.
+TextView eAlphabet(bool full);
+
+/// In capitals, with the accents of vowels folded; the letter Ñ stays. Keeps
+/// the length.
+Text eFoldAccents(TextView text);
+
+/// A phrase laid out in rows of 14 cells.
+struct WrappedPhrase {
+    Text shown;
+    bool cut = false;  // it needed a fourth row, which was dropped
+};
+WrappedPhrase wrapPhrase(TextView phrase);
+
+/// Each component lowered to a multiple of 10 and to at most 50.
+Color eDarkShade(Color color);
+
+/// The text of a field after a paste, and the new caret position (in characters).
+struct PastedText {
+    Text text;
+    int caret = 0;
+};
+/// Replaces every occurrence of `selected` by the clipboard's text, or inserts
+/// that text at the caret (clamped to the text) when nothing is selected.
+PastedText ePasteText(TextView text, TextView selected, int caret, TextView clipboard);
+
+}  // namespace quillor

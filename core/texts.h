@@ -1,0 +1,295 @@
+// Every text that the program shows, in Spanish and in English, in one place.
+//
+// "&" marks the access key of the letter behind it, "&&" shows one "&". Blanks
+// at the ends of tool tips are part of the text. Where the two languages differ
+// in form (a missing blank, a colon), that is how they are meant to be.
+#pragma once
+
+#include <array>
+
+#include "core/game_settings.h"
+#include "core/types.h"
+
+namespace quillor {
+
+/// One text in both languages.
+struct TextPair {
+    TextView spanish;
+    TextView english;
+};
+
+/// Chooses by the interface language, at the moment the text is shown.
+inline Text eLang(const GameSettings& settings, TextView spanish, TextView english) {
+    return Text(settings.gbEnglish ? english : spanish);
+}
+inline Text eLang(const GameSettings& settings, const TextPair& pair) {
+    return eLang(settings, pair.spanish, pair.english);
+}
+
+namespace texts {
+
+inline constexpr TextView kProgramName = u"Quillor";
+inline constexpr TextView kDisplayFont = u"Arial Rounded MT Bold";
+
+// Dialog buttons.
+inline constexpr TextPair kYes{u"&Sí", u"&Yes"};
+inline constexpr TextPair kNo{u"&No", u"&No"};
+inline constexpr TextPair kAccept{u"Aceptar", u"OK"};
+inline constexpr TextPair kCancel{u"Cancelar", u"Cancel"};
+
+// Start screen.
+inline constexpr TextPair kFontMissing{
+    u"La fuente 'Arial Rounded MT Bold' no está instalada en la PC.",
+    u"The 'Arial Rounded MT Bold' font is not installed on this PC."};
+inline constexpr TextPair kSearchFont{u"BUSCAR &FUENTE", u"SEARCH &FONT"};
+inline constexpr TextPair kOpenFont{u"ABRIR FUENTE", u"OPEN &FONT"};
+inline constexpr TextPair kRebootGame{u"&REINICIAR JUEGO", u"&REBOOT ALL"};
+inline constexpr TextPair kCloseTip{u" Cerrar ", u" Close "};
+
+// Main menu.
+inline constexpr TextPair kMenuTitle{u"Quillor | Inicio", u"Quillor | Start"};
+inline constexpr TextPair kMenuHeading{u"INICIO", u"START"};
+struct MenuOption {
+    TextPair caption;
+    TextPair tip;
+};
+inline constexpr std::array<MenuOption, 4> kMenuOptions{{
+    {{u"MODO &ARCADE", u"&ARCADE MODE"},
+     {u" Jugar con temas guardados en el juego ", u" Play with saved topics in the game "}},
+    {{u"MODO &CLÁSICO", u"&CLASSIC MODE"},
+     {u" Jugar con temas improvisados por el usuario ",
+      u" Playing with improvised topics by the user "}},
+    {{u"&INVENTOR", u"&INVENTOR"},
+     {u" Crea nuevos temas para jugar en el modo arcade ",
+      u" Create new topics to play in arcade mode "}},
+    {{u"AJU&STES", u"&SETTING"},
+     {u" Cambiar preferencias del juego ", u" Change game preferences "}},
+}};
+
+// Game screen: what stands on it.
+inline constexpr TextPair kGreeting{u"¡Hola, jugador! ¡Bienvenido a Quillor!",
+                                    u"Hey, player! Welcome to Quillor!"};
+inline constexpr std::array<TextPair, 6> kMistakeTips{{
+    {u" Primer error ", u" First mistake "},
+    {u" Segundo error ", u" Second mistake "},
+    {u" Tercer error ", u" Third mistake "},
+    {u" Cuarto error ", u" Fourth mistake "},
+    {u" Quinto error ", u" Fifth mistake "},
+    {u" Sexto error ", u" Sixth mistake "},
+}};
+inline constexpr TextPair kBonus{u"BONO DEL 50% CONSEGUIDO", u"50% BONUS ACHIEVED"};
+inline constexpr TextPair kModeTip{u" Modo ", u" Mode "};
+inline constexpr TextPair kScoreTip{u" Puntos ", u" Score "};
+inline constexpr TextPair kFinder{u"¿QUÉ ES ESO&?", u"WHAT IS THAT&?"};
+inline constexpr TextPair kFinderTip{u" Buscar en internet ", u" Search the internet "};
+inline constexpr TextPair kNoTopicShown{u"(TEMA)", u"(TOPIC)"};
+inline constexpr TextPair kNewGame{u"NUEVA PARTIDA", u"NEW GAME"};
+inline constexpr TextPair kStatusTip{u" Estado actual ", u" Actual status "};
+inline constexpr TextPair kTopicTip{u" Tema ", u" Topic "};
+inline constexpr TextPair kTimeTip{u" Tiempo ", u" Time "};
+inline constexpr TextPair kPlay{u"JUGAR", u"PLAY"};
+inline constexpr TextPair kPlayAnother{u"OTRA PARTIDA", u"PLAY ANOTHER"};
+inline constexpr TextPair kPlayTip{u" Iniciar o detener partida ", u" Start or stop game "};
+inline constexpr TextPair kNumbersTip{u" Números ", u" Numbers "};
+inline constexpr TextPair kWriteTip{u" Escribir respuesta ", u" Write answer "};
+inline constexpr TextPair kWrite{u"ESCRIBIR", u"WRITE"};
+inline constexpr TextPair kArcadeMode{u"MODO ARCADE", u"ARCADE MODE"};
+inline constexpr TextPair kClassicMode{u"MODO CLÁSICO", u"CLASSIC MODE"};
+inline constexpr TextPair kDead{u"¡MUERTO!", u"DEAD!"};
+inline constexpr TextPair kVictory{u"¡VICTORIA!", u"VICTORY!"};
+/// The status line while playing, in the order it steps through.
+inline constexpr std::array<TextPair, 4> kPlaying{{
+    {u"JUGANDO", u"PLAYING"},
+    {u". JUGANDO .", u". PLAYING ."},
+    {u".. JUGANDO ..", u".. PLAYING .."},
+    {u"... JUGANDO ...", u"... PLAYING ..."},
+}};
+inline constexpr TextPair kScore{u"PUNTOS/ ", u"SCORE/ "};
+inline constexpr TextPair kZeroScore{u"SIN PUNTOS/ 0", u"ZERO SCORE/ 0"};
+inline constexpr TextPair kInfiniteScore{u"PUNTOS INFINITOS", u"INFINITE SCORE"};
+inline constexpr TextPair kSoundsOnTip{u" Sonidos activados ", u" Sounds on "};
+inline constexpr TextPair kSoundsOffTip{u" Sonidos activados ", u" Sounds off "};
+inline constexpr std::array<TextPair, 10> kTips{{
+    {u"¡Salva al ahorcado con tus habilidades!", u"Save the hangman with your skills!"},
+    {u"Cada ahorcado, cada familia sin un padre de palitos. ¡Sálvalo!",
+     u"Every hangman, every stick figure family without a father. Save him!"},
+    {u"Veintisiete letras, diez números, ¡decide bien!",
+     u"Twenty-seven letters, ten numbers, decide well!"},
+    {u"Juega con temas ilimitados, ¡hasta 50 frases en cada uno!",
+     u"Play with unlimited topics, up to 50 phrases in each!"},
+    {u"Experimenta y juega con diferentes opciones, ¡te gustará!",
+     u"Experience and play with different options, you'll like it!"},
+    {u"¿Muy fácil? Intenta jugar con letras ocultas.",
+     u"Too easy? Try to play with hidden letters."},
+    {u"Reta a tus amigos; ¡a un oponente digno!", u"Challenge your friends; a worthy opponent!"},
+    {u"¡Quillor trae diferentes experiencias a intentar!",
+     u"Quillor brings different experiences to try!"},
+    {u"¡Consigue todos los puntos que puedas! ¡Supérate!",
+     u"Get as many points as you can! Get over it!"},
+    {u"Si haces trampa te engañas a ti mismo.", u"If you cheat, you fool yourself."},
+}};
+
+// Game screen: pieces of the title.
+inline constexpr TextView kTitleStart = u"Quillor | ";
+inline constexpr TextPair kTitleHard{u" [Difícil]", u" [Hard]"};
+inline constexpr TextPair kTitleTime{u" [Tiempo]", u" [Time]"};
+inline constexpr TextPair kTourPosition{u"Turista ", u"Tour "};
+inline constexpr TextPair kTourOf{u" de ", u"/"};
+
+// Game screen: menu.
+inline constexpr TextPair kMenuName{u"Menú", u"Menu"};
+inline constexpr TextPair kMenuBack{u"Volver a Inicio", u"Back to Start"};
+inline constexpr TextPair kMenuReboot{u"Reiniciar juego", u"Reboot all"};
+inline constexpr TextPair kMenuSelection{u"Selección", u"Selection"};
+inline constexpr TextPair kMenuManual{u"Manual", u"Manual"};
+inline constexpr TextPair kMenuRepeat{u"Repetición", u"Repeat"};
+inline constexpr TextPair kMenuTour{u"Turista", u"Tour"};
+inline constexpr TextPair kMenuAnyTopic{u"Aleatorio", u"Any topic"};
+inline constexpr TextPair kMenuHidden{u"Oculto", u"Hidden"};
+inline constexpr TextPair kMenuWrite{u"Escribir respuesta", u"Write answer"};
+inline constexpr TextPair kMenuSounds{u"Mostrar sonidos", u"Use sounds"};
+inline constexpr TextPair kMenuFirstLetter{u"Primera letra", u"First letter"};
+inline constexpr TextPair kMenuHiddenLetters{u"Letras ocultas", u"Hidden letters"};
+inline constexpr TextPair kMenuColors{u"Colores suaves", u"Color transition"};
+inline constexpr TextPair kMenuAbout{u"Acerca", u"About"};
+inline constexpr TextPair kMenuHelp{u"Ayuda", u"Help"};
+inline constexpr TextPair kVersion{u": Versión ", u": Version "};
+
+// Game screen: messages and questions.
+inline constexpr TextPair kPhraseCut{
+    u"¡Hasta al tope! La frase ha sido muy larga y fue recortada.",
+    u"Up to the top! The phrase has been very long and was cut."};
+inline constexpr TextPair kNoTopics{
+    u"No hay palabras para jugar aquí. Trae archivos con palabras a la carpeta 'Temas' del juego "
+    u"y reinicia.",
+    u"There are no words to play here. Bring files with words to the game's 'Themes' folder and "
+    u"restart."};
+inline constexpr TextPair kLeaveGame{
+    u"Estás por abandonar esta partida, ¿quieres continuar?",
+    u"You're about to leave this game, do you want to continue?"};
+inline constexpr TextPair kTooManyMistakes{
+    u"Tienes muchos errores para poder abandonar la partida, continúa o reinicia el juego.",
+    u"You have many mistakes to leave the game, continue or restart the game."};
+inline constexpr TextPair kNoPoints{
+    u"Perdiste todos tus puntos, para volver a jugar el modo arcade reinicia el juego.",
+    u"You have lost all your points, to replay arcade mode restart the game."};
+inline constexpr TextPair kHintTooShort{u"La frase es muy corta para ayudarte.",
+                                        u"The phrase is too short to help you."};
+inline constexpr TextPair kHintNone{u"No hay letras sin repetir para ayudarte.",
+                                    u"No unrepeating letters to help you."};
+inline constexpr TextPair kEnterAnswer{
+    u"Introduce la respuesta.\r\nTen cuidado, si te equivocas es muerte rápida.",
+    u"Enter the answer.\r\nBe careful, wrong is quick death."};
+inline constexpr TextPair kTourCompleted{u"¡Completaste el viaje!", u"You've completed the tour!"};
+inline constexpr TextPair kHelpMissing{u"El archivo de ayuda no se encuentra.",
+                                       u"The help file is not found."};
+
+// Settings screen.
+inline constexpr TextPair kSettingsTitle{u"Quillor | Ajustes", u"Quillor | Setting"};
+inline constexpr TextPair kSettingsTiles{u"AJUSTES", u"SETTING"};
+struct SettingsOption {
+    TextPair caption;
+    TextPair tip;
+};
+inline constexpr std::array<SettingsOption, 5> kSettingsOptions{{
+    {{u" DISEÑO", u" DESIGN"},
+     {u" Apariencia de las letras del juego ", u" Appearance of the player's letters "}},
+    {{u" USAR &WIKIPEDIA", u" USE &WIKIPEDIA"},
+     {u" Abrir Wikipedia en vez de Bing ", u" Open Wikipedia instead of Bing "}},
+    {{u" PUNTAJE &DIFÍCIL", u" HAR&D SCORE"},
+     {u" Juega con mayor dificultad ", u" Play with more difficulty "}},
+    {{u" PUNTAJE &INFINITO", u" &INFINITE SCORE"},
+     {u" Juega sin preocuparte por los puntos ", u" Play without worrying about score "}},
+    {{u" &CONTRA RELOJ", u" AGAINST &CLOCK"},
+     {u" Juega contra reloj ", u" Play against the clock "}},
+}};
+inline constexpr std::array<TextPair, 4> kDesignTips{{
+    {u" Tinta negra ", u" Black ink "},
+    {u" Tinta azul ", u" Blue ink "},
+    {u" Fondo negro ", u" Black background "},
+    {u" Fondo azul ", u" Blue background "},
+}};
+inline constexpr TextPair kBack{u"ATRÁS", u"Back"};
+inline constexpr TextPair kBackTip{u" Regresar a Inicio ", u" Return to Start "};
+
+// Classic entry.
+inline constexpr TextPair kEntryTitle{u"Escriba su frase y tema:", u"Write your phrase and topic:"};
+inline constexpr TextPair kPhraseLabel{u"FRASE", u"PHRASE"};
+inline constexpr TextPair kTopicLabel{u"TEMA", u"TOPIC"};
+inline constexpr TextPair kPhraseTip{u" Frase a jugar ", u" Phrase to play "};
+inline constexpr TextPair kNoTopic{u"(NINGÚN TEMA)", u"(NO TOPIC)"};
+inline constexpr TextPair kOk{u"ACEPTAR", u"OK"};
+inline constexpr TextPair kBadCharacters{
+    u"Tu frase tiene caracteres no permitidos; sólo letras y números.",
+    u"Your phrase has characters not allowed; only letters and numbers."};
+
+// Topic selection.
+inline constexpr TextPair kSelectionTitle{u"Seleccione un tema:", u"Select a topic:"};
+inline constexpr TextPair kTopicsTip{u" Temas cargados en el juego ",
+                                     u"Topics loaded into the game"};
+inline constexpr TextPair kSelectionLabel{u"SELECCIÓN", u"SELECTION:"};
+inline constexpr TextView kChangeModeTip = u" Cambiar modo de selección ";
+inline constexpr std::array<TextPair, 3> kSelectionModes{{
+    {u"MANUAL", u"MANUAL"},
+    {u"REPETICIÓN", u"REPEAT"},
+    {u"TURISTA", u"TOUR"},
+}};
+inline constexpr TextPair kTooFewPhrases{
+    u"El tema seleccionado no tiene suficientes frases, escoge otro.",
+    u"The selected topic does't have enough phrases, choose another one."};
+inline constexpr TextPair kTopicsError{u"Hay un error que impide abrir los temas.",
+                                       u"There is an error that prevents the topics from opening."};
+inline constexpr TextPair kHiddenTopicName{u"(TEMA OCULTO)", u"(HIDDEN TOPIC)"};
+inline constexpr TextView kSpanishTag = u"[ESPAÑOL]";
+
+// Inventor.
+inline constexpr TextView kInventorTitle = u"Quillor | Inventor";
+inline constexpr TextPair kInventorHeading{u"INVENTOR", u"INVENTOR"};
+inline constexpr TextPair kInventorHelpTip{u" Obtén algo de información ", u" Get some information "};
+inline constexpr TextPair kTopicNameLabel{u"NOMBRE DEL TEMA", u"TOPIC NAME"};
+inline constexpr TextPair kFileNameLabel{u"NOMBRE DEL ARCHIVO", u"FILE NAME"};
+inline constexpr TextPair kAddPhrasesLabel{u"AGREGA FRASES O PALABRAS A TU NUEVO TEMA",
+                                           u"ADD PHRASES OR WORDS TO YOUR NEW TOPIC"};
+inline constexpr TextPair kCounterTip{u" Contador ", u" Counter "};
+inline constexpr TextPair kPhraseToAddTip{u" Frase a agregar ", u" Phrase to add "};
+inline constexpr TextPair kAddTip{u" Agregar a la lista ", u" Add to list "};
+inline constexpr TextPair kDeleteTip{u" Remover de la lista ", u" Delete from list "};
+inline constexpr TextPair kPhrasesTip{u" Presionar Intro para GUARDAR Y CREAR ",
+                                      u" Press Return to SAVE & CREATE "};
+inline constexpr TextPair kSave{u"GUARDAR Y CREAR", u"SAVE && CREATE"};
+inline constexpr TextPair kFileNameHelp{
+    u"El nombre del archivo puede ser diferente al nombre del tema, pero en este caso serán casi "
+    u"idénticos.",
+    u"The file name can be different from the topic name, but in this case they will be almost "
+    u"identical."};
+inline constexpr TextPair kBackHelp{
+    u"Puedes regresar a Inicio si usas la tecla 'atrás', debes estar en 'Nombre del tema' en "
+    u"posición cero.",
+    u"You can return to Start if you use the 'back' key, you must be in 'Topic Name' at the zero "
+    u"position."};
+inline constexpr TextPair kAskRestart{u"¿Quieres reiniciar el juego para cargar el nuevo tema?",
+                                      u"Do you want to restart the game to load the new topic?"};
+
+// Spoken names: what a screen reader says of a control whose caption is a
+// symbol, a field or a drawing.
+inline constexpr TextPair kSpokenSounds{u"Sonidos", u"Sounds"};
+inline constexpr TextPair kSpokenClose{u"Cerrar", u"Close"};
+inline constexpr TextPair kSpokenBack{u"Atrás", u"Back"};
+inline constexpr TextPair kSpokenHideNumbers{u"Ocultar números", u"Hide numbers"};
+inline constexpr TextPair kSpokenNumbers{u"Números", u"Numbers"};
+inline constexpr TextPair kSpokenTopicField{u"Tema", u"Topic"};
+inline constexpr TextPair kSpokenPhraseField{u"Frase", u"Phrase"};
+inline constexpr TextPair kSpokenTopicList{u"Temas", u"Topics"};
+inline constexpr TextPair kSpokenPreviousMode{u"Modo de selección anterior",
+                                              u"Previous selection mode"};
+inline constexpr TextPair kSpokenNextMode{u"Modo de selección siguiente", u"Next selection mode"};
+inline constexpr TextPair kSpokenTopicName{u"Nombre del tema", u"Topic name"};
+inline constexpr TextPair kSpokenFileName{u"Nombre del archivo", u"File name"};
+inline constexpr TextPair kSpokenPhraseToAdd{u"Frase a agregar", u"Phrase to add"};
+inline constexpr TextPair kSpokenPhrases{u"Frases", u"Phrases"};
+inline constexpr TextPair kSpokenAdd{u"Agregar", u"Add"};
+inline constexpr TextPair kSpokenDelete{u"Remover", u"Delete"};
+inline constexpr TextPair kSpokenHelp{u"Información", u"Information"};
+
+}  // namespace texts
+}  // namespace quillor

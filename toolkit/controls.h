@@ -1,0 +1,225 @@
+// What a screen is made of. Controls are plain values: a handler changes them,
+// and the shell shows the difference after the event.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "core/types.h"
+#include "toolkit/keys.h"
+
+namespace quillor {
+
+struct Frame;
+
+/// Which of the program's typefaces a text is drawn in.
+enum class Face {
+    Plain,      // the system's own, for messages and fields
+    Display,    // the rounded bold display font
+    Comic,      // the figure's face
+    Webdings,   // symbols: the shell draws the picture that the letter stands for
+    Wingdings,  // the same
+};
+
+struct Font {
+    Face face = Face::Plain;
+    float size = 10;  // points (20 twips)
+    bool bold = false;
+};
+
+enum class Align { Left, Center, Right };
+
+/// What every control has. Lengths are twips, relative to the parent.
+struct Control {
+    std::string id;           // its name in the code, e.g. "lblKey(5)"; unique in the program
+    Frame* parent = nullptr;  // null: stands on the screen itself
+    Twips left = 0;
+    Twips top = 0;
+    Twips width = 0;
+    Twips height = 0;
+    bool visible = true;
+    bool enabled = true;
+    Text toolTip;
+    Text spokenName;  // accessible name where the caption is a symbol or there is none
+
+    void place(Twips x, Twips y, Twips w, Twips h) {
+        left = x;
+        top = y;
+        width = w;
+        height = h;
+    }
+    Twips right() const { return left + width; }
+    Twips bottom() const { return top + height; }
+};
+
+/// What a label is to someone who cannot see it.
+enum class LabelRole {
+    Text,          // read, not pressed
+    Button,        // pressed by click, by Space, or as the screen says
+    CheckBox,      // a button whose `checked` is spoken
+    RadioButton,   // the same, one of several
+    Notification,  // spoken when its caption changes, never drawn
+};
+
+struct Label : Control {
+    Text caption;
+    Font font;
+    Color textColor = 0;
+    Color backColor = 0;
+    bool opaque = false;  // fills its rectangle with backColor
+    Align align = Align::Center;
+    bool wordWrap = false;
+    LabelRole role = LabelRole::Text;
+    bool checked = false;
+    bool tabStop = true;  // for buttons: reached by Tab
+
+    std::function<void()> onClick;  // left button released over it, Space, or assistive press
+    std::function<void()> onRightClick;
+    std::function<void()> onMouseDown;  // left button
+    std::function<void()> onMouseUp;
+    std::function<void()> onMouseMove;  // also when the mouse enters it
+};
+
+enum class ShapeKind { Rectangle, RoundedRectangle, Oval };
+
+struct Shape : Control {
+    ShapeKind kind = ShapeKind::RoundedRectangle;
+    Color backColor = 0;
+    bool filled = true;
+    Color borderColor = 0;
+    Twips borderWidth = 0;  // 0: no border
+    Twips radius = 120;     // of rounded corners
+};
+
+/// Drawn with round ends. Its place is x1..y2; the rectangle of Control is unused.
+struct Line : Control {
+    Twips x1 = 0;
+    Twips y1 = 0;
+    Twips x2 = 0;
+    Twips y2 = 0;
+    Color color = 0;
+    Twips thickness = 30;
+
+    void span(Twips fromX, Twips fromY, Twips toX, Twips toY) {
+        x1 = fromX;
+        y1 = fromY;
+        x2 = toX;
+        y2 = toY;
+    }
+};
+
+/// A decoded picture; only the shell knows what is inside.
+class Image {
+  public:
+    virtual ~Image() = default;
+};
+using ImageRef = std::shared_ptr<const Image>;
+
+/// Shows its image cropped to fill, never distorted; without an image, the
+/// program's own notebook page.
+struct Picture : Control {
+    ImageRef image;
+    std::function<void()> onRightClick;
+    std::function<void()> onMouseMove;
+};
+
+/// A panel that other controls stand on. Transparent unless `opaque`.
+struct Frame : Control {
+    Color backColor = 0;
+    bool opaque = false;
+    std::function<void()> onMouseMove;
+};
+
+/// One line of text to type.
+struct TextField : Control {
+    Font font;
+    Color textColor = 0;
+    Color backColor = rgb(255, 255, 255);
+    int maxLength = 0;  // characters; 0: no limit
+
+    std::function<void(KeyEvent&)> onKeyDown;
+    /// The character to let through in place of the typed one; 0 swallows it.
+    std::function<char16_t(char16_t)> onKeyPress;
+    std::function<void()> onChange;  // by the player or by setText
+    std::function<void()> onGotFocus;
+    std::function<void()> onLostFocus;
+
+    const Text& text() const { return text_; }
+    int caret() const { return caret_; }  // where the selection begins, in characters
+    int selectionLength() const { return selectionLength_; }
+    Text selectedText() const;
+
+    /// Sets the text, cut to maxLength; the caret is held within it and nothing
+    /// is selected. Raises onChange when the text differs.
+    void setText(Text text);
+    void setCaret(int caret) { select(caret, 0); }
+    /// Both are held within the text.
+    void select(int start, int length);
+    void selectAll() { select(0, static_cast<int>(text_.size())); }
+
+    /// What the player did in the field; for the shell. Raises onChange when
+    /// the text differs.
+    void userEdited(Text text, int selectionStart, int selectionLength);
+
+  private:
+    Text text_;
+    int caret_ = 0;
+    int selectionLength_ = 0;
+};
+
+/// A single-column list with at most one selected entry.
+struct ListBox : Control {
+    Font font;
+    std::vector<Text> items;
+
+    std::function<void()> onClick;  // an entry was selected, by the player or by select
+    std::function<void()> onDoubleClick;
+    std::function<void(KeyEvent&)> onKeyDown;
+
+    int listIndex() const { return listIndex_; }  // -1: none
+    /// Selects an entry and raises onClick. Throws std::out_of_range for a
+    /// position outside -1..items-1; -1 selects nothing and raises nothing.
+    void select(int index);
+    /// Removes an entry; nothing is selected after it.
+    void removeItem(int index);
+    void clear();
+
+  private:
+    int listIndex_ = -1;
+};
+
+/// An entry of a menu; with children it is a submenu.
+struct MenuItem {
+    std::string id;
+    Text caption;  // empty: a separator
+    Text shortcut;  // as shown beside the caption, e.g. "Ctrl+E"; the screen handles the key
+    bool checkable = false;
+    bool checked = false;
+    bool enabled = true;
+    std::vector<MenuItem*> children;
+    std::function<void()> onClick;
+};
+
+/// Served at a resolution of about 15 ms: a shorter interval counts as that.
+inline constexpr int kTimerResolution = 15;
+
+struct Timer {
+    std::string id;
+    int interval = 0;  // ms
+    bool enabled = false;
+    std::function<void()> onTick;
+
+    int servedInterval() const { return interval < kTimerResolution ? kTimerResolution : interval; }
+};
+
+using ControlRef = std::variant<Label*, Shape*, Line*, Picture*, Frame*, TextField*, ListBox*>;
+
+/// The part that all kinds share.
+inline Control& controlOf(const ControlRef& ref) {
+    return *std::visit([](auto* control) -> Control* { return control; }, ref);
+}
+
+}  // namespace quillor

@@ -1,0 +1,75 @@
+// The short list of things that screens ask of the machine.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <span>
+
+#include "core/types.h"
+#include "toolkit/controls.h"
+#include "toolkit/screen.h"
+
+namespace quillor {
+
+enum class MessageIcon { Information, Critical };
+
+/// The time of day. A restarted or corrected system clock may jump.
+struct TimeOfDay {
+    int hour = 0;
+    int minute = 0;
+    int second = 0;
+};
+
+/// Injected by reference into everything that needs it. Calls that show a box
+/// return when it has been answered; timers go on meanwhile, so the caller
+/// looks at the state again before it acts.
+class Desktop {
+  public:
+    virtual ~Desktop() = default;
+
+    virtual void messageBox(MessageIcon icon, TextView text) = 0;
+    /// Yes or No; closing the box is No.
+    virtual bool question(TextView text) = 0;
+    /// What was typed; empty when the box was cancelled.
+    virtual Text inputBox(TextView prompt) = 0;
+    virtual void aboutBox(TextView title, TextView text) = 0;
+
+    virtual Text clipboard() = 0;
+    virtual void setClipboard(TextView text) = 0;
+
+    /// Whether text in that font would really be drawn in it.
+    virtual bool fontPresent(TextView name) = 0;
+    /// Throws std::runtime_error when it is no picture.
+    virtual ImageRef loadPicture(const std::filesystem::path& file) = 0;
+
+    /// Hands a file or an address to the system's handler. Says nothing when it fails.
+    virtual void open(const std::filesystem::path& file) = 0;
+    virtual void openAddress(TextView address) = 0;
+
+    /// A carried sound, 101..107, as a whole WAVE image; empty when it cannot be had.
+    virtual std::span<const std::byte> sound(int id) = 0;
+    /// Plays a WAVE image to its end; returns at once where it cannot be played.
+    virtual void playWave(std::span<const std::byte> image) = 0;
+
+    virtual TimeOfDay timeOfDay() = 0;
+    /// Uniform in [0, 1), from the one generator.
+    virtual double random() = 0;
+    /// Seeds the generator from the clock.
+    virtual void seedRandom() = 0;
+
+    /// Shows a loaded screen; the screen stays with its owner.
+    virtual void show(Screen& screen) = 0;
+    /// Hides a screen for good; it is destroyed after the current event.
+    virtual void close(Screen& screen) = 0;
+    /// Pops up the menu at the mouse, or at the focused control when it was
+    /// asked for by key; returns after an entry was chosen and has run.
+    virtual void popUp(Screen& screen, MenuItem& menu) = 0;
+
+    /// Starts the program's own executable anew.
+    virtual void startProgram() = 0;
+    /// Ends the run: control returns to the caller, no further event is delivered.
+    virtual void end() = 0;
+};
+
+}  // namespace quillor

@@ -1,0 +1,38 @@
+// Keys as screens know them: virtual key codes, the same on every system.
+#pragma once
+
+namespace quillor {
+
+/// Letters are the codes of their capitals, 65..90; digits 48..57.
+namespace key {
+inline constexpr int kBackspace = 8;
+inline constexpr int kReturn = 13;  // main and keypad
+inline constexpr int kEscape = 27;
+inline constexpr int kLeft = 37;
+inline constexpr int kRight = 39;
+inline constexpr int kDelete = 46;
+inline constexpr int kContextMenu = 93;
+inline constexpr int kKeypad0 = 96;  // keypad digits are 96..105
+inline constexpr int kF2 = 113;
+inline constexpr int kF3 = 114;
+}  // namespace key
+
+/// A key going down. A handler that sets `handled` keeps the key from the
+/// control that has the focus and from becoming a character.
+struct KeyEvent {
+    int code = 0;
+    bool shift = false;
+    bool control = false;
+    bool alt = false;
+    bool autoRepeat = false;  // the key is held down
+    bool handled = false;
+
+    /// Control and nothing else.
+    bool onlyControl() const { return control && !shift && !alt; }
+};
+
+/// Characters of key presses that are no printable text.
+inline constexpr char16_t kCharBackspace = 8;
+inline constexpr char16_t kCharReturn = 13;
+
+}  // namespace quillor

@@ -1,0 +1,97 @@
+// One screen of the program: its controls, timers and menus, and the events
+// that the shell, or a test in its place, delivers to it.
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "toolkit/control_array.h"
+#include "toolkit/controls.h"
+
+namespace quillor {
+
+class Screen {
+  public:
+    explicit Screen(std::string screenName) : name(std::move(screenName)) {}
+    virtual ~Screen() = default;
+    Screen(const Screen&) = delete;
+    Screen& operator=(const Screen&) = delete;
+
+    const std::string name;  // e.g. "frmGame"
+    Text title;
+    Twips width = 0;
+    Twips height = 0;
+    bool enabled = true;              // false while a screen stands over it
+    const Screen* over = nullptr;     // the screen that this one stands over, if any
+    bool bare = false;                // shown without the system's title bar
+
+    /// From back to front; a control stands in front of its frame.
+    const std::vector<ControlRef>& controls() const { return controls_; }
+    const std::vector<Timer*>& timers() const { return timers_; }
+
+    /// The control that has the focus when the screen opens, and that gets it
+    /// back when the focused one is hidden; null: none.
+    virtual Control* initialFocus() { return nullptr; }
+    /// Asks the shell to move the focus to a control after this event.
+    void setFocus(Control& control) { focusRequest_ = &control; }
+    /// The pending wish of setFocus, which this call clears; null: none.
+    Control* takeFocusRequest() { return std::exchange(focusRequest_, nullptr); }
+
+    /// The picture behind the screen, handed on from screen to screen.
+    virtual void takePaper(const ImageRef& paper) = 0;
+
+    // What happens to a screen. Each runs the screen's own handler under the
+    // guard: an unexpected error ends the handler, not the program.
+    void load();
+    void unload();
+    void keyDown(KeyEvent& event);
+    void keyPress(char16_t character);
+    void closeRequest();  // the title bar's close button
+    void click(Label& label);
+    void rightClick(Label& label);
+    void rightClick(Picture& picture);
+    void mouseDown(Label& label);
+    void mouseUp(Label& label);
+    void mouseMove(Control& control);  // ends at the first handler from the control to its frames
+    void choose(MenuItem& item);
+    void tick(Timer& timer);
+    void edit(TextField& field, Text text, int selectionStart, int selectionLength);
+    void fieldKeyDown(TextField& field, KeyEvent& event);
+    char16_t fieldKeyPress(TextField& field, char16_t character);
+    void focusChanged(TextField& field, bool gained);
+    void selectItem(ListBox& list, int index);
+    void doubleClick(ListBox& list);
+    void listKeyDown(ListBox& list, KeyEvent& event);
+
+  protected:
+    virtual void onLoad() = 0;
+    virtual void onUnload() {}
+    virtual void onKeyDown(KeyEvent&) {}
+    virtual void onKeyPress(char16_t) {}
+    virtual void onCloseRequest() = 0;
+
+    /// Puts a control in front of those added before it.
+    template <typename T>
+    T& add(T& control, Frame* parent = nullptr) {
+        control.parent = parent;
+        controls_.emplace_back(&control);
+        return control;
+    }
+    template <typename T, int First, int Last>
+    void add(ControlArray<T, First, Last>& array, Frame* parent = nullptr) {
+        for (T& control : array)
+            add(control, parent);
+    }
+    void add(Timer& timer) { timers_.push_back(&timer); }
+
+    // The parts of a large screen add their own controls.
+    friend class ScreenPart;
+
+  private:
+    std::vector<ControlRef> controls_;
+    std::vector<Timer*> timers_;
+    Control* focusRequest_ = nullptr;
+};
+
+}  // namespace quillor

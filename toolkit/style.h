@@ -1,0 +1,29 @@
+// The measures that all screens share, so that they look like one program.
+#pragma once
+
+#include "core/types.h"
+#include "toolkit/controls.h"
+
+namespace quillor::style {
+
+/// Everything stands on multiples of this.
+inline constexpr Twips kGrid = 60;
+/// From a screen's edge to what stands on it.
+inline constexpr Twips kMargin = 360;
+
+/// The four large screens have one size, so that the window stays as it is
+/// when one follows the other.
+inline constexpr Twips kScreenWidth = 15360;
+inline constexpr Twips kScreenHeight = 9360;
+
+inline constexpr Twips kButtonRadius = 150;
+
+inline constexpr Font kHeading{Face::Display, 30, true};
+inline constexpr Font kButton{Face::Display, 17, true};
+inline constexpr Font kSmallButton{Face::Display, 13, true};
+inline constexpr Font kBarText{Face::Display, 14, true};
+inline constexpr Font kText{Face::Display, 12, true};
+inline constexpr Font kField{Face::Plain, 14, false};
+inline constexpr Font kSymbol{Face::Webdings, 20, false};
+
+}  // namespace quillor::style
