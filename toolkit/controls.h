@@ -70,6 +70,7 @@ struct Label : Control {
     Color textColor = 0;
     Color backColor = 0;
     bool opaque = false;  // fills its rectangle with backColor
+    Twips cornerRadius = 0;  // of that rectangle
     Align align = Align::Center;
     bool wordWrap = false;
     LabelRole role = LabelRole::Text;

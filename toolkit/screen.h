@@ -24,7 +24,6 @@ class Screen {
     Twips height = 0;
     bool enabled = true;              // false while a screen stands over it
     const Screen* over = nullptr;     // the screen that this one stands over, if any
-    bool bare = false;                // shown without the system's title bar
 
     /// From back to front; a control stands in front of its frame.
     const std::vector<ControlRef>& controls() const { return controls_; }

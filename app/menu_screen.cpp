@@ -1,0 +1,125 @@
+#include "app/menu_screen.h"
+
+namespace quillor {
+
+namespace {
+
+int buttonOf(int label) {
+    return label < frmMenu::kFirstButton ? label + frmMenu::kFirstButton : label;
+}
+
+}  // namespace
+
+frmMenu::frmMenu(Program& program)
+    : Screen("frmMenu"), program_(program), settings_(program.settings) {
+    layOut();
+    connect();
+}
+
+void frmMenu::connect() {
+    for (int i = 0; i <= kLastButton; ++i) {
+        lblOption(i).onClick = [this, i] { choose(i); };
+        lblOption(i).onMouseMove = [this, i] { hover(i); };
+        lblOption(i).onMouseDown = [this, i] { press(i); };
+        lblOption(i).onMouseUp = [this, i] { release(i); };
+    }
+    imgBack.onMouseMove = [this] { eFallColor(); };
+}
+
+void frmMenu::onLoad() {
+    eTranslate();
+    eFallColor();
+}
+
+void frmMenu::eTranslate() {
+    title = program_.lang(texts::kMenuTitle);
+    lblWelcome.caption = program_.lang(texts::kMenuHeading);
+    for (int i = 0; i < kOptions; ++i) {
+        const auto& option = texts::kMenuOptions.at(static_cast<std::size_t>(i));
+        Label& button = lblOption(i + kFirstButton);
+        lblOption(i).caption = program_.lang(option.caption);
+        lblOption(i).toolTip = button.toolTip = program_.lang(option.tip);
+        button.spokenName = lblOption(i).caption;
+        std::erase(button.spokenName, u'&');
+    }
+}
+
+Color frmMenu::restColor(int button) const {
+    return button == kFirstButton ? settings_.glRed : settings_.glTheme;
+}
+
+void frmMenu::eFallColor() {
+    for (int button = kFirstButton; button <= kLastButton; ++button)
+        shpOption(button).backColor = restColor(button);
+    hovered_ = kNoButton;
+}
+
+void frmMenu::hover(int label) {
+    const int button = buttonOf(label);
+    if (pressed_ || button == hovered_)
+        return;
+    eFallColor();
+    hovered_ = button;
+    shpOption(button).backColor = settings_.glGreen;
+}
+
+void frmMenu::press(int label) {
+    rememberedColor_ = lblOption(label).backColor;
+    rememberedOpaque_ = lblOption(label).opaque;
+    Label& button = lblOption(buttonOf(label));
+    button.backColor = settings_.glGreen - rgb(0, 30, 0);
+    button.opaque = true;
+    pressed_ = true;
+}
+
+// The label released gets the remembered colour, not the button behind it: a
+// click closes the screen anyway.
+void frmMenu::release(int label) {
+    lblOption(label).backColor = rememberedColor_;
+    lblOption(label).opaque = rememberedOpaque_;
+    pressed_ = false;
+}
+
+void frmMenu::open(ScreenId screen) { program_.show(screen).takePaper(imgBack.image); }
+
+void frmMenu::choose(int option) {
+    switch (buttonOf(option)) {
+        case kFirstButton:
+            settings_.gbClassicMode = false;
+            open(ScreenId::Game);
+            break;
+        case kFirstButton + 1:
+            settings_.gbClassicMode = true;
+            open(ScreenId::Game);
+            break;
+        case kFirstButton + 2:
+            open(ScreenId::Inventor);
+            break;
+        default:
+            open(ScreenId::Options);
+            break;
+    }
+    program_.close(*this);
+}
+
+void frmMenu::onKeyDown(KeyEvent& event) {
+    switch (event.code) {
+        case 'A':
+            choose(0);
+            break;
+        case 'C':
+            choose(1);
+            break;
+        case 'I':
+            choose(2);
+            break;
+        case 'S':
+            choose(3);
+            break;
+        default:
+            return;
+    }
+    event.handled = true;
+}
+
+}  // namespace quillor

@@ -1,0 +1,52 @@
+// The main menu: every mode is reached from here.
+#pragma once
+
+#include "app/program.h"
+#include "toolkit/screen.h"
+
+namespace quillor {
+
+class frmMenu : public Screen {
+  public:
+    explicit frmMenu(Program& program);
+
+    void takePaper(const ImageRef& paper) override { imgBack.image = paper; }
+    Control* initialFocus() override { return &lblOption(kFirstButton); }
+
+    static constexpr int kOptions = 4;      // 0..3 are the captions
+    static constexpr int kFirstButton = 4;  // 4..7 the buttons they stand on
+    static constexpr int kLastButton = 7;
+
+    Picture imgBack;
+    Label lblWelcome;
+    ControlArray<Shape, kFirstButton, kLastButton> shpOption{"shpOption"};
+    ControlArray<Label, 0, kLastButton> lblOption{"lblOption"};
+
+  protected:
+    void onLoad() override;
+    void onKeyDown(KeyEvent& event) override;
+    void onCloseRequest() override { program_.end(); }
+
+  private:
+    void layOut();  // menu_layout.cpp
+    void connect();
+    void eTranslate();
+    void eFallColor();
+    void open(ScreenId screen);
+    void choose(int option);
+    void hover(int label);
+    void press(int label);
+    void release(int label);
+    Color restColor(int button) const;
+
+    static constexpr int kNoButton = 8;
+
+    Program& program_;
+    GameSettings& settings_;
+    int hovered_ = kNoButton;
+    bool pressed_ = false;
+    Color rememberedColor_ = 0;
+    bool rememberedOpaque_ = false;
+};
+
+}  // namespace quillor

@@ -1,0 +1,82 @@
+// Where everything on the start screen stands, in twips.
+#include "app/start_screen.h"
+#include "toolkit/style.h"
+#include "toolkit/symbols.h"
+
+namespace quillor {
+
+void frmStart::layOut() {
+    constexpr Twips kWidth = 7860;
+    constexpr Twips kHeight = 4500;
+    title = texts::kProgramName;
+    width = kWidth;
+    height = kHeight;
+
+    add(imgBack(0)).place(0, 0, kWidth, kHeight);
+
+    // The end of the name slides out from behind the title frame, which shows
+    // the same picture as the screen and so seems not to be there.
+    lblSub.id = "lblSub";
+    lblSub.caption = u"or";
+    lblSub.font = {Face::Display, 54, true};
+    lblSub.align = Align::Left;
+    add(lblSub).place(3000, 1020, 1440, 1260);
+    frmeTitle.id = "frmeTitle";
+    add(frmeTitle).place(0, 900, 4470, 1680);
+    add(imgBack(1), &frmeTitle).place(0, -900, kWidth, kHeight);
+    lblName.id = "lblName";
+    lblName.caption = u"Quill";
+    lblName.font = lblSub.font;
+    lblName.textColor = rgb(40, 40, 40);
+    lblName.align = Align::Right;
+    add(lblName, &frmeTitle).place(1050, 120, 3420, 1260);
+    lblMarca.id = "lblMarca";
+    lblMarca.caption = u"Quillor developers";
+    lblMarca.font = {Face::Display, 9, true};
+    lblMarca.textColor = rgb(110, 110, 110);
+    lblMarca.align = Align::Left;
+    add(lblMarca, &frmeTitle).place(1920, 1380, 2520, 240);
+
+    lnGo.id = "lnGo";
+    lnGo.thickness = 60;
+    lnGo.span(1920, 2820, 1950, 2820);
+    add(lnGo);
+
+    frmeFont.id = "frmeFont";
+    frmeFont.visible = false;
+    frmeFont.opaque = true;
+    frmeFont.backColor = rgb(250, 250, 250);
+    add(frmeFont).place(0, 3000, kWidth, 1500);
+    lblManual.id = "lblManual";
+    lblManual.font = {Face::Plain, 11, false};
+    lblManual.textColor = rgb(40, 40, 40);
+    lblManual.wordWrap = true;
+    add(lblManual, &frmeFont).place(600, 120, kWidth - 1200, 480);
+    shpAction.id = "shpAction";
+    shpAction.filled = false;
+    shpAction.backColor = rgb(200, 200, 200);
+    shpAction.borderColor = rgb(20, 140, 220);
+    shpAction.borderWidth = 30;
+    shpAction.radius = style::kButtonRadius;
+    add(shpAction, &frmeFont).place(2220, 720, 3420, 540);
+    lblAction.id = "lblAction";
+    lblAction.font = {Face::Plain, 12, true};
+    lblAction.textColor = rgb(20, 100, 170);
+    lblAction.role = LabelRole::Button;
+    add(lblAction, &frmeFont).place(2220, 720, 3420, 540);
+
+    lblEsc.id = "lblEsc";
+    lblEsc.caption = symbols::kCross;
+    lblEsc.font = {Face::Webdings, 12, false};
+    lblEsc.textColor = rgb(90, 90, 90);
+    lblEsc.backColor = rgb(200, 200, 200);
+    lblEsc.role = LabelRole::Button;
+    add(lblEsc, &frmeFont).place(kWidth - 480, 120, 360, 360);
+
+    tmrBar.id = "tmrBar";
+    tmrBar.interval = 20;
+    tmrBar.enabled = true;
+    add(tmrBar);
+}
+
+}  // namespace quillor

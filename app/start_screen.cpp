@@ -1,0 +1,179 @@
+#include "app/start_screen.h"
+
+#include "core/files.h"
+#include "core/numbers.h"
+#include "core/settings_file.h"
+#include "core/topic_library.h"
+
+namespace quillor {
+
+namespace {
+
+constexpr Twips kLineFull = 5800;
+constexpr Twips kLineStep = 120;
+constexpr Twips kSubStart = 3000;
+constexpr Twips kSubTurn = 4450;  // where the subtitle bounces back
+constexpr Twips kSubStep = 100;
+constexpr Twips kSubBounce = 30;
+
+constexpr std::size_t kColorFileLines = 10'000;  // the last of them wins; far beyond any real file
+constexpr TextView kMakersPage = u"https://quillor.example/software";
+
+}  // namespace
+
+frmStart::frmStart(Program& program)
+    : Screen("frmStart"), program_(program), settings_(program.settings) {
+    layOut();
+    connect();
+}
+
+Control* frmStart::initialFocus() { return frmeFont.visible ? &lblAction : nullptr; }
+
+void frmStart::takePaper(const ImageRef& paper) { imgBack(0).image = imgBack(1).image = paper; }
+
+void frmStart::connect() {
+    tmrBar.onTick = [this] { tmrBar_Timer(); };
+    lblAction.onClick = [this] { lblAction_Click(); };
+    lblAction.onMouseDown = [this] { shpAction.filled = true; };
+    lblAction.onMouseUp = [this] { shpAction.filled = false; };
+    lblEsc.onClick = [this] { program_.end(); };
+    lblEsc.onMouseDown = [this] { lblEsc.opaque = true; };
+    lblEsc.onMouseUp = [this] { lblEsc.opaque = false; };
+}
+
+void frmStart::onLoad() {
+    // The reset comes first: it clears theme and language, which are set after it.
+    eResetGlobalVariables(settings_);
+    mbFontMissing_ = mbSubBounced_ = mbRebootReady_ = false;
+    setPalette(settings_);
+    readColorFile();
+    loadPicture();
+    colourScreen();
+    settings_.giTourStart = 0;
+    chooseLanguage();
+    checkFont();
+    repairTopicFolder();
+    eLoadWords(settings_, program_.folder);
+    writeFirstSettings();
+}
+
+void frmStart::readColorFile() {
+    const auto file = program_.folder / "Color.txt";
+    if (!eFileExists(file))
+        return;
+    for (const Text& line : readLines(file, kColorFileLines))
+        settings_.glTheme = toLong(leadingNumber(line));
+    if (settings_.glTheme == 0)
+        settings_.glTheme = settings_.glThemeNow;
+    settings_.glThemeNow = settings_.glTheme;
+}
+
+void frmStart::loadPicture() {
+    const auto file = program_.folder / "Pic.jpg";
+    if (eFileExists(file))
+        takePaper(program_.desktop.loadPicture(file));
+}
+
+void frmStart::colourScreen() {
+    lnGo.color = settings_.glThemeNow;
+    lblName.backColor = settings_.glWhite;
+    lblSub.textColor = settings_.glTheme;
+    lblSub.left = kSubStart;
+    // The picture inside the frame lines up with the one behind it.
+    imgBack(1).left = -frmeTitle.left;
+    imgBack(1).top = -frmeTitle.top;
+    frmeFont.left = 0;
+}
+
+void frmStart::chooseLanguage() {
+    settings_.gbEnglish = eFileExists(program_.folder / "English.txt");
+    eTranslate();
+}
+
+void frmStart::eTranslate() {
+    lblManual.caption = program_.lang(texts::kFontMissing);
+    lblAction.caption = program_.lang(texts::kSearchFont);
+    lblEsc.toolTip = program_.lang(texts::kCloseTip);
+    lblEsc.spokenName = program_.lang(texts::kSpokenClose);
+}
+
+void frmStart::checkFont() {
+    mbFontMissing_ = !program_.desktop.fontPresent(texts::kDisplayFont);
+    if (mbFontMissing_ && eFileExists(program_.folder / "ARLRDBD.ttf"))
+        lblAction.caption = program_.lang(texts::kOpenFont);
+}
+
+void frmStart::repairTopicFolder() {
+    const auto folder = topicFolder(settings_, program_.folder);
+    if (!eFileExists(folder)) {
+        std::filesystem::create_directory(folder);
+        eWriteDemoTopic(settings_, program_.folder);
+    }
+    if (topicFiles(folder).empty())
+        eWriteDemoTopic(settings_, program_.folder);
+}
+
+void frmStart::writeFirstSettings() {
+    if (eFileExists(settingsFile(program_.folder)))
+        return;
+    settings_.giDesign = 0;
+    settings_.giTopicIndex = 0;
+    settings_.giSavedTopic = 0;
+    settings_.gbUseSounds = true;
+    settings_.gbFirstLetter = true;
+    settings_.gbSettingsLoaded = true;
+    eSaveSettings(settings_, program_.folder);
+}
+
+void frmStart::tmrBar_Timer() {
+    if (lnGo.x2 >= kLineFull) {
+        eGoForm();
+        return;
+    }
+    lnGo.x2 += kLineStep;
+    if (lblSub.left < kSubTurn) {
+        if (!mbSubBounced_)
+            lblSub.left += kSubStep;
+        return;
+    }
+    if (!mbSubBounced_)
+        lblSub.left -= kSubBounce;
+    mbSubBounced_ = true;
+}
+
+void frmStart::eGoForm() {
+    if (mbFontMissing_) {
+        tmrBar.enabled = false;
+        frmeFont.visible = true;
+        setFocus(lblAction);
+        return;
+    }
+    settings_.giScore = kFirstScore;
+    settings_.giScoreKept = kFirstScore;
+    program_.show(ScreenId::Menu).takePaper(imgBack(0).image);
+    program_.close(*this);
+}
+
+void frmStart::lblAction_Click() {
+    if (mbRebootReady_) {
+        program_.desktop.startProgram();
+        program_.end();
+        return;
+    }
+    const auto fontFile = program_.folder / "ARLRDBD.ttf";
+    if (eFileExists(fontFile))
+        program_.desktop.open(fontFile);
+    else
+        program_.desktop.openAddress(kMakersPage);
+    lblAction.caption = program_.lang(texts::kRebootGame);
+    mbRebootReady_ = true;
+}
+
+void frmStart::onKeyDown(KeyEvent& event) {
+    if (frmeFont.visible && (event.code == 'R' || event.code == 'F')) {
+        event.handled = true;
+        lblAction_Click();
+    }
+}
+
+}  // namespace quillor
