@@ -1,0 +1,49 @@
+#!/usr/bin/env bash
+# Builds Quillor and plays it: ./run.sh [OPTION OF THE PROGRAM...]
+# Where there is no screen it plays a scripted tour instead and leaves pictures.
+set -euo pipefail
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+# shellcheck source=scripts/packages.sh
+. "$root/scripts/packages.sh"
+
+# Whether a window could be opened here.
+have_screen() {
+    [ "$(uname)" != Darwin ] || return 0
+    if [ -n "${WAYLAND_DISPLAY:-}" ] && [ -S "${XDG_RUNTIME_DIR:-/run}/$WAYLAND_DISPLAY" ]; then
+        return 0
+    fi
+    case "${DISPLAY:-}" in
+        "") return 1 ;;
+        :*) local number=${DISPLAY#:}; [ -S "/tmp/.X11-unix/X${number%%.*}" ] ;;
+        *) return 0 ;; # another machine's screen
+    esac
+}
+
+build() {
+    cd "$root"
+    use_ccache
+    cmake --preset release >build/configure.log || { cat build/configure.log; return 1; }
+    cmake --build --preset release
+    cmake --install build/release >/dev/null
+}
+
+tour() {
+    local pictures="$root/build/tour"
+    echo "There is no screen here, so Quillor shows itself on a virtual one."
+    install_packages "${packages_virtual_display[@]}"
+    rm -rf "$pictures"
+    mkdir -p "$pictures"
+    "$root/scripts/virtual-display.sh" "$program" --tour "$pictures" "$@"
+    find "$pictures" -name '*.png' | sort
+}
+
+install_packages "${packages_play[@]}"
+mkdir -p "$root/build"
+(build)
+program="$root/build/install/quillor"
+if have_screen; then
+    exec "$program" "$@"
+else
+    tour "$@"
+fi
