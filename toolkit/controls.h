@@ -57,7 +57,7 @@ struct Control {
 
 /// What a label is to someone who cannot see it.
 enum class LabelRole {
-    Text,          // read, not pressed
+    Plain,         // read, not pressed
     Button,        // pressed by click, by Space, or as the screen says
     CheckBox,      // a button whose `checked` is spoken
     RadioButton,   // the same, one of several
@@ -73,7 +73,7 @@ struct Label : Control {
     Twips cornerRadius = 0;  // of that rectangle
     Align align = Align::Center;
     bool wordWrap = false;
-    LabelRole role = LabelRole::Text;
+    LabelRole role = LabelRole::Plain;
     bool checked = false;
     bool tabStop = true;  // for buttons: reached by Tab
 

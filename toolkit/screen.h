@@ -41,7 +41,8 @@ class Screen {
     virtual void takePaper(const ImageRef& paper) = 0;
 
     // What happens to a screen. Each runs the screen's own handler under the
-    // guard: an unexpected error ends the handler, not the program.
+    // guard: an unexpected error ends the handler, not the program. A screen
+    // that is not enabled, and a control that is not, take no input.
     void load();
     void unload();
     void keyDown(KeyEvent& event);
@@ -84,10 +85,9 @@ class Screen {
     }
     void add(Timer& timer) { timers_.push_back(&timer); }
 
-    // The parts of a large screen add their own controls.
-    friend class ScreenPart;
-
   private:
+    void input(const Control& control, const char* event, const std::function<void()>& handler);
+
     std::vector<ControlRef> controls_;
     std::vector<Timer*> timers_;
     Control* focusRequest_ = nullptr;
