@@ -16,13 +16,26 @@ bool eFileExists(const std::filesystem::path& path);
 /// The file's bytes. Throws std::runtime_error when it is no readable file.
 std::string readFile(const std::filesystem::path& path);
 
+/// The start of a text file, however large it is: all bytes of its first `lines`
+/// lines and at least one more where there are more. Throws std::runtime_error
+/// when it is no readable file or those lines take more than 64 MiB.
+std::string readFileStart(const std::filesystem::path& path, std::size_t lines);
+
 /// Replaces the file whole or leaves it as it was: temporary file beside it,
-/// flush to the disk, rename. Throws std::runtime_error.
+/// flush, rename. Throws std::runtime_error; a folder or a read-only file is
+/// not replaced.
 void writeFile(const std::filesystem::path& path, std::string_view bytes);
 
-/// The lines of a text file, without their ends: CR LF, lone LF or lone CR. A
-/// line end at the very end of the file starts no further line.
-/// At most `most` lines are split off; the rest of the file is ignored.
+/// The lines of a text, without their ends: CR LF, lone LF or lone CR. A line
+/// end at the very end starts no further line.
+struct SplitLines {
+    std::vector<Text> lines;  // at most as many as asked for
+    bool more = false;        // there was a further line
+};
+/// Splits bytes and decodes what is kept; the rest is not looked at.
+SplitLines splitLines(std::string_view bytes, std::size_t most);
+
+/// The first lines of a text file, at most `most`. Throws as readFileStart does.
 std::vector<Text> readLines(const std::filesystem::path& path, std::size_t most);
 
 /// The lines with CR LF after each, the last one included.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string_view>
 #include <vector>
 
 #include "core/game_settings.h"
@@ -18,6 +19,14 @@ std::vector<std::filesystem::path> topicFiles(const std::filesystem::path& folde
 
 /// Writes the sample topic of the record's language, replacing it. Fails silently.
 void eWriteDemoTopic(const GameSettings& settings, const std::filesystem::path& programFolder);
+
+/// What a topic file's bytes hold.
+struct ParsedTopic {
+    Topic topic;           // in capitals
+    int lines = 0;         // how many of its lines the file has, 0..51
+    bool tooLong = false;  // there is a 52nd line, which does not fit
+};
+ParsedTopic parseTopic(std::string_view bytes);
 
 /// Loads every topic file into the record. Loading ends quietly at the first
 /// file that cannot be read or has a 52nd line; topics loaded before it, and
