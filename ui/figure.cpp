@@ -1,0 +1,94 @@
+#include "ui/figure.h"
+
+#include <utility>
+
+namespace quillor {
+
+Figure::Figure(GameSettings& settings, const Strikes& strikes, Sounds& sounds,
+               std::function<void()> finalStep)
+    : settings_(settings), strikes_(strikes), sounds_(sounds), finalStep_(std::move(finalStep)) {
+    tmrDead.id = "tmrDead";
+    tmrDead.interval = 100;
+    tmrDead.onTick = [this] { tmrDead_Timer(); };
+}
+
+void Figure::showPiece(int strike, bool shown) {
+    switch (strike) {
+        case 0:
+            shpPrt0.visible = shpPrt1.visible = lnNeck.visible = shown;
+            break;
+        case 1:
+            shpPrt2.visible = shown;
+            break;
+        case 2:
+            shpPrt3.visible = shown;
+            break;
+        case 3:
+            shpPrt4.visible = shown;
+            break;
+        default:
+            shpPrt5.visible = shown;
+            break;
+    }
+}
+
+void Figure::ePutItHangman() {
+    for (int strike = 0; strike < Strikes::kLast; ++strike) {
+        const bool shown = !strikes_(strike).caption.empty();
+        showPiece(strike, shown);
+        if (shown)
+            sounds_.request(sound::kMistake);
+    }
+    if (strikes_(Strikes::kLast).caption.empty())
+        return;
+    shpPrt6.visible = true;
+    settings_.giGameState = kDead;
+    finalStep_();
+}
+
+void Figure::eResetHangman() {
+    tmrDead.enabled = false;
+    lnNeck.y1 = lnNeck.y2 = 1440;
+    shpPrt0.caption = u"- -";
+    shpPrt0.font.size = 16;
+    shpPrt0.top = 940;
+    shpPrt1.top = 840;
+    shpPrt2.top = 1440;
+    const auto rest = [](Line& limb, Twips y1, Twips y2, Twips x2) {
+        limb.y1 = y1;
+        limb.y2 = y2;
+        limb.x2 = x2;
+    };
+    rest(shpPrt3, 1560, 2520, 840);
+    rest(shpPrt4, 1560, 2520, 1560);
+    rest(shpPrt5, 2340, 3360, 1080);
+    rest(shpPrt6, 2340, 3360, 1320);
+    shpPrt7.top = 3360;
+    shpPrt6.visible = false;
+}
+
+// All moves are relative: the drop runs once between two resets.
+void Figure::tmrDead_Timer() {
+    constexpr Twips kSag = 60;
+    const auto sag = [](Line& line, Twips inward) {
+        line.y1 += kSag;
+        line.y2 += kSag;
+        line.x2 += inward;
+        line.visible = true;
+    };
+    shpPrt7.top += 360;
+    sag(lnNeck, 0);
+    shpPrt0.caption = u"x x";
+    shpPrt0.font.size = 14;
+    shpPrt0.top += 90;
+    shpPrt1.top += kSag;
+    shpPrt2.top += kSag;
+    shpPrt0.visible = shpPrt1.visible = shpPrt2.visible = true;
+    sag(shpPrt3, 240);
+    sag(shpPrt4, -240);
+    sag(shpPrt5, 60);
+    sag(shpPrt6, -60);
+    tmrDead.enabled = false;
+}
+
+}  // namespace quillor

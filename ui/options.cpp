@@ -1,0 +1,171 @@
+#include "ui/options.h"
+
+#include <memory>
+
+#include "core/settings_file.h"
+#include "core/text_rules.h"
+#include "toolkit/symbols.h"
+
+namespace quillor {
+
+frmOptions::frmOptions(Program& program)
+    : Screen("frmOptions"), program_(program), settings_(program.settings) {
+    layOut();
+    connect();
+}
+
+void frmOptions::connect() {
+    for (int i = 0; i <= kLastOption; ++i)
+        for (Label* label : {&lblCheck(i), &lblOpts(i)}) {
+            label->onClick = [this, i] { ePressCheck(i); };
+            if (i == 0)
+                continue;
+            label->onMouseDown = [this, i] { shpCheck(i).backColor = settings_.glGreen; };
+            label->onMouseUp = [this, i] { shpCheck(i).backColor = settings_.glTheme; };
+        }
+    for (int i = 0; i <= kLastDesign; ++i) {
+        lblDs(i).onClick = [this, i] { lblDs_Click(i); };
+        lblDs(i).onMouseDown = [this, i] { shpDs(i).backColor = settings_.glGreen; };
+        lblDs(i).onMouseUp = [this, i] { shpDs(i).backColor = settings_.glTheme; };
+    }
+    for (Label& label : lblBack) {
+        label.onClick = [this] { program_.close(*this); };
+        label.onMouseDown = [this] { shpBack.backColor = settings_.glGreen; };
+        label.onMouseUp = [this] { shpBack.backColor = settings_.glRed; };
+    }
+}
+
+void frmOptions::onLoad() {
+    eTranslate();
+    eLoadColor();
+    eLoadData();
+    settings_.gbOptionsOpened = true;
+}
+
+void frmOptions::onUnload() {
+    program_.show(ScreenId::Menu).takePaper(imgBack.image);
+}
+
+void frmOptions::eTranslate() {
+    title = program_.lang(texts::kSettingsTitle);
+    const Text tiles = program_.lang(texts::kSettingsTiles);
+    for (int i = 0; i <= kLastTile; ++i)
+        lblLetter(i).caption = Text(1, tiles.at(static_cast<std::size_t>(i)));
+    for (int i = 0; i <= kLastOption; ++i) {
+        const auto& option = texts::kSettingsOptions.at(static_cast<std::size_t>(i));
+        lblOpts(i).caption = program_.lang(option.caption);
+        lblOpts(i).toolTip = lblCheck(i).toolTip = program_.lang(option.tip);
+        Text spoken = trimmed(lblOpts(i).caption);
+        std::erase(spoken, u'&');
+        lblCheck(i).spokenName = spoken;
+    }
+    for (int i = 0; i <= kLastDesign; ++i) {
+        lblDs(i).toolTip = program_.lang(texts::kDesignTips.at(static_cast<std::size_t>(i)));
+        lblDs(i).spokenName = trimmed(lblDs(i).toolTip);
+    }
+    lblBack(1).caption = program_.lang(texts::kBack);
+    lblBack(0).toolTip = lblBack(1).toolTip = program_.lang(texts::kBackTip);
+    lblBack(0).spokenName = program_.lang(texts::kSpokenBack);
+}
+
+void frmOptions::eLoadColor() {
+    for (int i = 0; i <= kLastOption; ++i)
+        lblCheck(i).backColor = shpCheck(i).backColor = settings_.glTheme;
+    for (Shape& square : shpDs)
+        square.backColor = settings_.glTheme;
+    lblBack(0).backColor = shpBack.backColor = settings_.glRed;
+}
+
+void frmOptions::eLoadData() {
+    loadForSettingsScreen(settings_, program_.folder);
+    markDesign(settings_.giDesign);
+    setTick(1, settings_.gbUseWikipedia);
+    setTick(2, settings_.gbHardScore);
+    setTick(3, settings_.gbInfiniteScore);
+    setTick(4, settings_.gbAgainstClock);
+}
+
+void frmOptions::eSaveData() {
+    settings_.gbUseWikipedia = isTicked(1);
+    settings_.gbHardScore = isTicked(2);
+    settings_.gbInfiniteScore = isTicked(3);
+    settings_.gbAgainstClock = isTicked(4);
+    saveFromSettingsScreen(settings_, program_.folder);
+}
+
+void frmOptions::setTick(int option, bool on) {
+    lblCheck(option).caption = on ? symbols::kTick : TextView();
+    lblCheck(option).checked = on;
+}
+
+bool frmOptions::isTicked(int option) const {
+    return lblCheck(option).caption == symbols::kTick;
+}
+
+void frmOptions::ePressCheck(int option) {
+    if (option <= 0)
+        return;
+    setTick(option, !isTicked(option));
+    eSaveData();
+}
+
+// A design that the file should not hold marks no button.
+void frmOptions::markDesign(int design) {
+    for (int i = 0; i <= kLastDesign; ++i) {
+        lblDs(i).checked = i == design;
+        shpDs(i).backColor = i == design ? eDarkShade(settings_.glTheme) : settings_.glTheme;
+    }
+}
+
+void frmOptions::paintTiles(int design) {
+    const bool filled = design >= 2;
+    const Color ink = design % 2 == 1 ? settings_.glTheme : settings_.glBlack;
+    for (int i = 0; i <= kLastTile; ++i) {
+        lnLetter(i).color = ink;
+        lblLetter(i).textColor = filled ? settings_.glWhite : ink;
+        lblLetter(i).backColor = ink;
+        lblLetter(i).opaque = filled;
+    }
+}
+
+void frmOptions::lblDs_Click(int design) {
+    markDesign(design);
+    settings_.giDesign = static_cast<std::int16_t>(design);
+    paintTiles(design);
+    eSaveData();
+}
+
+void frmOptions::onKeyDown(KeyEvent& event) {
+    switch (event.code) {
+        case 'W':
+            ePressCheck(1);
+            break;
+        case 'D':
+            ePressCheck(2);
+            break;
+        case 'I':
+            ePressCheck(3);
+            break;
+        case 'C':
+            ePressCheck(4);
+            break;
+        case key::kBackspace:
+            program_.close(*this);
+            break;
+        default: {
+            const int first = event.code >= key::kKeypad0 ? key::kKeypad0 + 1 : '1';
+            const int design = event.code - first;
+            if (design < 0 || design > kLastDesign)
+                return;
+            lblDs_Click(design);
+        }
+    }
+    event.handled = true;
+}
+
+void addSettingsScreen(Program& program) {
+    program.addScreen(ScreenId::Options,
+                      [](Program& owner) { return std::make_unique<frmOptions>(owner); });
+}
+
+}  // namespace quillor

@@ -1,0 +1,80 @@
+// Where everything on the settings screen stands, in twips.
+#include "toolkit/style.h"
+#include "toolkit/symbols.h"
+#include "ui/options.h"
+
+namespace quillor {
+
+namespace {
+
+constexpr Color kInk = rgb(40, 40, 40);
+constexpr Color kPale = rgb(250, 250, 250);
+constexpr Twips kLeft = 4200;
+constexpr Twips kFirstRow = 3000;
+constexpr Twips kRow = 960;
+constexpr Twips kBox = 600;
+
+}  // namespace
+
+void frmOptions::layOut() {
+    constexpr Twips kTile = 900;
+    constexpr Twips kTilePitch = 1080;
+    constexpr Twips kTilesLeft = (style::kScreenWidth - 7 * kTilePitch + kTilePitch - kTile) / 2;
+    constexpr Twips kTilesTop = 1080;
+    width = style::kScreenWidth;
+    height = style::kScreenHeight;
+    imgBack.id = "imgBack";
+    add(imgBack).place(0, 0, width, height);
+
+    add(lnLetter);
+    add(lblLetter);
+    for (int i = 0; i <= kLastTile; ++i) {
+        const Twips x = kTilesLeft + kTilePitch * static_cast<Twips>(i);
+        lblLetter(i).font = {Face::Display, 40, true};
+        lblLetter(i).place(x, kTilesTop, kTile, kTile);
+        lnLetter(i).thickness = 60;
+        lnLetter(i).span(x, kTilesTop + kTile, x + kTile, kTilesTop + kTile);
+    }
+
+    for (int i = 0; i <= kLastOption; ++i) {
+        const Twips y = kFirstRow + kRow * static_cast<Twips>(i);
+        add(shpCheck(i)).place(kLeft - 30, y - 30, kBox + 60, kBox + 60);
+        Label& box = lblCheck(i);
+        box.font = {Face::Webdings, 20, false};
+        box.textColor = kPale;
+        box.role = i == 0 ? LabelRole::Plain : LabelRole::CheckBox;
+        add(box).place(kLeft, y, kBox, kBox);
+        Label& words = lblOpts(i);
+        words.font = {Face::Display, 18, true};
+        words.textColor = kInk;
+        words.align = Align::Left;
+        words.role = i == 0 ? LabelRole::Plain : LabelRole::Button;
+        words.tabStop = false;
+        add(words).place(kLeft + 720, y - 30, i == 0 ? 2400 : 6000, kBox + 60);
+    }
+
+    for (int i = 0; i <= kLastDesign; ++i) {
+        const Twips x = kLeft + 3360 + 900 * static_cast<Twips>(i);
+        add(shpDs(i)).place(x, kFirstRow - 60, 720, 720);
+        lblDs(i).caption = Text(1, static_cast<char16_t>(u'1' + i));
+        lblDs(i).font = {Face::Display, 18, true};
+        lblDs(i).textColor = kPale;
+        lblDs(i).role = LabelRole::RadioButton;
+        add(lblDs(i)).place(x, kFirstRow - 60, 720, 720);
+    }
+
+    shpBack.id = "shpBack";
+    add(shpBack).place(kLeft - 60, 8100, 720, 720);
+    lblBack(0).caption = symbols::kArrowLeft;
+    lblBack(0).font = {Face::Wingdings, 20, false};
+    lblBack(0).textColor = kPale;
+    lblBack(0).role = lblBack(1).role = LabelRole::Button;
+    add(lblBack(0)).place(kLeft - 60, 8100, 720, 720);
+    lblBack(1).font = {Face::Display, 18, true};
+    lblBack(1).textColor = rgb(250, 30, 30);
+    lblBack(1).align = Align::Left;
+    lblBack(1).tabStop = false;
+    add(lblBack(1)).place(kLeft + 900, 8100, 2700, 720);
+}
+
+}  // namespace quillor

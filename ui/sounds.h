@@ -1,0 +1,52 @@
+// The game's sounds: what is to be played next, and whether anything is.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <span>
+
+#include "app/program.h"
+
+namespace quillor {
+
+/// Values of `SoundToPlay`: the carried sound 100 + value.
+namespace sound {
+inline constexpr int kNone = 0;
+inline constexpr int kNewGame = 2;
+inline constexpr int kDeath = 3;
+inline constexpr int kMistake = 4;
+inline constexpr int kVictory = 5;
+inline constexpr int kGoodLetter = 6;
+}  // namespace sound
+
+class Sounds {
+  public:
+    /// `mWave` is the menu's switch, kept in step with the loudspeaker.
+    Sounds(Program& program, MenuItem& mWave);
+
+    ControlArray<Label, 0, 0> lblWave{"lblWave"};
+    Shape shpWave;
+    Timer tmrSound;
+
+    /// Takes the seven carried sounds into memory.
+    void load();
+    /// Names the sound to play next; it plays 20 ms later if sounds are on.
+    /// A request made before that replaces it.
+    void request(int soundToPlay);
+    void eActiveSound();
+    void eChangeSound();
+
+  private:
+    static constexpr int kSounds = 7;
+
+    void ePlay_Sound(std::span<const std::byte> image);
+    void tmrSound_Timer();
+
+    Program& program_;
+    GameSettings& settings_;
+    MenuItem& mWave_;
+    int SoundToPlay_ = sound::kNone;
+    std::array<std::span<const std::byte>, kSounds> images_{};
+};
+
+}  // namespace quillor

@@ -1,0 +1,40 @@
+#include "ui/web_search.h"
+
+#include "core/text_rules.h"
+
+namespace quillor {
+
+namespace {
+constexpr TextView kSearchEngine = u"http://www.bing.com/search?q=";
+// The Spanish edition in both interface languages.
+constexpr TextView kEncyclopedia = u"http://es.wikipedia.org/wiki/";
+}  // namespace
+
+WebSearch::WebSearch(Program& program) : program_(program) {
+    shpFinder.id = "shpFinder";
+    for (Label& label : lblFinder) {
+        label.onClick = [this] { lblFinder_Click(); };
+        // Whichever element is pressed, the caption shows it.
+        label.onMouseDown = [this] { lblFinder(0).textColor = program_.settings.glGrey; };
+        label.onMouseUp = [this] { lblFinder(0).textColor = program_.settings.glWhite; };
+    }
+}
+
+void WebSearch::offer(bool shown) {
+    shpFinder.visible = shown;
+    for (Label& label : lblFinder)
+        label.visible = shown;
+}
+
+void WebSearch::eTranslate() {
+    lblFinder(0).caption = program_.lang(texts::kFinder);
+    for (Label& label : lblFinder)
+        label.toolTip = program_.lang(texts::kFinderTip);
+}
+
+void WebSearch::lblFinder_Click() {
+    const TextView start = program_.settings.gbUseWikipedia ? kEncyclopedia : kSearchEngine;
+    program_.desktop.openAddress(Text(start) + lowerCase(program_.settings.gsPhrase));
+}
+
+}  // namespace quillor
