@@ -80,7 +80,9 @@ void frmMenu::release(int label) {
     pressed_ = false;
 }
 
-void frmMenu::open(ScreenId screen) { program_.show(screen).takePaper(imgBack.image); }
+void frmMenu::open(ScreenId screen) {
+    program_.show(screen).takePaper(imgBack.image);
+}
 
 void frmMenu::choose(int option) {
     switch (buttonOf(option)) {

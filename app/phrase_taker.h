@@ -2,7 +2,9 @@
 #pragma once
 
 #include <cstdint>
+#include <typeinfo>
 
+#include "app/program.h"
 #include "toolkit/screen.h"
 
 namespace quillor {
@@ -22,5 +24,14 @@ class PhraseTaker {
     virtual ImageRef paper() const = 0;
     virtual const Screen& screen() const = 0;
 };
+
+/// The game screen, which is loaded whenever a phrase is chosen for it.
+/// Throws std::bad_cast when it is not.
+inline PhraseTaker& phraseTaker(Program& program) {
+    Screen* game = program.find(ScreenId::Game);
+    if (!game)
+        throw std::bad_cast();
+    return dynamic_cast<PhraseTaker&>(*game);
+}
 
 }  // namespace quillor

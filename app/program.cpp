@@ -9,13 +9,16 @@ namespace quillor {
 
 Program::Program(Desktop& desktopToUse, std::filesystem::path programFolder)
     : desktop(desktopToUse), folder(std::move(programFolder)) {
-    addScreen(ScreenId::Start, [](Program& program) { return std::make_unique<frmStart>(program); });
+    addScreen(ScreenId::Start,
+              [](Program& program) { return std::make_unique<frmStart>(program); });
     addScreen(ScreenId::Menu, [](Program& program) { return std::make_unique<frmMenu>(program); });
 }
 
 Program::~Program() = default;
 
-void Program::addScreen(ScreenId id, Factory factory) { factories_[id] = std::move(factory); }
+void Program::addScreen(ScreenId id, Factory factory) {
+    factories_[id] = std::move(factory);
+}
 
 Screen& Program::load(ScreenId id) {
     auto& screen = screens_[id];
@@ -53,6 +56,8 @@ void Program::close(Screen& screen) {
     }
 }
 
-void Program::end() { desktop.end(); }
+void Program::end() {
+    desktop.end();
+}
 
 }  // namespace quillor

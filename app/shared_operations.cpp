@@ -20,7 +20,9 @@ int ePasteText(Program& program, TextView text, TextView selected, int caret) {
     return pasted.caret;
 }
 
-void eCopyToClipboard(Program& program, TextView text) { program.desktop.setClipboard(text); }
+void eCopyToClipboard(Program& program, TextView text) {
+    program.desktop.setClipboard(text);
+}
 
 void eRestartGame(Program& program, Screen& caller) {
     if (Screen* start = program.find(ScreenId::Start))

@@ -27,9 +27,13 @@ frmStart::frmStart(Program& program)
     connect();
 }
 
-Control* frmStart::initialFocus() { return frmeFont.visible ? &lblAction : nullptr; }
+Control* frmStart::initialFocus() {
+    return frmeFont.visible ? &lblAction : nullptr;
+}
 
-void frmStart::takePaper(const ImageRef& paper) { imgBack(0).image = imgBack(1).image = paper; }
+void frmStart::takePaper(const ImageRef& paper) {
+    imgBack(0).image = imgBack(1).image = paper;
+}
 
 void frmStart::connect() {
     tmrBar.onTick = [this] { tmrBar_Timer(); };

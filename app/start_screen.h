@@ -35,8 +35,8 @@ class frmStart : public Screen {
     void onCloseRequest() override { program_.end(); }
 
   private:
-    void layOut();    // start_layout.cpp
-    void connect();   // events to handlers
+    void layOut();   // start_layout.cpp
+    void connect();  // events to handlers
     void eTranslate();
 
     void readColorFile();

@@ -1,0 +1,133 @@
+#include "topics/classic_entry.h"
+
+#include <algorithm>
+
+#include "app/shared_operations.h"
+#include "core/text_rules.h"
+
+namespace quillor {
+
+namespace {
+
+constexpr char16_t kSmallToCapital = 32;  // distance in the Latin alphabet
+
+bool isAllowed(char16_t character) {
+    return character == u' ' || eAlphabet(true).find(character) != TextView::npos;
+}
+
+}  // namespace
+
+frmWord1::frmWord1(Program& program)
+    : Screen("frmWord1"), program_(program), settings_(program.settings) {
+    layOut();
+    connect();
+}
+
+void frmWord1::connect() {
+    txtWord.onKeyPress = [this](char16_t character) { return txtWord_KeyPress(character); };
+    txtWord.onKeyDown = [this](KeyEvent& event) { closeOnEscape(event); };
+    txtWord.onChange = [this] {
+        lblOk(0).enabled = lblOk(1).enabled = !trimmed(txtWord.text()).empty();
+    };
+    txtTheme.onKeyPress = [this](char16_t character) { return txtTheme_KeyPress(character); };
+    txtTheme.onKeyDown = [this](KeyEvent& event) { closeOnEscape(event); };
+    txtTheme.onChange = [this] { txtTheme_Change(); };
+    txtTheme.onGotFocus = [this] { txtTheme_GotFocus(); };
+    txtTheme.onLostFocus = [this] { txtTheme_LostFocus(); };
+    for (Label& label : lblOk) {
+        label.onClick = [this] { lblOk_Click(); };
+        label.onMouseDown = [this] { shpOk.backColor = settings_.glGreen; };
+        label.onMouseUp = [this] { shpOk.backColor = settings_.glRed; };
+    }
+}
+
+void frmWord1::onLoad() {
+    eTranslate();
+    PhraseTaker& game = phraseTaker(program_);
+    over = &game.screen();
+    game.setGameEnabled(false);
+    shpFond.backColor = shpFond.borderColor = settings_.glTheme;
+    shpOk.backColor = settings_.glRed;
+    imgBack.image = game.paper();
+    txtTheme.setText(settings_.gsClassicTopic);
+    if (txtTheme.text().empty())
+        txtTheme.setText(placeholder());
+}
+
+void frmWord1::eTranslate() {
+    title = program_.lang(texts::kEntryTitle);
+    lblSelect(0).caption = program_.lang(texts::kTopicLabel);
+    lblSelect(1).caption = program_.lang(texts::kPhraseLabel);
+    txtWord.toolTip = program_.lang(texts::kPhraseTip);
+    txtWord.spokenName = program_.lang(texts::kSpokenPhraseField);
+    txtTheme.toolTip = program_.lang(texts::kTopicTip);
+    txtTheme.spokenName = program_.lang(texts::kSpokenTopicField);
+    lblOk(1).caption = program_.lang(texts::kOk);
+    lblOk(0).spokenName = lblOk(1).caption;
+}
+
+char16_t frmWord1::eCheck_Key(char16_t character) const {
+    if (character == u' ')
+        return txtWord.text().empty() ? u'\0' : character;
+    if (eAlphabet(false).find(character) != TextView::npos)
+        return static_cast<char16_t>(character - kSmallToCapital);
+    return character == kCharBackspace || isAllowed(character) ? character : u'\0';
+}
+
+char16_t frmWord1::txtWord_KeyPress(char16_t character) {
+    if (character != kCharReturn)
+        return eCheck_Key(character);
+    setFocus(txtTheme);
+    return 0;
+}
+
+char16_t frmWord1::txtTheme_KeyPress(char16_t character) {
+    if (character != kCharReturn)
+        return character;
+    if (lblOk(0).enabled)
+        lblOk_Click();
+    return 0;
+}
+
+void frmWord1::txtTheme_Change() {
+    const Text capitals = upperCase(txtTheme.text());
+    txtTheme.textColor = capitals == placeholder() ? rgb(200, 200, 200) : rgb(0, 0, 0);
+    txtTheme.setText(capitals);
+}
+
+void frmWord1::txtTheme_GotFocus() {
+    if (upperCase(txtTheme.text()) == placeholder())
+        txtTheme.setText(u"");
+    txtTheme.setCaret(static_cast<int>(txtTheme.text().size()));
+}
+
+void frmWord1::txtTheme_LostFocus() {
+    if (txtTheme.text().empty())
+        txtTheme.setText(placeholder());
+}
+
+void frmWord1::closeOnEscape(KeyEvent& event) {
+    if (event.code != key::kEscape)
+        return;
+    event.handled = true;
+    program_.close(*this);
+}
+
+void frmWord1::lblOk_Click() {
+    // Typed text is clean; what has been pasted may not be.
+    const Text& phrase = txtWord.text();
+    if (!std::all_of(phrase.begin(), phrase.end(), isAllowed)) {
+        program_.desktop.messageBox(MessageIcon::Information, program_.lang(texts::kBadCharacters));
+        return;
+    }
+    if (txtTheme.text().empty())
+        txtTheme.setText(placeholder());
+    settings_.gsPhrase = upperCase(trimmed(phrase));
+    settings_.gsTopicName = upperCase(trimmed(txtTheme.text()));
+    settings_.gsClassicTopic = trimmed(txtTheme.text());
+    eCutPhrase(program_);
+    phraseTaker(program_).ePlayNewGame();
+    program_.close(*this);
+}
+
+}  // namespace quillor

@@ -1,0 +1,273 @@
+#include "topics/inventor.h"
+
+#include <algorithm>
+#include <array>
+#include <stdexcept>
+
+#include "app/shared_operations.h"
+#include "core/files.h"
+#include "core/guard.h"
+#include "core/text_codec.h"
+#include "core/text_rules.h"
+#include "core/topic_library.h"
+
+namespace quillor {
+
+namespace {
+
+constexpr TextView kForbidden = u"\\/:*?\"<>|";
+constexpr std::size_t kLongestFileName = 200;  // characters; systems take 255 of their own units
+constexpr int kCounted = 50;
+constexpr char16_t kFirstPrintable = 32;
+
+bool isReserved(TextView name) {
+    constexpr std::array<TextView, 4> kDevices{u"CON", u"PRN", u"AUX", u"NUL"};
+    const Text base = trimmed(upperCase(name.substr(0, name.find(u'.'))));
+    if (std::find(kDevices.begin(), kDevices.end(), base) != kDevices.end())
+        return true;
+    const TextView port = TextView(base).substr(0, 3);
+    constexpr TextView kPortDigits = u"0123456789¹²³";
+    return base.size() == 4 && (port == u"COM" || port == u"LPT") &&
+           kPortDigits.find(base.back()) != TextView::npos;
+}
+
+Text twoDigits(int value) {
+    const std::string digits = std::to_string(value);
+    return fromUtf8(digits.size() < 2 ? "0" + digits : digits);
+}
+
+}  // namespace
+
+bool isPortableFileName(TextView name) {
+    if (name.empty() || name.size() > kLongestFileName || isReserved(name))
+        return false;
+    const bool legal = std::all_of(name.begin(), name.end(), [](char16_t character) {
+        return character >= kFirstPrintable && kForbidden.find(character) == TextView::npos;
+    });
+    return legal && name.back() != u'.' && name.back() != u' ';
+}
+
+frmInventor::frmInventor(Program& program)
+    : Screen("frmInventor"), program_(program), settings_(program.settings) {
+    layOut();
+    connect();
+}
+
+void frmInventor::connect() {
+    connectFields();
+    connectButtons();
+    lstTopics.onKeyDown = [this](KeyEvent& event) { lstTopics_KeyDown(event); };
+}
+
+void frmInventor::connectFields() {
+    txtTheme.onChange = [this] { txtFile.setText(upperCase(txtTheme.text())); };
+    txtTheme.onKeyPress = [this](char16_t character) { return txtTheme_KeyPress(character); };
+    txtFile.onChange = [this] { txtFile_Change(); };
+    txtWord.onKeyPress = [this](char16_t character) { return txtWord_KeyPress(character); };
+    txtWord.onKeyDown = [this](KeyEvent& event) { txtWord_KeyDown(event); };
+}
+
+void frmInventor::connectButtons() {
+    lblOk.onClick = [this] { lblOk_Click(); };
+    lblDel.onClick = [this] { lblDel_Click(); };
+    lblHelp.onClick = [this] { lblHelp_Click(); };
+    lblBack.onClick = [this] { lblBack_Click(); };
+    for (Label& label : lblSave) {
+        label.onClick = [this] { lblSave_Click(); };
+        label.onMouseDown = [this] { shpSave.backColor = settings_.glGreen; };
+        label.onMouseUp = [this] { shpSave.backColor = settings_.glRed; };
+    }
+    lblBack.onMouseDown = [this] { shpBack.backColor = settings_.glGreen; };
+    lblBack.onMouseUp = [this] { shpBack.backColor = settings_.glRed; };
+    for (Label* label : {&lblOk, &lblDel, &lblHelp}) {
+        label->onMouseDown = [this, label] { label->textColor = settings_.glGrey; };
+        label->onMouseUp = [this, label] { label->textColor = settings_.glWhite; };
+    }
+}
+
+void frmInventor::onLoad() {
+    eTranslate();
+    for (Shape* shape : {&shpHead, &shpAdd, &shpDel, &shpHelp})
+        shape->backColor = settings_.glTheme;
+    shpBack.backColor = shpSave.backColor = settings_.glRed;
+    for (Label* label : {&lblOk, &lblDel, &lblHelp, &lblBack, &lblSave(1), &lblLabel(0)})
+        label->textColor = settings_.glWhite;
+    eRefreshButton();
+}
+
+// The menu comes back, except when the program starts over.
+void frmInventor::onUnload() {
+    if (!restarting_)
+        program_.show(ScreenId::Menu).takePaper(imgBack.image);
+}
+
+void frmInventor::eTranslate() {
+    title = texts::kInventorTitle;
+    lblBack.caption = program_.lang(texts::kBack);
+    lblBack.toolTip = program_.lang(texts::kBackTip);
+    lblHelp.toolTip = program_.lang(texts::kInventorHelpTip);
+    lblHelp.spokenName = program_.lang(texts::kSpokenHelp);
+    lblLabel(0).caption = program_.lang(texts::kInventorHeading);
+    lblLabel(1).caption = program_.lang(texts::kTopicNameLabel);
+    lblLabel(2).caption = program_.lang(texts::kFileNameLabel);
+    lblLabel(3).caption = program_.lang(texts::kAddPhrasesLabel);
+    txtTheme.spokenName = program_.lang(texts::kSpokenTopicName);
+    txtFile.spokenName = program_.lang(texts::kSpokenFileName);
+    lblCont.toolTip = program_.lang(texts::kCounterTip);
+    txtWord.toolTip = program_.lang(texts::kPhraseToAddTip);
+    txtWord.spokenName = program_.lang(texts::kSpokenPhraseToAdd);
+    lblOk.toolTip = program_.lang(texts::kAddTip);
+    lblOk.spokenName = program_.lang(texts::kSpokenAdd);
+    lblDel.toolTip = program_.lang(texts::kDeleteTip);
+    lblDel.spokenName = program_.lang(texts::kSpokenDelete);
+    lstTopics.toolTip = program_.lang(texts::kPhrasesTip);
+    lstTopics.spokenName = program_.lang(texts::kSpokenPhrases);
+    lblSave(1).caption = program_.lang(texts::kSave);
+    lblSave(0).spokenName = lblSave(1).caption;
+}
+
+void frmInventor::eRefreshButton() {
+    const int phrases = static_cast<int>(lstTopics.items.size());
+    lblCont.caption = twoDigits(phrases) + u"/" + twoDigits(kCounted);
+    lblSave(0).enabled = phrases > 0 && !txtFile.text().empty();
+}
+
+char16_t frmInventor::eCheck_Key(char16_t character) const {
+    const bool allowed = character == kCharBackspace || character == u' ' ||
+                         eAlphabet(true).find(character) != TextView::npos;
+    return allowed ? character : u'\0';
+}
+
+char16_t frmInventor::txtTheme_KeyPress(char16_t character) {
+    switch (character) {
+        case kCharReturn:
+            setFocus(txtWord);
+            txtWord.selectAll();
+            return 0;
+        case kCharBackspace:
+            // Over a selection, Backspace deletes it as everywhere.
+            if (txtTheme.caret() > 0 || txtTheme.selectionLength() > 0)
+                return character;
+            lblBack_Click();
+            return 0;
+        case u'?':
+            lblHelp_Click();
+            return 0;
+        default:
+            return character;
+    }
+}
+
+void frmInventor::txtFile_Change() {
+    Text fileName = txtFile.text();
+    std::erase_if(fileName,
+                  [](char16_t character) { return kForbidden.find(character) != TextView::npos; });
+    txtFile.setText(fileName);
+    eRefreshButton();
+}
+
+char16_t frmInventor::txtWord_KeyPress(char16_t character) {
+    if (character == kCharReturn && !trimmed(txtWord.text()).empty()) {
+        lblOk_Click();
+        return 0;
+    }
+    return eCheck_Key(character);
+}
+
+void frmInventor::txtWord_KeyDown(KeyEvent& event) {
+    if (!event.onlyControl())
+        return;
+    switch (event.code) {
+        case 'X':
+            cut();
+            break;
+        case 'C':
+            eCopyToClipboard(program_, txtWord.selectedText());
+            break;
+        case 'V':
+            paste();
+            break;
+        default:
+            return;
+    }
+    event.handled = true;
+}
+
+// Every occurrence of the selected text goes, not only the selected one.
+void frmInventor::cut() {
+    const Text selected = txtWord.selectedText();
+    const int caret = txtWord.caret();
+    eCopyToClipboard(program_, selected);
+    txtWord.setText(replaceAll(txtWord.text(), selected, u""));
+    txtWord.setCaret(caret);
+}
+
+void frmInventor::paste() {
+    const int caret = ePasteText(program_, txtWord.text(), txtWord.selectedText(), txtWord.caret());
+    txtWord.setText(settings_.gsTextResult);
+    txtWord.setCaret(caret);
+}
+
+void frmInventor::lstTopics_KeyDown(KeyEvent& event) {
+    if (event.code == key::kDelete)
+        lblDel_Click();
+    else if (event.code == key::kReturn)
+        lblSave_Click();
+    else
+        return;
+    event.handled = true;
+}
+
+void frmInventor::lblOk_Click() {
+    lstTopics.items.push_back(u" " + trimmed(upperCase(txtWord.text())));
+    lstTopics.select(static_cast<int>(lstTopics.items.size()) - 1);
+    txtWord.setText(u"");
+    eRefreshButton();
+}
+
+void frmInventor::lblDel_Click() {
+    const int index = lstTopics.listIndex();
+    if (index < 0)
+        return;
+    lstTopics.removeItem(index);
+    // The entry that moved up is next, so that Delete can be pressed again.
+    lstTopics.select(std::min(index, static_cast<int>(lstTopics.items.size()) - 1));
+    eRefreshButton();
+}
+
+void frmInventor::lblSave_Click() {
+    if (!lblSave(0).enabled)
+        return;
+    quietly("lblSave_Click", [this] {
+        saveTopic();
+        if (program_.desktop.question(program_.lang(texts::kAskRestart))) {
+            restarting_ = true;
+            eRestartGame(program_, *this);
+            return;
+        }
+        lstTopics.clear();
+        txtWord.setText(u"");
+        txtTheme.setText(u"");
+        eRefreshButton();
+        setFocus(txtTheme);
+    });
+}
+
+void frmInventor::saveTopic() {
+    if (!isPortableFileName(txtFile.text()))
+        throw std::runtime_error("not a file name everywhere");
+    std::vector<Text> lines;
+    lines.push_back(upperCase(txtTheme.text()));
+    if (!settings_.gbEnglish)
+        lines.front() += u" " + lowerCase(texts::kSpanishTag);
+    for (const Text& phrase : lstTopics.items)
+        lines.push_back(lowerCase(trimmed(phrase)));
+    writeLines(topicFolder(settings_, program_.folder) / toPath(txtFile.text() + u".txt"), lines);
+}
+
+void frmInventor::lblHelp_Click() {
+    program_.desktop.messageBox(MessageIcon::Information, program_.lang(texts::kFileNameHelp));
+    program_.desktop.messageBox(MessageIcon::Information, program_.lang(texts::kBackHelp));
+}
+
+}  // namespace quillor

@@ -1,0 +1,71 @@
+// The topic inventor: writes new topic files.
+#pragma once
+
+#include "app/program.h"
+#include "toolkit/screen.h"
+
+namespace quillor {
+
+class frmInventor : public Screen {
+  public:
+    explicit frmInventor(Program& program);
+
+    Picture imgBack;
+    Shape shpHead;
+    ControlArray<Label, 0, 3> lblLabel{"lblLabel"};  // heading, topic, file, phrases
+    Shape shpBack;
+    Label lblBack;
+    Shape shpHelp;
+    Label lblHelp;
+    TextField txtTheme;
+    TextField txtFile;
+    TextField txtWord;
+    Shape shpAdd;
+    Label lblOk;
+    Shape shpDel;
+    Label lblDel;
+    ListBox lstTopics;
+    Label lblCont;
+    Shape shpSave;
+    ControlArray<Label, 0, 1> lblSave{"lblSave"};  // 0 the face, 1 the caption
+
+    Control* initialFocus() override { return &txtTheme; }
+    void takePaper(const ImageRef& paper) override { imgBack.image = paper; }
+
+  protected:
+    void onLoad() override;
+    void onUnload() override;
+    void onCloseRequest() override { program_.close(*this); }
+
+  private:
+    void layOut();  // inventor_layout.cpp
+    void connect();
+    void connectFields();
+    void connectButtons();
+    void eTranslate();
+    void eRefreshButton();
+    char16_t eCheck_Key(char16_t character) const;
+    char16_t txtTheme_KeyPress(char16_t character);
+    char16_t txtWord_KeyPress(char16_t character);
+    void txtWord_KeyDown(KeyEvent& event);
+    void txtFile_Change();
+    void lstTopics_KeyDown(KeyEvent& event);
+    void cut();
+    void paste();
+    void lblOk_Click();
+    void lblDel_Click();
+    void lblSave_Click();
+    void saveTopic();
+    void lblHelp_Click();
+    void lblBack_Click() { program_.close(*this); }
+
+    Program& program_;
+    GameSettings& settings_;
+    bool restarting_ = false;
+};
+
+/// Whether every system takes the name, with ".txt" behind it, as a file name:
+/// nothing reserved, no dot or blank at its end.
+bool isPortableFileName(TextView name);
+
+}  // namespace quillor
