@@ -47,11 +47,11 @@ struct GameSettings {
     std::int16_t giTopicMax = 0;  // topic files minus one; -1 when none is loaded
 
     // The game in play.
-    Text gsPhrase;         // the answer, folded once it has been cut for the board
-    Text gsShownPhrase;    // the answer laid out in rows of 14
-    Text gsTopicName;      // as shown above the board
-    Text gsLastPhrase;     // never dealt twice in a row
-    Text gsClassicTopic;   // offered again by the classic entry screen
+    Text gsPhrase;        // the answer, folded once it has been cut for the board
+    Text gsShownPhrase;   // the answer laid out in rows of 14
+    Text gsTopicName;     // as shown above the board
+    Text gsLastPhrase;    // never dealt twice in a row
+    Text gsClassicTopic;  // offered again by the classic entry screen
     bool gbClassicMode = false;
     std::int16_t giGameState = kIdle;
     std::int16_t giStrikes = 0;    // mistakes, 0..6

@@ -156,17 +156,15 @@ inline constexpr TextPair kMenuHelp{u"Ayuda", u"Help"};
 inline constexpr TextPair kVersion{u": Versión ", u": Version "};
 
 // Game screen: messages and questions.
-inline constexpr TextPair kPhraseCut{
-    u"¡Hasta al tope! La frase ha sido muy larga y fue recortada.",
-    u"Up to the top! The phrase has been very long and was cut."};
+inline constexpr TextPair kPhraseCut{u"¡Hasta al tope! La frase ha sido muy larga y fue recortada.",
+                                     u"Up to the top! The phrase has been very long and was cut."};
 inline constexpr TextPair kNoTopics{
     u"No hay palabras para jugar aquí. Trae archivos con palabras a la carpeta 'Temas' del juego "
     u"y reinicia.",
     u"There are no words to play here. Bring files with words to the game's 'Themes' folder and "
     u"restart."};
-inline constexpr TextPair kLeaveGame{
-    u"Estás por abandonar esta partida, ¿quieres continuar?",
-    u"You're about to leave this game, do you want to continue?"};
+inline constexpr TextPair kLeaveGame{u"Estás por abandonar esta partida, ¿quieres continuar?",
+                                     u"You're about to leave this game, do you want to continue?"};
 inline constexpr TextPair kTooManyMistakes{
     u"Tienes muchos errores para poder abandonar la partida, continúa o reinicia el juego.",
     u"You have many mistakes to leave the game, continue or restart the game."};
@@ -245,7 +243,8 @@ inline constexpr TextView kSpanishTag = u"[ESPAÑOL]";
 // Inventor.
 inline constexpr TextView kInventorTitle = u"Quillor | Inventor";
 inline constexpr TextPair kInventorHeading{u"INVENTOR", u"INVENTOR"};
-inline constexpr TextPair kInventorHelpTip{u" Obtén algo de información ", u" Get some information "};
+inline constexpr TextPair kInventorHelpTip{u" Obtén algo de información ",
+                                           u" Get some information "};
 inline constexpr TextPair kTopicNameLabel{u"NOMBRE DEL TEMA", u"TOPIC NAME"};
 inline constexpr TextPair kFileNameLabel{u"NOMBRE DEL ARCHIVO", u"FILE NAME"};
 inline constexpr TextPair kAddPhrasesLabel{u"AGREGA FRASES O PALABRAS A TU NUEVO TEMA",

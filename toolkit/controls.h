@@ -69,7 +69,7 @@ struct Label : Control {
     Font font;
     Color textColor = 0;
     Color backColor = 0;
-    bool opaque = false;  // fills its rectangle with backColor
+    bool opaque = false;     // fills its rectangle with backColor
     Twips cornerRadius = 0;  // of that rectangle
     Align align = Align::Center;
     bool wordWrap = false;
@@ -195,7 +195,7 @@ struct ListBox : Control {
 /// An entry of a menu; with children it is a submenu.
 struct MenuItem {
     std::string id;
-    Text caption;  // empty: a separator
+    Text caption;   // empty: a separator
     Text shortcut;  // as shown beside the caption, e.g. "Ctrl+E"; the screen handles the key
     bool checkable = false;
     bool checked = false;

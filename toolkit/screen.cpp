@@ -37,11 +37,21 @@ void Screen::input(const Control& control, const char* event,
     quietly(control.id + event, [copy = handler] { copy(); });
 }
 
-void Screen::click(Label& label) { input(label, "_Click", label.onClick); }
-void Screen::rightClick(Label& label) { input(label, "_RightClick", label.onRightClick); }
-void Screen::rightClick(Picture& picture) { input(picture, "_RightClick", picture.onRightClick); }
-void Screen::mouseDown(Label& label) { input(label, "_MouseDown", label.onMouseDown); }
-void Screen::mouseUp(Label& label) { input(label, "_MouseUp", label.onMouseUp); }
+void Screen::click(Label& label) {
+    input(label, "_Click", label.onClick);
+}
+void Screen::rightClick(Label& label) {
+    input(label, "_RightClick", label.onRightClick);
+}
+void Screen::rightClick(Picture& picture) {
+    input(picture, "_RightClick", picture.onRightClick);
+}
+void Screen::mouseDown(Label& label) {
+    input(label, "_MouseDown", label.onMouseDown);
+}
+void Screen::mouseUp(Label& label) {
+    input(label, "_MouseUp", label.onMouseUp);
+}
 
 void Screen::mouseMove(Control& control) {
     const auto found = std::find_if(controls_.begin(), controls_.end(), [&](const ControlRef& ref) {
@@ -100,7 +110,9 @@ void Screen::selectItem(ListBox& list, int index) {
         quietly(list.id + "_Click", [&] { list.select(index); });
 }
 
-void Screen::doubleClick(ListBox& list) { input(list, "_DblClick", list.onDoubleClick); }
+void Screen::doubleClick(ListBox& list) {
+    input(list, "_DblClick", list.onDoubleClick);
+}
 
 void Screen::listKeyDown(ListBox& list, KeyEvent& event) {
     if (enabled && list.enabled && list.onKeyDown)

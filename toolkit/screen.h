@@ -22,8 +22,8 @@ class Screen {
     Text title;
     Twips width = 0;
     Twips height = 0;
-    bool enabled = true;              // false while a screen stands over it
-    const Screen* over = nullptr;     // the screen that this one stands over, if any
+    bool enabled = true;           // false while a screen stands over it
+    const Screen* over = nullptr;  // the screen that this one stands over, if any
 
     /// From back to front; a control stands in front of its frame.
     const std::vector<ControlRef>& controls() const { return controls_; }

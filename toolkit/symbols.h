@@ -14,6 +14,7 @@ inline constexpr TextView kCross = u"r";
 inline constexpr TextView kQuestion = u"s";
 inline constexpr TextView kTriangleLeft = u"3";
 inline constexpr TextView kTriangleRight = u"4";
+inline constexpr TextView kMagnifier = u"L";
 
 // In the face Wingdings.
 inline constexpr TextView kArrowLeft = u"ß";

@@ -1,0 +1,254 @@
+// Where everything on the game screen stands, in twips, and what it looks like
+// at rest. Later controls stand in front of earlier ones.
+#include "game/game_screen.h"
+#include "toolkit/style.h"
+#include "toolkit/symbols.h"
+
+namespace quillor {
+
+namespace {
+
+constexpr Color kInk = rgb(40, 40, 40);
+constexpr Color kPale = rgb(250, 250, 250);
+constexpr Color kEdge = rgb(200, 204, 208);
+
+constexpr Twips kBarHeight = 780;
+constexpr Twips kLeftColumn = 360;
+constexpr Twips kLeftWidth = 3600;
+constexpr Twips kRightColumn = 4320;
+constexpr Twips kRightWidth = 10680;
+
+constexpr Twips kKeyPitch = 1080;
+constexpr Twips kKeyWidth = 960;
+constexpr Twips kKeyRow = 840;
+constexpr Twips kKeyHeight = 720;
+constexpr int kKeysInRow = 10;
+
+Label& describe(Label& label, const char* id, const Font& font, Color ink, Align align) {
+    label.id = id;
+    label.font = font;
+    label.textColor = ink;
+    label.align = align;
+    return label;
+}
+
+}  // namespace
+
+void frmGame::layOut() {
+    width = style::kScreenWidth;
+    height = style::kScreenHeight;
+    add(imgBack(0)).place(0, 0, width, height);
+    layOutBar();
+    layOutFigure();
+    layOutStrikes();
+    layOutControls();
+    layOutBoard();
+    layOutKeyboard();
+}
+
+void frmGame::layOutBar() {
+    lblBluebar.id = "lblBluebar";
+    lblBluebar.opaque = true;
+    add(lblBluebar).place(0, 0, width, kBarHeight);
+    const Font big{Face::Display, 17, true};
+    add(describe(setUp.lblMode, "lblMode", style::kBarText, kPale, Align::Left))
+        .place(360, 120, 3960, 540);
+    add(describe(lifeCycle.lblStatus, "lblStatus", big, kPale, Align::Center))
+        .place(5160, 120, 5040, 540);
+    add(describe(scoring.lblScore, "lblScore", big, kPale, Align::Right))
+        .place(10320, 120, 3960, 540);
+    for (Label* label : {&setUp.lblMode, &lifeCycle.lblStatus, &scoring.lblScore})
+        label->opaque = true;
+    sounds.shpWave.id = "shpWave";
+    add(sounds.shpWave).place(14400, 120, 600, 540);
+    Label& wave = describe(sounds.lblWave(0), "lblWave(0)", style::kSymbol, kPale, Align::Center);
+    wave.role = LabelRole::CheckBox;
+    add(wave).place(14400, 120, 600, 540);
+    add(describe(setUp.lblHey, "lblHey", style::kText, rgb(90, 90, 90), Align::Left))
+        .place(kLeftColumn, 900, 8760, 420);
+}
+
+void frmGame::layOutFigure() {
+    constexpr Twips kStroke = 75;
+    constexpr Twips kWood = 120;
+    figure.frmeMan.id = "frmeMan";
+    add(figure.frmeMan).place(kLeftColumn, 1440, kLeftWidth, 4320);
+    Frame* man = &figure.frmeMan;
+    add(imgBack(1), man).place(0, 0, width, height);
+
+    const auto line = [&](Line& control, const char* id, Color color, Twips thickness) -> Line& {
+        control.id = id;
+        control.color = color;
+        control.thickness = thickness;
+        return add(control, man);
+    };
+    const Color wood = rgb(120, 84, 52);
+    line(figure.lnStick1, "lnStick1", wood, kWood).span(480, 4140, 3240, 4140);
+    line(figure.lnStick2, "lnStick2", wood, kWood).span(2640, 300, 2640, 4140);
+    line(figure.lnStick3, "lnStick3", wood, kWood).span(1020, 300, 2640, 300);
+    line(figure.lnRope, "lnRope", rgb(170, 130, 80), 60).span(1200, 300, 1200, 960);
+
+    figure.shpPrt7.id = "shpPrt7";
+    figure.shpPrt7.backColor = wood;
+    figure.shpPrt7.radius = 60;
+    add(figure.shpPrt7, man).place(660, 3360, 1080, 150);
+    line(figure.shpPrt5, "shpPrt5", kInk, kStroke).x1 = 1110;
+    line(figure.shpPrt6, "shpPrt6", kInk, kStroke).x1 = 1290;
+    line(figure.shpPrt3, "shpPrt3", kInk, kStroke).x1 = 1080;
+    line(figure.shpPrt4, "shpPrt4", kInk, kStroke).x1 = 1320;
+    const auto shape = [&](Shape& control, const char* id, ShapeKind kind) -> Shape& {
+        control.id = id;
+        control.kind = kind;
+        control.backColor = rgb(255, 255, 255);
+        control.borderColor = kInk;
+        control.borderWidth = kStroke;
+        return add(control, man);
+    };
+    figure.shpPrt2.radius = 180;
+    shape(figure.shpPrt2, "shpPrt2", ShapeKind::RoundedRectangle).place(1020, 1440, 360, 960);
+    shape(figure.shpPrt1, "shpPrt1", ShapeKind::Oval).place(900, 840, 600, 600);
+    line(figure.lnNeck, "lnNeck", kInk, kStroke).span(1110, 1440, 1290, 1440);
+    add(describe(figure.shpPrt0, "shpPrt0", {Face::Comic, 16, true}, kInk, Align::Center), man)
+        .place(900, 940, 600, 400);
+    for (Control* piece : std::initializer_list<Control*>{
+             &figure.lnNeck, &figure.shpPrt0, &figure.shpPrt1, &figure.shpPrt2, &figure.shpPrt3,
+             &figure.shpPrt4, &figure.shpPrt5})
+        piece->visible = false;
+    figure.eResetHangman();
+}
+
+void frmGame::layOutStrikes() {
+    constexpr Twips kBox = 560;
+    constexpr Twips kLeft = kLeftColumn + 120;
+    constexpr Twips kTop = 5940;
+    constexpr Twips kHeight = 600;
+    for (int i = 0; i <= Guesses::kStrikes; ++i) {
+        const Twips x = kLeft + kBox * static_cast<Twips>(i);
+        Line& edge = guesses.lnStrike(i);
+        edge.thickness = 45;
+        edge.span(x, kTop, x, kTop + kHeight);
+        add(edge);
+    }
+    for (int i = 0; i < Guesses::kStrikes; ++i) {
+        Label& box = guesses.lblStrike(i);
+        box.font = {Face::Display, 18, true};
+        box.textColor = rgb(200, 20, 20);
+        add(box).place(kLeft + kBox * static_cast<Twips>(i) + 30, kTop, kBox - 60, kHeight);
+    }
+}
+
+// The buttons in the left column, the points under the score, and the clock.
+void frmGame::layOutControls() {
+    constexpr Twips kButtonLeft = kLeftColumn + 120;
+    constexpr Twips kButtonWidth = kLeftWidth - 240;
+    lifeCycle.shpPlay.id = "shpPlay";
+    lifeCycle.shpPlay.radius = style::kButtonRadius;
+    add(lifeCycle.shpPlay).place(kButtonLeft, 6840, kButtonWidth, 900);
+    Label& play =
+        describe(lifeCycle.lblPlay(0), "lblPlay(0)", style::kButton, kPale, Align::Center);
+    play.role = LabelRole::Button;
+    add(play).place(kButtonLeft, 6840, kButtonWidth, 900);
+
+    webSearch.shpFinder.radius = style::kButtonRadius;
+    add(webSearch.shpFinder).place(kButtonLeft, 7980, kButtonWidth, 660);
+    for (Label& label : webSearch.lblFinder) {
+        label.textColor = kPale;
+        label.role = LabelRole::Button;
+    }
+    webSearch.lblFinder(0).font = style::kSmallButton;
+    webSearch.lblFinder(1).font = {Face::Webdings, 15, false};
+    webSearch.lblFinder(1).caption = symbols::kMagnifier;
+    webSearch.lblFinder(1).tabStop = false;
+    add(webSearch.lblFinder(1)).place(kButtonLeft + 120, 7980, 540, 660);
+    add(webSearch.lblFinder(0)).place(kButtonLeft + 660, 7980, kButtonWidth - 780, 660);
+    webSearch.offer(false);
+
+    colors.lblColor.visible = false;
+    add(describe(colors.lblColor, "lblColor", {Face::Plain, 8, false}, rgb(120, 120, 120),
+                 Align::Left))
+        .place(kButtonLeft, 8820, 1800, 240);
+
+    add(describe(countDown.lblTime, "lblTime", {Face::Display, 24, true}, kInk, Align::Right))
+        .place(13200, 1380, 1800, 660);
+    countDown.lblTime.visible = false;
+
+    scoring.frmePoints.id = "frmePoints";
+    add(scoring.frmePoints).place(9240, kBarHeight, 5760, 1320);
+    add(describe(scoring.lblBonus, "lblBonus", style::kText, kInk, Align::Right),
+        &scoring.frmePoints)
+        .place(0, 660, 3480, 540);
+    add(describe(scoring.lblPoints, "lblPoints", {Face::Display, 24, true}, kInk, Align::Right),
+        &scoring.frmePoints)
+        .place(3540, 660, 2220, 540);
+    scoring.lblBonus.visible = scoring.lblPoints.visible = false;
+}
+
+void frmGame::layOutBoard() {
+    constexpr Twips kCell = 495;
+    constexpr Twips kAcross = 600;
+    constexpr Twips kDown = 720;
+    add(describe(board.lblTopic, "lblTopic", {Face::Display, 20, true}, kInk, Align::Center))
+        .place(5820, 1440, 7260, 600);
+    board.shpLimit.id = "shpLimit";
+    board.shpLimit.visible = false;
+    add(board.shpLimit).place(kRightColumn, 2160, kRightWidth, 2940);
+    board.frmeMagic.id = "frmeMagic";
+    add(board.frmeMagic).place(kRightColumn, 2160, 0, 0);
+    add(imgBack(2), &board.frmeMagic).place(0, 0, width, height);
+    add(board.lnLetter, &board.frmeMagic);
+    add(board.lblLetter, &board.frmeMagic);
+    for (int i = 1; i <= kBoardCells; ++i) {
+        Label& cell = board.lblLetter(i);
+        const Twips left = 120 + kAcross * static_cast<Twips>((i - 1) % kRowCells);
+        const Twips top = kDown * static_cast<Twips>((i - 1) / kRowCells);
+        cell.place(left, top, kCell, kCell);
+        cell.font = {Face::Display, 23, true};
+        cell.visible = false;
+        Line& underline = board.lnLetter(i);
+        underline.span(left, top + 480, left + 480, top + 480);
+        underline.thickness = 45;
+        underline.visible = false;
+    }
+    add(describe(board.lblCont, "lblCont", {Face::Display, 11, true}, rgb(90, 90, 90),
+                 Align::Right),
+        &board.frmeMagic)
+        .place(0, 0, 600, 300);
+    board.lblCont.visible = false;
+}
+
+void frmGame::layOutKeyboard() {
+    constexpr int kDigits = 28;
+    constexpr Twips kDigitPitch = (kRightWidth + 120) / 11;
+    Frame& keyboard = guesses.frmeBoard;
+    keyboard.id = "frmeBoard";
+    keyboard.visible = false;
+    add(keyboard).place(kRightColumn, 5460, kRightWidth, 4 * kKeyRow);
+    Frame& digits = guesses.frmeNumbers;
+    digits.id = "frmeNumbers";
+    digits.visible = false;
+    add(digits, &keyboard).place(0, 3 * kKeyRow, kRightWidth, kKeyHeight);
+
+    const auto put = [&](int key, Frame& frame, Twips left, Twips top, Twips keyWidth) {
+        Shape& face = guesses.shpKey(key);
+        face.borderColor = kEdge;
+        face.borderWidth = 15;
+        add(face, &frame).place(left, top, keyWidth, kKeyHeight);
+        Label& label = guesses.lblKey(key);
+        label.font = {Face::Display, 19, true};
+        label.role = LabelRole::Button;
+        add(label, &frame).place(left, top, keyWidth, kKeyHeight);
+    };
+    for (int key = 1; key < kDigits; ++key)
+        put(key, keyboard, kKeyPitch * static_cast<Twips>((key - 1) % kKeysInRow),
+            kKeyRow * static_cast<Twips>((key - 1) / kKeysInRow), kKeyWidth);
+    put(Guesses::kNumbersKey, keyboard, 7 * kKeyPitch, 2 * kKeyRow, kKeyWidth);
+    put(Guesses::kWriteKey, keyboard, 8 * kKeyPitch, 2 * kKeyRow, kKeyPitch + kKeyWidth);
+    for (int key = kDigits; key <= Guesses::kLastGuessKey; ++key)
+        put(key, digits, kDigitPitch * static_cast<Twips>(key - kDigits), 0, kDigitPitch - 120);
+    put(Guesses::kHideNumbersKey, digits, 10 * kDigitPitch, 0, kDigitPitch - 120);
+    guesses.lblKey(Guesses::kNumbersKey).font = style::kSmallButton;
+    guesses.lblKey(Guesses::kWriteKey).font = style::kSmallButton;
+    guesses.lblKey(Guesses::kHideNumbersKey).font = style::kSmallButton;
+}
+
+}  // namespace quillor
