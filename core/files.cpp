@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::size_t kChunk = 64 * 1024;
-constexpr std::size_t kMostBytes = 64 * 1024 * 1024;
+constexpr std::size_t kMostBytes = 16 * 1024 * 1024;
 
 // Beside the file that is replaced, so that the rename stays on one disk. The
 // name is short because the file's own may be as long as the system allows.

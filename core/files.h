@@ -18,7 +18,7 @@ std::string readFile(const std::filesystem::path& path);
 
 /// The start of a text file, however large it is: all bytes of its first `lines`
 /// lines and at least one more where there are more. Throws std::runtime_error
-/// when it is no readable file or those lines take more than 64 MiB.
+/// when it is no readable file or those lines take more than 16 MiB.
 std::string readFileStart(const std::filesystem::path& path, std::size_t lines);
 
 /// Replaces the file whole or leaves it as it was: temporary file beside it,

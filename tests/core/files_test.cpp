@@ -1,0 +1,192 @@
+// Whole files: lines with any ends, and writing that replaces all or nothing.
+#include "core/files.h"
+
+#include <chrono>
+#include <cstdlib>
+
+#include <gtest/gtest.h>
+
+#include "tests/support/temp_folder.h"
+
+namespace quillor {
+namespace {
+
+using quillor::testing::TempFolder;
+using Lines = std::vector<Text>;
+
+Lines linesOf(std::string_view bytes, std::size_t most = 100) {
+    return splitLines(bytes, most).lines;
+}
+
+TEST(Lines, MayEndInAnyWay) {
+    EXPECT_EQ(linesOf("a\r\nb\r\n"), (Lines{u"a", u"b"}));
+    EXPECT_EQ(linesOf("a\nb\n"), (Lines{u"a", u"b"}));
+    EXPECT_EQ(linesOf("a\rb\r"), (Lines{u"a", u"b"}));
+    EXPECT_EQ(linesOf("a\nb\rc\r\nd"), (Lines{u"a", u"b", u"c", u"d"}));
+}
+
+TEST(Lines, AreNoneInAnEmptyText) {
+    EXPECT_EQ(linesOf(""), Lines{});
+}
+
+TEST(Lines, KeepEmptyOnesBetween) {
+    EXPECT_EQ(linesOf("a\r\n\r\nb"), (Lines{u"a", u"", u"b"}));
+    EXPECT_EQ(linesOf("\n"), (Lines{u""}));
+    EXPECT_EQ(linesOf("\n\r\n\r"), (Lines{u"", u"", u""}));
+}
+
+TEST(Lines, NeedNoEndAtTheLast) {
+    EXPECT_EQ(linesOf("a\r\nb"), (Lines{u"a", u"b"}));
+}
+
+TEST(Lines, KeepZeroBytesAsCharacters) {
+    EXPECT_EQ(linesOf(std::string_view("a\0b\nc", 5)), (Lines{Text(u"a\0b", 3), u"c"}));
+}
+
+TEST(Lines, AreDecodedTogether) {
+    EXPECT_EQ(linesOf("\xEF\xBB\xBF\xC3\xB1\nb"), (Lines{u"ñ", u"b"}));
+    EXPECT_EQ(linesOf("\xC3\xB1\n\xF1"), (Lines{u"Ã±", u"ñ"}));
+}
+
+TEST(Lines, StopAtTheMostAndTellOfMore) {
+    const SplitLines two = splitLines("a\r\nb\r\nc", 2);
+    EXPECT_EQ(two.lines, (Lines{u"a", u"b"}));
+    EXPECT_TRUE(two.more);
+    EXPECT_FALSE(splitLines("a\r\nb\r\n", 2).more);
+    EXPECT_TRUE(splitLines("a\r\nb\r\n\r\n", 2).more);
+}
+
+TEST(Lines, BeyondTheMostDoNotDecideTheEncoding) {
+    EXPECT_EQ(linesOf("\xC3\xB1\n\xF1", 1), (Lines{u"ñ"}));
+}
+
+TEST(ReadingFiles, GivesTheBytes) {
+    TempFolder folder;
+    folder.write("f", std::string_view("\0\r\n\xFF", 4));
+    EXPECT_EQ(readFile(folder / "f"), std::string("\0\r\n\xFF", 4));
+}
+
+TEST(ReadingFiles, RefusesFoldersAndWhatIsNotThere) {
+    TempFolder folder;
+    EXPECT_THROW(readFile(folder.path()), std::runtime_error);
+    EXPECT_THROW(readFile(folder / "none"), std::runtime_error);
+    EXPECT_THROW(readLines(folder.path(), 5), std::runtime_error);
+}
+
+TEST(ReadingFiles, SplitsALineOfTenMegabytesAtOnce) {
+    TempFolder folder;
+    folder.write("f", std::string(10'000'000, 'x'));
+    const auto start = std::chrono::steady_clock::now();
+    const Lines lines = readLines(folder / "f", 51);
+    ASSERT_EQ(lines.size(), 1U);
+    EXPECT_EQ(lines[0].size(), 10'000'000U);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
+}
+
+TEST(ReadingFiles, LooksOnlyAtTheStartOfAHugeFile) {
+    TempFolder folder;
+    folder.write("f", "one\r\ntwo\r\nthree\r\n" + std::string(100'000, '\n'));
+    std::filesystem::resize_file(folder / "f", 8ULL << 30);  // takes no room on the disk
+    EXPECT_EQ(readLines(folder / "f", 2), (Lines{u"one", u"two"}));
+    EXPECT_LT(readFileStart(folder / "f", 2).size(), 1'000'000U);
+}
+
+TEST(ReadingFiles, GivesUpOnALineThatNeverEnds) {
+    TempFolder folder;
+    folder.write("f", "x");
+    std::filesystem::resize_file(folder / "f", 8ULL << 30);
+    EXPECT_THROW(readLines(folder / "f", 2), std::runtime_error);
+}
+
+TEST(WritingFiles, ReplacesAndLeavesNothingElse) {
+    TempFolder folder;
+    folder.write("f", "a much longer text");
+    writeFile(folder / "f", std::string_view("b\0c", 3));
+    EXPECT_EQ(folder.read("f"), std::string("b\0c", 3));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
+}
+
+TEST(WritingFiles, LeavesAFolderOfThatName) {
+    TempFolder folder;
+    folder.write("f/inside", "kept");
+    EXPECT_THROW(writeFile(folder / "f", "new"), std::runtime_error);
+    EXPECT_EQ(folder.read("f/inside"), "kept");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
+}
+
+TEST(WritingFiles, LeavesAReadOnlyFileAsItWas) {
+    TempFolder folder;
+    folder.write("f", "old");
+    std::filesystem::permissions(folder / "f", std::filesystem::perms::owner_read);
+    EXPECT_THROW(writeFile(folder / "f", "new"), std::runtime_error);
+    EXPECT_EQ(folder.read("f"), "old");
+}
+
+TEST(WritingFiles, FailsInAFolderThatIsNotThere) {
+    TempFolder folder;
+    EXPECT_THROW(writeFile(folder / "none" / "f", "new"), std::runtime_error);
+    EXPECT_FALSE(folder.has("none"));
+}
+
+TEST(WritingFiles, FollowsALink) {
+    TempFolder folder;
+    folder.write("real/f", "old");
+    std::filesystem::create_symlink(folder / "real" / "f", folder / "link");
+    writeFile(folder / "link", "new");
+    EXPECT_TRUE(std::filesystem::is_symlink(folder / "link"));
+    EXPECT_EQ(folder.read("real/f"), "new");
+}
+
+TEST(WritingFiles, WorksOnAFullDisk) {
+    if (!std::filesystem::exists("/dev/full"))
+        GTEST_SKIP() << "this system has no device that is always full";
+    EXPECT_THROW(writeFile("/dev/full", "new"), std::runtime_error);
+    EXPECT_FALSE(std::filesystem::is_regular_file("/dev/full"));
+}
+
+TEST(WritingFiles, TakesANameAsLongAsTheSystemAllows) {
+    TempFolder folder;
+    const std::string name(255, 'n');
+    writeFile(folder / name, "x");
+    EXPECT_EQ(folder.read(name), "x");
+}
+
+TEST(WritingLines, EndsEachWithCrLf) {
+    TempFolder folder;
+    writeLines(folder / "f", {u"uno", u"", u"año"});
+    EXPECT_EQ(folder.read("f"), "uno\r\n\r\na\xF1o\r\n");
+}
+
+TEST(FileNames, KeepAnyUnicode) {
+    for (const TextView name : {u"año.txt", u"Ωмир.txt", u"\U0001F600.txt", u"名.txt"}) {
+        TempFolder folder;
+        writeFile(folder.path() / toPath(name), "x");
+        const auto listed = std::filesystem::directory_iterator(folder.path())->path();
+        EXPECT_EQ(fromPath(listed.filename()), name);
+    }
+}
+
+TEST(FileNames, OfBytesThatAreNoTextStillRead) {
+    EXPECT_EQ(fromPath(std::filesystem::path(std::string("a\xFF.txt"))), u"a\uFFFD.txt");
+}
+
+TEST(FileExists, IsTrueForFilesAndFolders) {
+    TempFolder folder;
+    folder.write("f", "");
+    EXPECT_TRUE(eFileExists(folder / "f"));
+    EXPECT_TRUE(eFileExists(folder.path()));
+}
+
+TEST(FileExists, TakesEveryErrorAsNo) {
+    TempFolder folder;
+    folder.write("f", "");
+    EXPECT_FALSE(eFileExists(folder / "none"));
+    EXPECT_FALSE(eFileExists(folder / "f" / "below"));
+    EXPECT_FALSE(eFileExists(folder / std::string(5000, 'x')));
+    EXPECT_FALSE(eFileExists(""));
+    std::filesystem::create_symlink("nowhere", folder / "dangling");
+    EXPECT_FALSE(eFileExists(folder / "dangling"));
+}
+
+}  // namespace
+}  // namespace quillor

@@ -1,0 +1,170 @@
+// The topic folder: its listing, the sample topic, and the loading of all files.
+#include "core/topic_library.h"
+
+#include <gtest/gtest.h>
+
+#include "core/files.h"
+#include "tests/support/temp_folder.h"
+
+namespace quillor {
+namespace {
+
+class Library : public ::testing::Test {
+  protected:
+    void topic(const std::string& name, std::string_view bytes) const {
+        folder.write(std::filesystem::path("Temas") / name, bytes);
+    }
+    void load() { eLoadWords(settings, folder.path()); }
+    std::vector<Text> listed() const {
+        std::vector<Text> names;
+        for (const auto& file : topicFiles(folder / "Temas"))
+            names.push_back(fromPath(file.filename()));
+        return names;
+    }
+    Text title(int index) const {
+        return settings.gaTopicLines.at(static_cast<std::size_t>(index))[0];
+    }
+
+    quillor::testing::TempFolder folder;
+    GameSettings settings;
+};
+
+using Names = std::vector<Text>;
+
+std::string fiftyTwoLines() {
+    std::string bytes = "Long\r\n";
+    for (int i = 1; i < 52; ++i)
+        bytes += "p" + std::to_string(i) + "\r\n";
+    return bytes;
+}
+
+TEST_F(Library, StandsInAFolderOfItsLanguage) {
+    EXPECT_EQ(topicFolder(settings, folder.path()), folder / "Temas");
+    settings.gbEnglish = true;
+    EXPECT_EQ(topicFolder(settings, folder.path()), folder / "Topics");
+}
+
+TEST_F(Library, ListsTextFilesByNameInAnyCase) {
+    for (const char* name : {"b.txt", "A.TXT", "c.Txt", "B2.txt", "x.text", "txt", "y.txt.bak"})
+        topic(name, "");
+    EXPECT_EQ(listed(), (Names{u"A.TXT", u"b.txt", u"B2.txt", u"c.Txt"}));
+}
+
+TEST_F(Library, ListsNamesThatDifferInCaseAloneInAStableOrder) {
+    for (const char* name : {"a.txt", "A.txt", "a.TXT"})
+        topic(name, "");
+    EXPECT_EQ(listed(), (Names{u"A.txt", u"a.TXT", u"a.txt"}));
+}
+
+TEST_F(Library, ListsNamesOfAnyUnicode) {
+    for (const TextView name : {u"ñandú.txt", u"мир.txt", u"\U0001F600.txt"})
+        topic(toPath(name).string(), "");
+    EXPECT_EQ(listed().size(), 3U);
+}
+
+TEST_F(Library, DoesNotListFolders) {
+    topic("a.txt", "A");
+    std::filesystem::create_directory(folder / "Temas" / "b.txt");
+    EXPECT_EQ(listed(), Names{u"a.txt"});
+}
+
+TEST_F(Library, ListsLinksToFilesOnly) {
+    topic("a.txt", "A");
+    std::filesystem::create_symlink("a.txt", folder / "Temas" / "b.txt");
+    std::filesystem::create_symlink("nowhere", folder / "Temas" / "c.txt");
+    EXPECT_EQ(listed(), (Names{u"a.txt", u"b.txt"}));
+}
+
+TEST_F(Library, ListsAFileWithoutAName) {
+    topic(".txt", "");
+    EXPECT_EQ(listed(), Names{u".txt"});
+}
+
+TEST_F(Library, IsEmptyWithoutAFolder) {
+    EXPECT_EQ(listed(), Names{});
+    load();
+    EXPECT_EQ(settings.giTopicMax, -1);
+    EXPECT_TRUE(settings.gaTopicLines.empty());
+}
+
+TEST_F(Library, IsEmptyWhenTheFolderIsAFile) {
+    folder.write("Temas", "no folder");
+    load();
+    EXPECT_EQ(settings.giTopicMax, -1);
+}
+
+TEST_F(Library, CountsOneFileAsZero) {
+    topic("a.txt", "One\r\nuno\r\n");
+    load();
+    EXPECT_EQ(settings.giTopicMax, 0);
+    EXPECT_EQ(settings.gaTopicLines.at(0)[1], u"UNO");
+}
+
+TEST_F(Library, LoadsEveryTextFileInOrder) {
+    topic("b.txt", "second");
+    topic("A.txt", "first");
+    topic("notes.txt", "third");
+    load();
+    EXPECT_EQ(settings.giTopicMax, 2);
+    EXPECT_EQ(title(0), u"FIRST");
+    EXPECT_EQ(title(1), u"SECOND");
+    EXPECT_EQ(title(2), u"THIRD");
+}
+
+TEST_F(Library, LoadsOnlyTheFolderOfItsLanguage) {
+    topic("a.txt", "spanish");
+    folder.write("Topics/a.txt", "english");
+    settings.gbEnglish = true;
+    load();
+    EXPECT_EQ(title(0), u"ENGLISH");
+}
+
+TEST_F(Library, EndsAtAFileWithAFiftySecondLine) {
+    topic("a.txt", "first");
+    topic("b.txt", fiftyTwoLines());
+    topic("c.txt", "third");
+    load();
+    EXPECT_EQ(settings.giTopicMax, 2);
+    EXPECT_EQ(title(0), u"FIRST");
+    EXPECT_EQ(settings.gaTopicLines.at(1)[50], u"P50");
+    EXPECT_EQ(title(2), u"");
+}
+
+TEST_F(Library, EndsAtAFileThatCannotBeRead) {
+    topic("a.txt", "first");
+    topic("b.txt", "x");
+    std::filesystem::resize_file(folder / "Temas" / "b.txt", 8ULL << 30);  // more than is taken
+    topic("c.txt", "third");
+    load();
+    EXPECT_EQ(settings.giTopicMax, 2);
+    EXPECT_EQ(title(0), u"FIRST");
+    EXPECT_EQ(title(1), u"");
+    EXPECT_EQ(title(2), u"");
+}
+
+TEST_F(Library, LoadsAnEmptyFileAsAnEmptyTopic) {
+    topic("a.txt", "");
+    topic("b.txt", "second");
+    load();
+    EXPECT_EQ(title(0), u"");
+    EXPECT_EQ(title(1), u"SECOND");
+}
+
+TEST_F(Library, LoadsAPhraseOfTenMegabytes) {
+    topic("a.txt", "Title\r\n" + std::string(10'000'000, 'a') + "\r\nb");
+    load();
+    EXPECT_EQ(settings.gaTopicLines.at(0)[1].size(), 10'000'000U);
+    EXPECT_EQ(settings.gaTopicLines.at(0)[2], u"B");
+}
+
+TEST_F(Library, LoadedAgainHoldsNothingOfTheOldFiles) {
+    topic("a.txt", "T\r\none\r\ntwo\r\n");
+    load();
+    topic("a.txt", "T\r\nnew\r\n");
+    load();
+    EXPECT_EQ(settings.gaTopicLines.at(0)[1], u"NEW");
+    EXPECT_EQ(settings.gaTopicLines.at(0)[2], u"");
+}
+
+}  // namespace
+}  // namespace quillor

@@ -1,0 +1,222 @@
+#include "tests/support/fake_desktop.h"
+
+#include <algorithm>
+#include <fstream>
+#include <stdexcept>
+
+#include <gtest/gtest.h>
+
+#include "core/text_codec.h"
+
+namespace quillor::testing {
+
+namespace {
+
+constexpr int kFirstSound = 101;
+constexpr std::int64_t kDay = 24 * 60 * 60 * 1000;
+
+constexpr TextView kYesReply = u"yes";
+
+MenuItem* findItem(MenuItem& menu, const std::string& id) {
+    if (!menu.enabled)
+        return nullptr;
+    if (menu.id == id)
+        return &menu;
+    for (MenuItem* child : menu.children)
+        if (MenuItem* found = findItem(*child, id))
+            return found;
+    return nullptr;
+}
+
+bool onShow(const Control& control) {
+    for (const Control* c = &control; c; c = c->parent)
+        if (!c->visible || !c->enabled)
+            return false;
+    return true;
+}
+
+}  // namespace
+
+FakeDesktop::FakeDesktop() {
+    for (std::size_t i = 0; i < sounds_.size(); ++i)
+        sounds_[i] = static_cast<std::byte>(kFirstSound + static_cast<int>(i));
+}
+
+FakeDesktop::~FakeDesktop() {
+    for (const Box& box : boxes_)
+        ADD_FAILURE() << "never asked for: " << box.kind << " \"" << toUtf8(box.text) << '"';
+}
+
+void FakeDesktop::expectMessage(TextView text, Callback whileOpen) {
+    boxes_.push_back({"message", Text(text), {}, std::move(whileOpen)});
+}
+
+void FakeDesktop::expectCritical(TextView text, Callback whileOpen) {
+    boxes_.push_back({"critical message", Text(text), {}, std::move(whileOpen)});
+}
+
+void FakeDesktop::answerQuestion(TextView text, bool yes, Callback whileOpen) {
+    boxes_.push_back(
+        {"question", Text(text), yes ? Text(kYesReply) : Text(), std::move(whileOpen)});
+}
+
+void FakeDesktop::answerInput(TextView prompt, TextView typed, Callback whileOpen) {
+    boxes_.push_back({"input", Text(prompt), Text(typed), std::move(whileOpen)});
+}
+
+void FakeDesktop::expectAbout(TextView title, TextView text) {
+    boxes_.push_back({"about", Text(title).append(u"#").append(text), {}, {}});
+}
+
+Text FakeDesktop::answer(const std::string& kind, TextView text) {
+    if (boxes_.empty()) {
+        ADD_FAILURE() << "unscripted " << kind << " \"" << toUtf8(text) << '"';
+        return {};
+    }
+    Box box = std::move(boxes_.front());
+    boxes_.pop_front();
+    EXPECT_EQ(box.kind, kind) << toUtf8(text);
+    EXPECT_EQ(toUtf8(box.text), toUtf8(text));
+    if (box.whileOpen) {
+        ++boxesOpen_;
+        box.whileOpen();
+        --boxesOpen_;
+    }
+    return box.kind == kind ? box.reply : Text();
+}
+
+void FakeDesktop::messageBox(MessageIcon icon, TextView text) {
+    answer(icon == MessageIcon::Critical ? "critical message" : "message", text);
+}
+
+bool FakeDesktop::question(TextView text) {
+    return answer("question", text) == kYesReply;
+}
+
+Text FakeDesktop::inputBox(TextView prompt) {
+    return answer("input", prompt);
+}
+
+void FakeDesktop::aboutBox(TextView title, TextView text) {
+    answer("about", Text(title).append(u"#").append(text));
+}
+
+void FakeDesktop::advance(int milliseconds) {
+    const std::int64_t until = time_.now() + milliseconds;
+    time_.look(openScreens_);
+    while (!ended) {
+        const VirtualTime::Due due = time_.next(until);
+        if (!due.timer)
+            return;
+        deliver([&] { due.screen->tick(*due.timer); });
+    }
+}
+
+void FakeDesktop::setTimeOfDay(TimeOfDay time) {
+    const std::int64_t wanted = ((time.hour * 60 + time.minute) * 60 + time.second) * 1000LL;
+    dayStart_ = ((wanted - time_.now()) % kDay + kDay) % kDay;
+}
+
+TimeOfDay FakeDesktop::timeOfDay() {
+    const auto seconds = static_cast<int>((dayStart_ + time_.now()) % kDay / 1000);
+    return {seconds / 3600, seconds / 60 % 60, seconds % 60};
+}
+
+void FakeDesktop::deliver(const Callback& event) {
+    if (ended)
+        return;
+    ++depth_;
+    event();
+    --depth_;
+    settle();
+}
+
+void FakeDesktop::settle() {
+    if (depth_ == 0 && onIdle)
+        onIdle();
+    const std::vector<Screen*> screens = openScreens_;
+    for (Screen* screen : screens)
+        grantFocus(*screen);
+    time_.look(openScreens_);
+}
+
+Control* FakeDesktop::focusOf(const Screen& screen) const {
+    const auto found = focus_.find(&screen);
+    return found == focus_.end() ? nullptr : found->second;
+}
+
+void FakeDesktop::moveFocus(Screen& screen, Control* control) {
+    Control* before = std::exchange(focus_[&screen], control);
+    if (before == control)
+        return;
+    if (auto* field = controlAs<TextField>(screen, before))
+        screen.focusChanged(*field, false);
+    if (auto* field = controlAs<TextField>(screen, control))
+        screen.focusChanged(*field, true);
+}
+
+void FakeDesktop::grantFocus(Screen& screen) {
+    Control* wish = screen.takeFocusRequest();
+    if (wish && onShow(*wish))
+        moveFocus(screen, wish);
+    Control* focused = focusOf(screen);
+    if (!focused || !onShow(*focused))
+        moveFocus(screen, screen.initialFocus());
+}
+
+ImageRef FakeDesktop::loadPicture(const std::filesystem::path& file) {
+    std::ifstream bytes(file, std::ios::binary);
+    if (bytes.get() != 0xFF || bytes.get() != 0xD8)  // how every JPEG file starts
+        throw std::runtime_error("no picture");
+    return std::make_shared<FakeImage>(file);
+}
+
+std::span<const std::byte> FakeDesktop::sound(int id) {
+    if (!soundsCarried)
+        return {};
+    return std::span<const std::byte>(sounds_).subspan(static_cast<std::size_t>(id - kFirstSound),
+                                                       1);
+}
+
+void FakeDesktop::playWave(std::span<const std::byte> image) {
+    playedSounds.push_back(image.empty() ? 0 : std::to_integer<int>(image.front()));
+}
+
+double FakeDesktop::random() {
+    if (draws.empty())
+        return random_.next();
+    const double draw = draws.front();
+    draws.pop_front();
+    return draw;
+}
+
+void FakeDesktop::seedRandom() {
+    ++seedings;
+    random_.reseed(static_cast<std::uint64_t>(time_.now()));
+}
+
+void FakeDesktop::show(Screen& screen) {
+    shown.push_back(screen.name);
+    std::erase(openScreens_, &screen);
+    openScreens_.push_back(&screen);
+}
+
+void FakeDesktop::close(Screen& screen) {
+    closed.push_back(screen.name);
+    std::erase(openScreens_, &screen);
+    focus_.erase(&screen);
+}
+
+void FakeDesktop::popUp(Screen& screen, MenuItem& menu) {
+    popUps.push_back(menu.id);
+    if (menuChoice_.empty())
+        return;
+    const std::string wanted = std::exchange(menuChoice_, {});
+    MenuItem* item = findItem(menu, wanted);
+    if (!item)
+        ADD_FAILURE() << "no enabled menu entry " << wanted;
+    else
+        deliver([&] { screen.choose(*item); });
+}
+
+}  // namespace quillor::testing
