@@ -290,5 +290,14 @@ inline constexpr TextPair kSpokenAdd{u"Agregar", u"Add"};
 inline constexpr TextPair kSpokenDelete{u"Remover", u"Delete"};
 inline constexpr TextPair kSpokenHelp{u"Información", u"Information"};
 
+// What is spoken while a game is played.
+inline constexpr TextPair kSpokenFound{u": sí. ", u": yes. "};
+inline constexpr TextPair kSpokenRepeated{u": ya usada. ", u": used before. "};
+inline constexpr TextPair kSpokenMistake{u": no. ", u": no. "};
+inline constexpr TextPair kSpokenMistakes{u"Errores: ", u"Mistakes: "};
+inline constexpr TextPair kSpokenOfSix{u" de 6. ", u" of 6. "};
+inline constexpr TextPair kSpokenLetters{u"Letras: ", u"Letters: "};
+inline constexpr TextPair kSpokenAnswer{u"La respuesta: ", u"The answer: "};
+
 }  // namespace texts
 }  // namespace quillor

@@ -58,6 +58,7 @@ void Answer::eFinalStep() {
         ++settings.giGamesPlayed;
     game_.board.ePutMagicWord();
     game_.scoring.eScoreUpDown();
+    game_.announcer.sayEnding();
     game_.webSearch.offer(true);
     game_.board.lblCont.visible = false;
     game_.countDown.lblTime.visible = false;

@@ -38,6 +38,7 @@ void frmGame::layOut() {
     width = style::kScreenWidth;
     height = style::kScreenHeight;
     add(imgBack(0)).place(0, 0, width, height);
+    add(announcer.lblSpoken);
     layOutBar();
     layOutFigure();
     layOutStrikes();

@@ -20,6 +20,7 @@ frmGame::frmGame(Program& programToUse)
       lifeCycle(*this),
       ways(*this),
       answer(*this),
+      announcer(*this),
       colors(programToUse, coloredControls()),
       animations(settings, {lifeCycle.lblStatus, scoring.lblPoints, scoring.lblBonus,
                             scoring.lblScore, scoring.tmrScore}) {

@@ -3,6 +3,7 @@
 
 #include "app/phrase_taker.h"
 #include "app/program.h"
+#include "game/announcer.h"
 #include "game/answer.h"
 #include "game/count_down.h"
 #include "game/guesses.h"
@@ -44,6 +45,7 @@ class frmGame : public Screen, public PhraseTaker {
     LifeCycle lifeCycle;
     SelectionWays ways;
     Answer answer;
+    Announcer announcer;
     Colors colors;
     StatusAnimations animations;
 

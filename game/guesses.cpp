@@ -50,19 +50,20 @@ void Guesses::guess(char16_t key) {
     if (game_.settings.giGameState != kPlaying)
         return;
     HintReveal = false;
-    eEnterKey(key);
+    const GuessResult result = eEnterKey(key);
+    if (game_.settings.giGameState == kPlaying)
+        game_.announcer.sayGuess(upperCase(key), result);
 }
 
-void Guesses::eEnterKey(char16_t key) {
+GuessResult Guesses::eEnterKey(char16_t key) {
     key = upperCase(key);
     hideKey(key);
     const Text folded = eFoldAccents(game_.settings.gsShownPhrase);
-    if (folded.find(key) == Text::npos)
-        enterMistake(key);
-    else
-        enterHit(key, folded);
+    const GuessResult result =
+        folded.find(key) == Text::npos ? enterMistake(key) : enterHit(key, folded);
     if (game_.settings.giGameState < kDead && game_.settings.giStrikes < kStrikes)
         game_.colors.tmrColor.enabled = true;
+    return result;
 }
 
 void Guesses::hideKey(char16_t key) {
@@ -71,19 +72,20 @@ void Guesses::hideKey(char16_t key) {
             lblKey(i).visible = shpKey(i).visible = false;
 }
 
-void Guesses::enterMistake(char16_t key) {
+GuessResult Guesses::enterMistake(char16_t key) {
     const bool repeated =
         std::any_of(lblStrike.begin(), lblStrike.end() - 1,
                     [key](const Label& box) { return box.caption == Text(1, key); });
     if (repeated) {
         game_.colors.ePutNewColor(game_.settings.glYellow);
-        return;
+        return GuessResult::Repeated;
     }
     game_.colors.ePutNewColor(game_.settings.glRed);
     ePutStrikes(key);
+    return GuessResult::Mistake;
 }
 
-void Guesses::enterHit(char16_t key, TextView folded) {
+GuessResult Guesses::enterHit(char16_t key, TextView folded) {
     const Uncovered uncovered = uncover(key, folded);
     game_.settings.giLettersFound = static_cast<std::int16_t>(uncovered.found);
     game_.board.showCount(uncovered.found);
@@ -93,6 +95,7 @@ void Guesses::enterHit(char16_t key, TextView folded) {
     } else if (uncovered.any && !HintReveal) {
         game_.sounds.request(sound::kGoodLetter);
     }
+    return uncovered.any ? GuessResult::Found : GuessResult::Repeated;
 }
 
 Guesses::Uncovered Guesses::uncover(char16_t key, TextView folded) {

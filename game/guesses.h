@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "core/types.h"
+#include "game/guess_result.h"
 #include "toolkit/control_array.h"
 #include "toolkit/controls.h"
 
@@ -33,7 +34,7 @@ class Guesses {
     bool HintReveal = false;
 
     /// Applies one guess; small letters count as capitals.
-    void eEnterKey(char16_t key);
+    GuessResult eEnterKey(char16_t key);
     /// Records a mistake in the first free box; the sixth ends the game.
     void ePutStrikes(char16_t key);
     /// Uncovers the first character that occurs once in the phrase.
@@ -54,8 +55,8 @@ class Guesses {
     };
 
     void hideKey(char16_t key);
-    void enterMistake(char16_t key);
-    void enterHit(char16_t key, TextView folded);
+    GuessResult enterMistake(char16_t key);
+    GuessResult enterHit(char16_t key, TextView folded);
     Uncovered uncover(char16_t key, TextView folded);
     void uncoverCell(int cell, Uncovered& result);
 

@@ -127,6 +127,7 @@ void LifeCycle::ePlayNewGame() {
     if (settings.giGameState != kPlaying)
         return;
     lblStatus.caption = game_.program.lang(texts::kPlaying.front());
+    game_.announcer.sayNewGame();
     if (settings.gbAgainstClock)
         game_.countDown.ePutSomeTime(static_cast<int>(settings.gsPhrase.size()));
     game_.sounds.request(sound::kNewGame);
