@@ -34,7 +34,6 @@ class Scoring {
     explicit Scoring(frmGame& game);
 
     Frame frmePoints;
-    Frame frmeBonus;
     Label lblScore;
     Label lblPoints;
     Label lblBonus;

@@ -1,0 +1,25 @@
+# The sound player, a library by itself: it needs no Qt. Windows plays WAVE
+# images itself; elsewhere SDL2 and mpg123 do, and a build without them is silent.
+if(WIN32)
+    add_library(quillor_sound STATIC sound_windows.cpp wave_image.cpp)
+    target_link_libraries(quillor_sound PRIVATE winmm)
+else()
+    find_package(PkgConfig)
+    if(PkgConfig_FOUND)
+        pkg_check_modules(SOUND IMPORTED_TARGET GLOBAL sdl2 libmpg123)
+    endif()
+    if(SOUND_FOUND)
+        find_package(Threads REQUIRED)
+        add_library(quillor_sound STATIC sound_sdl.cpp sound_thread.cpp wave_decoder.cpp
+                    wave_image.cpp)
+        target_link_libraries(quillor_sound PRIVATE PkgConfig::SOUND Threads::Threads
+                              ${CMAKE_DL_LIBS})
+    else()
+        add_library(quillor_sound STATIC sound_silent.cpp wave_image.cpp)
+        message(STATUS "Building without sound: SDL2 or libmpg123 is missing")
+    endif()
+endif()
+set_target_properties(quillor_sound PROPERTIES AUTOMOC OFF)
+target_link_libraries(quillor_sound PRIVATE quillor_options)
+target_compile_features(quillor_sound PUBLIC cxx_std_20)
+target_include_directories(quillor_sound PUBLIC ${PROJECT_SOURCE_DIR})
