@@ -5,11 +5,11 @@
 namespace quillor {
 
 void frmMenu::layOut() {
-    constexpr Twips kButtonWidth = 5400;
-    constexpr Twips kButtonHeight = 960;
-    constexpr Twips kPitch = 1260;
+    constexpr Twips kButtonWidth = 5160;
+    constexpr Twips kButtonHeight = 930;
+    constexpr Twips kPitch = 1230;
     constexpr Twips kLeft = (style::kScreenWidth - kButtonWidth) / 2;
-    constexpr Twips kTop = 3180;
+    constexpr Twips kTop = 2580;
     width = style::kScreenWidth;
     height = style::kScreenHeight;
 
@@ -19,7 +19,7 @@ void frmMenu::layOut() {
     lblWelcome.id = "lblWelcome";
     lblWelcome.font = {Face::Display, 44, true};
     lblWelcome.textColor = rgb(40, 40, 40);
-    add(lblWelcome).place(kLeft, 1560, kButtonWidth, 1080);
+    add(lblWelcome).place(kLeft, 1080, kButtonWidth, 1080);
 
     for (int i = 0; i < kOptions; ++i) {
         const Twips top = kTop + static_cast<Twips>(i) * kPitch;
@@ -34,6 +34,7 @@ void frmMenu::layOut() {
         caption.font = style::kButton;
         caption.textColor = rgb(250, 250, 250);
         caption.role = LabelRole::Button;
+        caption.cornerRadius = style::kButtonRadius;
         caption.tabStop = false;  // the button behind it is the one to tab to
         add(caption).place(kLeft + 240, top + 180, kButtonWidth - 480, kButtonHeight - 360);
     }

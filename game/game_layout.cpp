@@ -12,16 +12,18 @@ constexpr Color kInk = rgb(40, 40, 40);
 constexpr Color kPale = rgb(250, 250, 250);
 constexpr Color kEdge = rgb(200, 204, 208);
 
-constexpr Twips kBarHeight = 780;
-constexpr Twips kLeftColumn = 360;
-constexpr Twips kLeftWidth = 3600;
-constexpr Twips kRightColumn = 4320;
-constexpr Twips kRightWidth = 10680;
+constexpr Twips kBarHeight = 720;
+constexpr Twips kLeftColumn = 300;
+constexpr Twips kLeftWidth = 3000;
+constexpr Twips kRightColumn = 3540;
+constexpr Twips kRightWidth = 9360;
+constexpr Twips kFooter = 7665;
 
-constexpr Twips kKeyPitch = 1080;
-constexpr Twips kKeyWidth = 960;
-constexpr Twips kKeyRow = 840;
-constexpr Twips kKeyHeight = 720;
+constexpr Twips kKeyPitch = 945;
+constexpr Twips kKeyWidth = 855;
+constexpr Twips kKeyRow = 720;
+constexpr Twips kKeyHeight = 640;
+constexpr Twips kKeyRadius = 120;
 constexpr int kKeysInRow = 10;
 
 Label& describe(Label& label, const char* id, const Font& font, Color ink, Align align) {
@@ -53,27 +55,27 @@ void frmGame::layOutBar() {
     add(lblBluebar).place(0, 0, width, kBarHeight);
     const Font big{Face::Display, 17, true};
     add(describe(setUp.lblMode, "lblMode", style::kBarText, kPale, Align::Left))
-        .place(360, 120, 3960, 540);
+        .place(360, 90, 3600, 540);
     add(describe(lifeCycle.lblStatus, "lblStatus", big, kPale, Align::Center))
-        .place(5160, 120, 5040, 540);
+        .place(4080, 90, 5040, 540);
     add(describe(scoring.lblScore, "lblScore", big, kPale, Align::Right))
-        .place(10320, 120, 3960, 540);
+        .place(8640, 90, 3540, 540);
     for (Label* label : {&setUp.lblMode, &lifeCycle.lblStatus, &scoring.lblScore})
         label->opaque = true;
     sounds.shpWave.id = "shpWave";
-    add(sounds.shpWave).place(14400, 120, 600, 540);
+    add(sounds.shpWave).place(12300, 90, 600, 540);
     Label& wave = describe(sounds.lblWave(0), "lblWave(0)", style::kSymbol, kPale, Align::Center);
     wave.role = LabelRole::CheckBox;
-    add(wave).place(14400, 120, 600, 540);
-    add(describe(setUp.lblHey, "lblHey", style::kText, rgb(90, 90, 90), Align::Left))
-        .place(kLeftColumn, 900, 8760, 420);
+    add(wave).place(12300, 90, 600, 540);
+    add(describe(setUp.lblHey, "lblHey", style::kText, rgb(90, 90, 90), Align::Center))
+        .place(2100, kFooter, width - 4200, 360);
 }
 
 void frmGame::layOutFigure() {
     constexpr Twips kStroke = 75;
     constexpr Twips kWood = 120;
     figure.frmeMan.id = "frmeMan";
-    add(figure.frmeMan).place(kLeftColumn, 1440, kLeftWidth, 4320);
+    add(figure.frmeMan).place(kLeftColumn, 900, kLeftWidth, 4140);
     Frame* man = &figure.frmeMan;
     add(imgBack(1), man).place(0, 0, width, height);
 
@@ -84,10 +86,10 @@ void frmGame::layOutFigure() {
         return add(control, man);
     };
     const Color wood = rgb(120, 84, 52);
-    line(figure.lnStick1, "lnStick1", wood, kWood).span(480, 4140, 3240, 4140);
-    line(figure.lnStick2, "lnStick2", wood, kWood).span(2640, 300, 2640, 4140);
-    line(figure.lnStick3, "lnStick3", wood, kWood).span(1020, 300, 2640, 300);
-    line(figure.lnRope, "lnRope", rgb(170, 130, 80), 60).span(1200, 300, 1200, 960);
+    line(figure.lnStick1, "lnStick1", wood, kWood).span(360, 4020, 2760, 4020);
+    line(figure.lnStick2, "lnStick2", wood, kWood).span(2340, 180, 2340, 4020);
+    line(figure.lnStick3, "lnStick3", wood, kWood).span(900, 180, 2340, 180);
+    line(figure.lnRope, "lnRope", rgb(170, 130, 80), 60).span(1200, 180, 1200, 960);
 
     figure.shpPrt7.id = "shpPrt7";
     figure.shpPrt7.backColor = wood;
@@ -119,10 +121,10 @@ void frmGame::layOutFigure() {
 }
 
 void frmGame::layOutStrikes() {
-    constexpr Twips kBox = 560;
-    constexpr Twips kLeft = kLeftColumn + 120;
-    constexpr Twips kTop = 5940;
-    constexpr Twips kHeight = 600;
+    constexpr Twips kBox = 480;
+    constexpr Twips kLeft = kLeftColumn + 60;
+    constexpr Twips kTop = 5220;
+    constexpr Twips kHeight = 540;
     for (int i = 0; i <= Guesses::kStrikes; ++i) {
         const Twips x = kLeft + kBox * static_cast<Twips>(i);
         Line& edge = guesses.lnStrike(i);
@@ -140,47 +142,52 @@ void frmGame::layOutStrikes() {
 
 // The buttons in the left column, the points under the score, and the clock.
 void frmGame::layOutControls() {
-    constexpr Twips kButtonLeft = kLeftColumn + 120;
-    constexpr Twips kButtonWidth = kLeftWidth - 240;
+    constexpr Twips kButtonLeft = kLeftColumn + 60;
+    constexpr Twips kButtonWidth = kLeftWidth - 120;
     lifeCycle.shpPlay.id = "shpPlay";
     lifeCycle.shpPlay.radius = style::kButtonRadius;
-    add(lifeCycle.shpPlay).place(kButtonLeft, 6840, kButtonWidth, 900);
+    add(lifeCycle.shpPlay).place(kButtonLeft, 5940, kButtonWidth, 840);
     Label& play =
         describe(lifeCycle.lblPlay(0), "lblPlay(0)", style::kButton, kPale, Align::Center);
     play.role = LabelRole::Button;
-    add(play).place(kButtonLeft, 6840, kButtonWidth, 900);
+    play.cornerRadius = style::kButtonRadius;
+    add(play).place(kButtonLeft, 5940, kButtonWidth, 840);
 
     webSearch.shpFinder.radius = style::kButtonRadius;
-    add(webSearch.shpFinder).place(kButtonLeft, 7980, kButtonWidth, 660);
+    add(webSearch.shpFinder).place(kButtonLeft, 6960, kButtonWidth, 600);
     for (Label& label : webSearch.lblFinder) {
         label.textColor = kPale;
         label.role = LabelRole::Button;
+        label.cornerRadius = style::kButtonRadius;
     }
     webSearch.lblFinder(0).font = style::kSmallButton;
     webSearch.lblFinder(1).font = {Face::Webdings, 15, false};
     webSearch.lblFinder(1).caption = symbols::kMagnifier;
     webSearch.lblFinder(1).tabStop = false;
-    add(webSearch.lblFinder(1)).place(kButtonLeft + 120, 7980, 540, 660);
-    add(webSearch.lblFinder(0)).place(kButtonLeft + 660, 7980, kButtonWidth - 780, 660);
+    add(webSearch.lblFinder(1)).place(kButtonLeft + 120, 6960, 540, 600);
+    add(webSearch.lblFinder(0)).place(kButtonLeft + 660, 6960, kButtonWidth - 780, 600);
     webSearch.offer(false);
 
     colors.lblColor.visible = false;
     add(describe(colors.lblColor, "lblColor", {Face::Plain, 8, false}, rgb(120, 120, 120),
-                 Align::Left))
-        .place(kButtonLeft, 8820, 1800, 240);
+                 Align::Right))
+        .place(11160, kFooter + 60, 1740, 240);
 
     add(describe(countDown.lblTime, "lblTime", {Face::Display, 24, true}, kInk, Align::Right))
-        .place(13200, 1380, 1800, 660);
+        .place(11100, 960, 1800, 600);
     countDown.lblTime.visible = false;
 
+    // Both labels rise by the same numbers; the bonus does so one line lower.
     scoring.frmePoints.id = "frmePoints";
-    add(scoring.frmePoints).place(9240, kBarHeight, 5760, 1320);
-    add(describe(scoring.lblBonus, "lblBonus", style::kText, kInk, Align::Right),
-        &scoring.frmePoints)
-        .place(0, 660, 3480, 540);
+    add(scoring.frmePoints).place(8100, kBarHeight, 4800, 1260);
     add(describe(scoring.lblPoints, "lblPoints", {Face::Display, 24, true}, kInk, Align::Right),
         &scoring.frmePoints)
-        .place(3540, 660, 2220, 540);
+        .place(0, 660, 4800, 540);
+    scoring.frmeBonus.id = "frmeBonus";
+    add(scoring.frmeBonus).place(8100, kBarHeight + 510, 4800, 1080);
+    add(describe(scoring.lblBonus, "lblBonus", style::kText, kInk, Align::Right),
+        &scoring.frmeBonus)
+        .place(0, 660, 4800, 360);
     scoring.lblBonus.visible = scoring.lblPoints.visible = false;
 }
 
@@ -189,12 +196,13 @@ void frmGame::layOutBoard() {
     constexpr Twips kAcross = 600;
     constexpr Twips kDown = 720;
     add(describe(board.lblTopic, "lblTopic", {Face::Display, 20, true}, kInk, Align::Center))
-        .place(5820, 1440, 7260, 600);
+        .place(4560, 960, 6960, 600);
     board.shpLimit.id = "shpLimit";
     board.shpLimit.visible = false;
-    add(board.shpLimit).place(kRightColumn, 2160, kRightWidth, 2940);
+    // A little to the right, as the board keeps a little to the left in it.
+    add(board.shpLimit).place(kRightColumn + 420, 2040, kRightWidth - 360, 2640);
     board.frmeMagic.id = "frmeMagic";
-    add(board.frmeMagic).place(kRightColumn, 2160, 0, 0);
+    add(board.frmeMagic).place(kRightColumn, 2040, 0, 0);
     add(imgBack(2), &board.frmeMagic).place(0, 0, width, height);
     add(board.lnLetter, &board.frmeMagic);
     add(board.lblLetter, &board.frmeMagic);
@@ -219,11 +227,11 @@ void frmGame::layOutBoard() {
 
 void frmGame::layOutKeyboard() {
     constexpr int kDigits = 28;
-    constexpr Twips kDigitPitch = (kRightWidth + 120) / 11;
+    constexpr Twips kDigitPitch = (kRightWidth + 90) / 11;
     Frame& keyboard = guesses.frmeBoard;
     keyboard.id = "frmeBoard";
     keyboard.visible = false;
-    add(keyboard).place(kRightColumn, 5460, kRightWidth, 4 * kKeyRow);
+    add(keyboard).place(kRightColumn, 4800, kRightWidth, 4 * kKeyRow);
     Frame& digits = guesses.frmeNumbers;
     digits.id = "frmeNumbers";
     digits.visible = false;
@@ -233,10 +241,12 @@ void frmGame::layOutKeyboard() {
         Shape& face = guesses.shpKey(key);
         face.borderColor = kEdge;
         face.borderWidth = 15;
+        face.radius = kKeyRadius;
         add(face, &frame).place(left, top, keyWidth, kKeyHeight);
         Label& label = guesses.lblKey(key);
         label.font = {Face::Display, 19, true};
         label.role = LabelRole::Button;
+        label.cornerRadius = kKeyRadius;
         add(label, &frame).place(left, top, keyWidth, kKeyHeight);
     };
     for (int key = 1; key < kDigits; ++key)
@@ -245,8 +255,8 @@ void frmGame::layOutKeyboard() {
     put(Guesses::kNumbersKey, keyboard, 7 * kKeyPitch, 2 * kKeyRow, kKeyWidth);
     put(Guesses::kWriteKey, keyboard, 8 * kKeyPitch, 2 * kKeyRow, kKeyPitch + kKeyWidth);
     for (int key = kDigits; key <= Guesses::kLastGuessKey; ++key)
-        put(key, digits, kDigitPitch * static_cast<Twips>(key - kDigits), 0, kDigitPitch - 120);
-    put(Guesses::kHideNumbersKey, digits, 10 * kDigitPitch, 0, kDigitPitch - 120);
+        put(key, digits, kDigitPitch * static_cast<Twips>(key - kDigits), 0, kDigitPitch - 90);
+    put(Guesses::kHideNumbersKey, digits, 10 * kDigitPitch, 0, kDigitPitch - 90);
     guesses.lblKey(Guesses::kNumbersKey).font = style::kSmallButton;
     guesses.lblKey(Guesses::kWriteKey).font = style::kSmallButton;
     guesses.lblKey(Guesses::kHideNumbersKey).font = style::kSmallButton;

@@ -34,6 +34,7 @@ class Scoring {
     explicit Scoring(frmGame& game);
 
     Frame frmePoints;
+    Frame frmeBonus;
     Label lblScore;
     Label lblPoints;
     Label lblBonus;

@@ -13,8 +13,8 @@ inline constexpr Twips kMargin = 360;
 
 /// The four large screens have one size, so that the window stays as it is
 /// when one follows the other.
-inline constexpr Twips kScreenWidth = 15360;
-inline constexpr Twips kScreenHeight = 9360;
+inline constexpr Twips kScreenWidth = 13200;
+inline constexpr Twips kScreenHeight = 8100;
 
 inline constexpr Twips kButtonRadius = 150;
 

@@ -17,6 +17,7 @@ inline void styleAccept(Shape& shape, Label& face, Label& caption) {
     caption.font = style::kButton;
     caption.textColor = kPale;
     face.role = caption.role = LabelRole::Button;
+    caption.cornerRadius = style::kButtonRadius;
     face.tabStop = false;
     face.enabled = caption.enabled = false;
 }

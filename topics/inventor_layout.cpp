@@ -8,8 +8,8 @@ namespace quillor {
 void frmInventor::layOut() {
     constexpr int kNameLength = 22;
     constexpr int kPhraseLength = 35;
-    constexpr Twips kLeft = 1560;
-    constexpr Twips kFieldWidth = 5940;
+    constexpr Twips kLeft = 1260;
+    constexpr Twips kFieldWidth = 5160;
     constexpr Twips kRight = kLeft + kFieldWidth + 360;
     constexpr Twips kInner = 2 * kFieldWidth + 360;
     constexpr Color kInk = rgb(40, 40, 40);
@@ -42,46 +42,46 @@ void frmInventor::layOut() {
         return add(control);
     };
 
-    shape(shpHead, "shpHead", kLeft, 480, kInner, 1020);
+    shape(shpHead, "shpHead", kLeft, 360, kInner, 960);
     label(lblLabel(0), {Face::Display, 26, true}, Align::Center)
-        .place(kLeft + 2400, 480, kInner - 4800, 1020);
-    shape(shpBack, "shpBack", kLeft + 180, 660, 1920, 660);
-    button(lblBack, "lblBack", style::kSmallButton).place(kLeft + 180, 660, 1920, 660);
-    shape(shpHelp, "shpHelp", kLeft + kInner - 840, 660, 660, 660);
+        .place(kLeft + 2400, 360, kInner - 4800, 960);
+    shape(shpBack, "shpBack", kLeft + 180, 510, 1920, 660);
+    button(lblBack, "lblBack", style::kSmallButton).place(kLeft + 180, 510, 1920, 660);
+    shape(shpHelp, "shpHelp", kLeft + kInner - 840, 510, 660, 660);
     button(lblHelp, "lblHelp", {Face::Webdings, 18, false})
-        .place(kLeft + kInner - 840, 660, 660, 660);
+        .place(kLeft + kInner - 840, 510, 660, 660);
     lblHelp.caption = symbols::kQuestion;
 
-    label(lblLabel(1), style::kText, Align::Left).place(kLeft, 1740, kFieldWidth, 360);
-    field(txtTheme, "txtTheme", kNameLength).place(kLeft, 2130, kFieldWidth, 600);
-    label(lblLabel(2), style::kText, Align::Left).place(kRight, 1740, kFieldWidth, 360);
-    field(txtFile, "txtFile", kNameLength).place(kRight, 2130, kFieldWidth, 600);
+    label(lblLabel(1), style::kText, Align::Left).place(kLeft, 1500, kFieldWidth, 360);
+    field(txtTheme, "txtTheme", kNameLength).place(kLeft, 1890, kFieldWidth, 600);
+    label(lblLabel(2), style::kText, Align::Left).place(kRight, 1500, kFieldWidth, 360);
+    field(txtFile, "txtFile", kNameLength).place(kRight, 1890, kFieldWidth, 600);
     txtFile.backColor = rgb(224, 224, 224);
 
-    label(lblLabel(3), style::kText, Align::Left).place(kLeft, 3060, kInner - 1560, 360);
+    label(lblLabel(3), style::kText, Align::Left).place(kLeft, 2700, kInner - 1560, 360);
     lblCont.id = "lblCont";
     label(lblCont, {Face::Display, 14, true}, Align::Right)
-        .place(kLeft + kInner - 1440, 3000, 1440, 420);
-    field(txtWord, "txtWord", kPhraseLength).place(kLeft, 3450, kInner - 1560, 660);
-    shape(shpAdd, "shpAdd", kLeft + kInner - 1440, 3450, 660, 660);
+        .place(kLeft + kInner - 1440, 2640, 1440, 420);
+    field(txtWord, "txtWord", kPhraseLength).place(kLeft, 3090, kInner - 1560, 660);
+    shape(shpAdd, "shpAdd", kLeft + kInner - 1440, 3090, 660, 660);
     button(lblOk, "lblOk", {Face::Wingdings, 18, false})
-        .place(kLeft + kInner - 1440, 3450, 660, 660);
+        .place(kLeft + kInner - 1440, 3090, 660, 660);
     lblOk.caption = symbols::kPlus;
-    shape(shpDel, "shpDel", kLeft + kInner - 660, 3450, 660, 660);
+    shape(shpDel, "shpDel", kLeft + kInner - 660, 3090, 660, 660);
     button(lblDel, "lblDel", {Face::Wingdings, 18, false})
-        .place(kLeft + kInner - 660, 3450, 660, 660);
+        .place(kLeft + kInner - 660, 3090, 660, 660);
     lblDel.caption = symbols::kDelete;
 
     lstTopics.id = "lstTopics";
     lstTopics.font = style::kField;
-    add(lstTopics).place(kLeft, 4290, kInner, 3300);
+    add(lstTopics).place(kLeft, 3930, kInner, 2640);
 
-    shape(shpSave, "shpSave", kLeft, 7890, kInner, 960);
+    shape(shpSave, "shpSave", kLeft, 6780, kInner, 900);
     lblSave(0).role = lblSave(1).role = LabelRole::Button;
     lblSave(0).tabStop = false;
-    add(lblSave(0)).place(kLeft, 7890, kInner, 960);
+    add(lblSave(0)).place(kLeft, 6780, kInner, 900);
     lblSave(1).font = style::kButton;
-    add(lblSave(1)).place(kLeft + 240, 8010, kInner - 480, 720);
+    add(lblSave(1)).place(kLeft + 240, 6870, kInner - 480, 720);
 }
 
 }  // namespace quillor

@@ -9,9 +9,9 @@ namespace {
 
 constexpr Color kInk = rgb(40, 40, 40);
 constexpr Color kPale = rgb(250, 250, 250);
-constexpr Twips kLeft = 4200;
-constexpr Twips kFirstRow = 3000;
-constexpr Twips kRow = 960;
+constexpr Twips kLeft = 3240;
+constexpr Twips kFirstRow = 2520;
+constexpr Twips kRow = 900;
 constexpr Twips kBox = 600;
 
 }  // namespace
@@ -20,7 +20,7 @@ void frmOptions::layOut() {
     constexpr Twips kTile = 900;
     constexpr Twips kTilePitch = 1080;
     constexpr Twips kTilesLeft = (style::kScreenWidth - 7 * kTilePitch + kTilePitch - kTile) / 2;
-    constexpr Twips kTilesTop = 1080;
+    constexpr Twips kTilesTop = 840;
     width = style::kScreenWidth;
     height = style::kScreenHeight;
     imgBack.id = "imgBack";
@@ -64,17 +64,17 @@ void frmOptions::layOut() {
     }
 
     shpBack.id = "shpBack";
-    add(shpBack).place(kLeft - 60, 8100, 720, 720);
+    add(shpBack).place(kLeft - 60, 7020, 720, 720);
     lblBack(0).caption = symbols::kArrowLeft;
     lblBack(0).font = {Face::Wingdings, 20, false};
     lblBack(0).textColor = kPale;
     lblBack(0).role = lblBack(1).role = LabelRole::Button;
-    add(lblBack(0)).place(kLeft - 60, 8100, 720, 720);
+    add(lblBack(0)).place(kLeft - 60, 7020, 720, 720);
     lblBack(1).font = {Face::Display, 18, true};
     lblBack(1).textColor = rgb(250, 30, 30);
     lblBack(1).align = Align::Left;
     lblBack(1).tabStop = false;
-    add(lblBack(1)).place(kLeft + 900, 8100, 2700, 720);
+    add(lblBack(1)).place(kLeft + 900, 7020, 2700, 720);
 }
 
 }  // namespace quillor

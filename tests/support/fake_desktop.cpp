@@ -108,7 +108,12 @@ void FakeDesktop::advance(int milliseconds) {
         const VirtualTime::Due due = time_.next(until);
         if (!due.timer)
             return;
-        deliver([&] { due.screen->tick(*due.timer); });
+        if (!inTick_.insert(due.timer).second)
+            continue;
+        deliver([&] {
+            due.screen->tick(*due.timer);
+            inTick_.erase(due.timer);
+        });
     }
 }
 

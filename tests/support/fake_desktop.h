@@ -5,6 +5,7 @@
 #include <array>
 #include <deque>
 #include <functional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -51,7 +52,8 @@ class FakeDesktop : public Desktop {
     bool boxOpen() const { return boxesOpen_ > 0; }
     std::size_t answersLeft() const { return boxes_.size(); }
 
-    /// Lets time pass: fires the timers of the open screens when they are due.
+    /// Lets time pass: fires the timers of the open screens when they are due. A
+    /// timer whose tick has opened a box is not fired again while the box is open.
     void advance(int milliseconds);
     /// Sets the time of day, which then goes on with the virtual time.
     void setTimeOfDay(TimeOfDay time);
@@ -127,6 +129,7 @@ class FakeDesktop : public Desktop {
     std::int64_t dayStart_ = 0;  // what the time of day was at the virtual time 0, in ms
     Random random_{1};
     int depth_ = 0;  // events that run within one another
+    std::set<const Timer*> inTick_;
     std::vector<Screen*> openScreens_;
     std::map<const Screen*, Control*> focus_;
     std::array<std::byte, 7> sounds_;

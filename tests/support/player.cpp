@@ -179,23 +179,36 @@ void Player::key(int code, Modifiers modifiers, char16_t typed) {
     });
     if (event.handled || desktop_.front() != &where)
         return;
+    if (typed == kCharReturn && modifiers.autoRepeat && focused<Label>())
+        return;  // a button held down is pressed once
     if (typed)
         desktop_.deliver([&] { character(typed); });
     else if (auto* field = focused<TextField>())
         desktop_.deliver([&] { editKey(*field, code); });
 }
 
+// As a window does: a focused field takes characters, a focused button takes
+// the blank and Return, and the screen the rest.
 void Player::character(char16_t typed) {
     Screen& where = screen();
-    auto* field = focused<TextField>();
-    where.keyPress(typed);
-    if (!field || desktop_.front() != &where)
+    auto* button = focused<Label>();
+    if (auto* field = focused<TextField>())
+        typeInto(*field, typed);
+    else if (button && (typed == u' ' || typed == kCharReturn))
+        where.click(*button);
+    else
+        where.keyPress(typed);
+}
+
+void Player::typeInto(TextField& field, char16_t typed) {
+    Screen& where = screen();
+    const char16_t passed = where.fieldKeyPress(field, typed);
+    if (desktop_.front() != &where)
         return;
-    const char16_t passed = where.fieldKeyPress(*field, typed);
     if (passed == kCharBackspace)
-        editKey(*field, key::kBackspace);
+        editKey(field, key::kBackspace);
     else if (passed >= u' ')
-        insertInto(where, *field, TextView(&passed, 1));
+        insertInto(where, field, TextView(&passed, 1));
 }
 
 void Player::editKey(TextField& field, int code) {

@@ -54,8 +54,9 @@ class Player {
     T& usable(const std::string& id, const char* action) const;
     template <typename T>
     T* focused() const;
-    void key(int code, Modifiers modifiers, char16_t character);
-    void character(char16_t character);
+    void key(int code, Modifiers modifiers, char16_t typed);
+    void character(char16_t typed);
+    void typeInto(TextField& field, char16_t typed);
     void editKey(TextField& field, int code);
 
     FakeDesktop& desktop_;

@@ -1,0 +1,137 @@
+// What the start screen prepares while it loads.
+#include <algorithm>
+
+#include "core/settings_file.h"
+#include "tests/app/app_fixture.h"
+
+namespace quillor::testing {
+namespace {
+
+class StartLoading : public AppTest {};
+
+constexpr const char* kFirstRun = "0\r\n1\r\n0\r\n0\r\n0\r\n0\r\n0\r\n1\r\n0\r\n0\r\n0\r\n";
+
+TEST_F(StartLoading, OfAFirstRunLeavesSettingsAndASampleTopic) {
+    start();
+    EXPECT_EQ(folder.read("Quillor-Config.ini"), kFirstRun);
+    EXPECT_TRUE(folder.read("Temas/DEMO.txt").starts_with("FRASES DE MUESTRA [espa\361ol]\r\n"));
+    EXPECT_FALSE(folder.has("Topics"));
+}
+
+TEST_F(StartLoading, OfAFirstRunSwitchesSoundsAndFirstLetterOn) {
+    start();
+    EXPECT_TRUE(settings().gbUseSounds);
+    EXPECT_TRUE(settings().gbFirstLetter);
+    EXPECT_TRUE(settings().gbSettingsLoaded);
+    EXPECT_FALSE(settings().gbHardScore);
+}
+
+TEST_F(StartLoading, LeavesSettingsThatAreThereAndUnread) {
+    folder.write("Quillor-Config.ini", "3\r\n1\r\n");
+    start();
+    EXPECT_EQ(folder.read("Quillor-Config.ini"), "3\r\n1\r\n");
+    EXPECT_EQ(settings().giDesign, 0);
+    EXPECT_FALSE(settings().gbUseSounds);
+    EXPECT_FALSE(settings().gbSettingsLoaded);
+}
+
+TEST_F(StartLoading, ChoosesEnglishByTheMarker) {
+    folder.write("English.txt", "");
+    start();
+    EXPECT_TRUE(settings().gbEnglish);
+    EXPECT_TRUE(folder.read("Topics/DEMO.txt").starts_with("SAMPLE PHRASES\r\n"));
+    EXPECT_FALSE(folder.has("Temas"));
+}
+
+TEST_F(StartLoading, ChoosesEnglishByAMarkerFolderToo) {
+    std::filesystem::create_directory(folder / "English.txt");
+    start();
+    EXPECT_TRUE(settings().gbEnglish);
+}
+
+TEST_F(StartLoading, KeepsTheLanguageWhenTheMarkerGoesDuringTheRun) {
+    folder.write("English.txt", "");
+    start();
+    std::filesystem::remove(folder / "English.txt");
+    desktop.advance(kWholeLine);
+    EXPECT_EQ(as<frmMenu>(ScreenId::Menu).lblWelcome.caption, u"START");
+}
+
+TEST_F(StartLoading, LoadsTheSampleTopic) {
+    start();
+    EXPECT_EQ(settings().giTopicMax, 0);
+    EXPECT_EQ(settings().gaTopicLines.at(0)[50], u"BERRO");
+}
+
+TEST_F(StartLoading, WritesTheSampleIntoAnEmptyTopicFolder) {
+    std::filesystem::create_directory(folder / "Temas");
+    start();
+    EXPECT_TRUE(folder.has("Temas/DEMO.txt"));
+    EXPECT_EQ(settings().giTopicMax, 0);
+}
+
+TEST_F(StartLoading, WritesNoSampleBesideOtherTopics) {
+    folder.write("Temas/mine.TXT", "Mine\r\none\r\ntwo\r\n");
+    start();
+    EXPECT_FALSE(folder.has("Temas/DEMO.txt"));
+    EXPECT_EQ(settings().gaTopicLines.at(0)[0], u"MINE");
+}
+
+TEST_F(StartLoading, SurvivesATopicFolderThatIsAFile) {
+    folder.write("Temas", "no folder");
+    start();
+    EXPECT_EQ(settings().giTopicMax, -1);
+    EXPECT_EQ(folder.read("Quillor-Config.ini"), kFirstRun);
+    desktop.advance(kWholeLine);
+    EXPECT_NE(program.find(ScreenId::Menu), nullptr);
+}
+
+TEST_F(StartLoading, ClearsWhatAnEarlierGameLeft) {
+    settings().giScore = 5;
+    settings().gsPhrase = u"OLD";
+    settings().gbAutoChoice = true;
+    settings().gaTopicLines.resize(9);
+    start();
+    EXPECT_EQ(settings().giScore, 0);
+    EXPECT_EQ(settings().gsPhrase, u"");
+    EXPECT_TRUE(settings().gbAutoChoice);
+    EXPECT_EQ(settings().gaTopicLines.size(), 1U);
+}
+
+TEST_F(StartLoading, ShowsThePictureOnScreenAndTitleFrame) {
+    folder.write("Pic.jpg", kJpeg);
+    frmStart& screen = start();
+    ASSERT_NE(screen.imgBack(0).image, nullptr);
+    EXPECT_EQ(screen.imgBack(1).image, screen.imgBack(0).image);
+    EXPECT_EQ(screen.imgBack(1).top, -screen.frmeTitle.top);
+    EXPECT_EQ(screen.imgBack(1).left, -screen.frmeTitle.left);
+}
+
+TEST_F(StartLoading, EndsAtAPictureThatIsNoneButTheScreenStillWorks) {
+    folder.write("Pic.jpg", "no picture");
+    frmStart& screen = start();
+    EXPECT_EQ(screen.imgBack(0).image, nullptr);
+    EXPECT_FALSE(folder.has("Quillor-Config.ini"));
+    desktop.advance(kWholeLine);
+    EXPECT_NE(program.find(ScreenId::Menu), nullptr);
+}
+
+TEST_F(StartLoading, NamesEveryTextInTheLanguage) {
+    folder.write("English.txt", "");
+    frmStart& screen = start();
+    EXPECT_EQ(screen.lblManual.caption,
+              u"The 'Arial Rounded MT Bold' font is not installed on this PC.");
+    EXPECT_EQ(screen.lblAction.caption, u"SEARCH &FONT");
+    EXPECT_EQ(screen.lblEsc.toolTip, u" Close ");
+}
+
+TEST_F(StartLoading, IsInSpanishWithoutTheMarker) {
+    frmStart& screen = start();
+    EXPECT_EQ(screen.lblManual.caption,
+              u"La fuente 'Arial Rounded MT Bold' no está instalada en la PC.");
+    EXPECT_EQ(screen.lblAction.caption, u"BUSCAR &FUENTE");
+    EXPECT_EQ(screen.lblEsc.toolTip, u" Cerrar ");
+}
+
+}  // namespace
+}  // namespace quillor::testing
