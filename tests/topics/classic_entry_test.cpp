@@ -1,0 +1,189 @@
+// The classic entry screen: what may be typed, what is refused, what the game gets.
+#include "tests/topics/topics_fixture.h"
+
+namespace quillor::testing {
+namespace {
+
+constexpr Color kGreyInk = rgb(200, 200, 200);
+
+class ClassicEntry : public TopicsTest {
+  protected:
+    frmWord1& entry() {
+        show(ScreenId::Word1);
+        return as<frmWord1>(ScreenId::Word1);
+    }
+    bool isOpen() const { return program.find(ScreenId::Word1) != nullptr; }
+    void setPhrase(TextView text) {
+        frmWord1& screen = as<frmWord1>(ScreenId::Word1);
+        desktop.deliver([&] { screen.edit(screen.txtWord, Text(text), 0, 0); });
+    }
+};
+
+TEST_F(ClassicEntry, IsInSpanish) {
+    frmWord1& screen = entry();
+    EXPECT_EQ(screen.title, u"Escriba su frase y tema:");
+    EXPECT_EQ(screen.txtTheme.text(), u"(NINGÚN TEMA)");
+    EXPECT_EQ(screen.txtWord.toolTip, u" Frase a jugar ");
+    EXPECT_EQ(screen.lblOk(1).caption, u"ACEPTAR");
+}
+
+TEST_F(ClassicEntry, IsInEnglish) {
+    settings().gbEnglish = true;
+    frmWord1& screen = entry();
+    EXPECT_EQ(screen.title, u"Write your phrase and topic:");
+    EXPECT_EQ(screen.txtTheme.text(), u"(NO TOPIC)");
+    EXPECT_EQ(screen.txtTheme.toolTip, u" Topic ");
+    EXPECT_EQ(screen.lblOk(1).caption, u"OK");
+}
+
+TEST_F(ClassicEntry, StandsOverTheGameWhichTakesNoInput) {
+    frmWord1& screen = entry();
+    EXPECT_EQ(screen.over, &game());
+    EXPECT_FALSE(game().enabled);
+    EXPECT_EQ(screen.imgBack.image, game().itsPaper);
+    EXPECT_EQ(screen.shpFond.backColor, settings().glTheme);
+}
+
+TEST_F(ClassicEntry, StartsInTheEmptyPhraseField) {
+    frmWord1& screen = entry();
+    EXPECT_EQ(desktop.focusOf(screen), &screen.txtWord);
+    EXPECT_EQ(screen.txtWord.text(), u"");
+    EXPECT_FALSE(screen.lblOk(0).enabled);
+    EXPECT_FALSE(screen.lblOk(1).enabled);
+}
+
+TEST_F(ClassicEntry, ShowsTypedLettersInCapitals) {
+    frmWord1& screen = entry();
+    player.type(u"el niño àéîü 12");
+    EXPECT_EQ(screen.txtWord.text(), u"EL NIÑO ÀÉÜ 12");
+}
+
+TEST_F(ClassicEntry, SwallowsABlankInAnEmptyField) {
+    frmWord1& screen = entry();
+    player.type(u"  a ");
+    EXPECT_EQ(screen.txtWord.text(), u"A ");
+}
+
+TEST_F(ClassicEntry, TakesABlankBeforeTypedText) {
+    frmWord1& screen = entry();
+    player.type(u"ab");
+    player.clickInto("txtWord", 0);
+    player.type(u" ");
+    EXPECT_EQ(screen.txtWord.text(), u" AB");
+}
+
+TEST_F(ClassicEntry, SwallowsWhatIsNoLetterOrDigit) {
+    frmWord1& screen = entry();
+    player.type(u"a?!.,-_ß€Ω'\"b");
+    EXPECT_EQ(screen.txtWord.text(), u"AB");
+}
+
+TEST_F(ClassicEntry, DeletesWithBackspace) {
+    frmWord1& screen = entry();
+    player.type(u"abc");
+    player.press(key::kBackspace);
+    EXPECT_EQ(screen.txtWord.text(), u"AB");
+}
+
+TEST_F(ClassicEntry, TakesThirtyFiveCharactersOfAPhrase) {
+    frmWord1& screen = entry();
+    player.type(Text(36, u'a'));
+    EXPECT_EQ(screen.txtWord.text(), Text(35, u'A'));
+}
+
+TEST_F(ClassicEntry, TakesTwentyTwoCharactersOfATopic) {
+    frmWord1& screen = entry();
+    player.clickInto("txtTheme", 0);
+    player.type(Text(23, u'a'));
+    EXPECT_EQ(screen.txtTheme.text(), Text(22, u'A'));
+}
+
+TEST_F(ClassicEntry, CanBeAcceptedOnlyWithMoreThanBlanks) {
+    frmWord1& screen = entry();
+    setPhrase(u"   ");
+    EXPECT_FALSE(screen.lblOk(0).enabled);
+    setPhrase(u"  x");
+    EXPECT_TRUE(screen.lblOk(0).enabled);
+    EXPECT_TRUE(screen.lblOk(1).enabled);
+    setPhrase(u"");
+    EXPECT_FALSE(screen.lblOk(1).enabled);
+}
+
+TEST_F(ClassicEntry, MovesToTheTopicOnReturn) {
+    frmWord1& screen = entry();
+    player.press(key::kReturn);
+    EXPECT_EQ(desktop.focusOf(screen), &screen.txtTheme);
+    EXPECT_TRUE(isOpen());
+}
+
+TEST_F(ClassicEntry, EmptiesThePlaceholderWhenFocusedAndPutsItBack) {
+    frmWord1& screen = entry();
+    player.clickInto("txtTheme", 0);
+    EXPECT_EQ(screen.txtTheme.text(), u"");
+    player.clickInto("txtWord", 0);
+    EXPECT_EQ(screen.txtTheme.text(), u"(NINGÚN TEMA)");
+    EXPECT_EQ(screen.txtTheme.textColor, kGreyInk);
+}
+
+TEST_F(ClassicEntry, ShowsATypedTopicInBlackCapitals) {
+    frmWord1& screen = entry();
+    player.press(key::kReturn);
+    player.type(u"pájaros!");
+    EXPECT_EQ(screen.txtTheme.text(), u"PÁJAROS!");
+    EXPECT_EQ(screen.txtTheme.caret(), 8);
+    EXPECT_EQ(screen.txtTheme.textColor, rgb(0, 0, 0));
+}
+
+TEST_F(ClassicEntry, KeepsTheCaretWhenCapitalsAreMade) {
+    frmWord1& screen = entry();
+    player.press(key::kReturn);
+    player.type(u"ac");
+    player.clickInto("txtTheme", 1);
+    player.type(u"b");
+    EXPECT_EQ(screen.txtTheme.text(), u"ABC");
+    EXPECT_EQ(screen.txtTheme.caret(), 2);
+}
+
+TEST_F(ClassicEntry, IsGreyWhenThePlaceholderIsTypedByHand) {
+    frmWord1& screen = entry();
+    player.press(key::kReturn);
+    player.type(u"(ningún tema)");
+    EXPECT_EQ(screen.txtTheme.textColor, kGreyInk);
+}
+
+TEST_F(ClassicEntry, ShowsThatItsButtonIsHeld) {
+    frmWord1& screen = entry();
+    EXPECT_EQ(screen.shpOk.backColor, rgb(250, 30, 30));
+    player.type(u"a");
+    player.mouseDown("lblOk(0)");
+    EXPECT_EQ(screen.shpOk.backColor, rgb(30, 180, 30));
+    player.mouseUp("lblOk(0)");
+    EXPECT_EQ(screen.shpOk.backColor, rgb(250, 30, 30));
+}
+
+TEST_F(ClassicEntry, ClosesOnEscapeInEitherField) {
+    for (const char* field : {"txtWord", "txtTheme"}) {
+        entry();
+        player.type(u"frase");
+        player.clickInto(field, 0);
+        player.press(key::kEscape);
+        EXPECT_FALSE(isOpen());
+        EXPECT_TRUE(game().enabled);
+    }
+    EXPECT_TRUE(game().games.empty());
+    EXPECT_EQ(settings().gsPhrase, u"");
+    EXPECT_EQ(settings().gsClassicTopic, u"");
+}
+
+TEST_F(ClassicEntry, ClosesWithItsWindowAsWithEscape) {
+    entry();
+    player.type(u"frase");
+    player.closeWindow();
+    EXPECT_FALSE(isOpen());
+    EXPECT_TRUE(game().enabled);
+    EXPECT_TRUE(game().games.empty());
+    EXPECT_FALSE(desktop.ended);
+}
+
+}  // namespace
+}  // namespace quillor::testing

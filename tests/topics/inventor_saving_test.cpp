@@ -1,0 +1,180 @@
+// What the inventor writes, and what follows.
+#include <algorithm>
+
+#include "core/topic_library.h"
+#include "tests/topics/topics_fixture.h"
+
+namespace quillor::testing {
+namespace {
+
+class InventorSaving : public TopicsTest {
+  protected:
+    static constexpr TextView kAskSpanish =
+        u"¿Quieres reiniciar el juego para cargar el nuevo tema?";
+    static constexpr TextView kAskEnglish =
+        u"Do you want to restart the game to load the new topic?";
+
+    InventorSaving() {
+        std::filesystem::create_directory(folder / "Temas");
+        std::filesystem::create_directory(folder / "Topics");
+    }
+    frmInventor& screen() { return as<frmInventor>(ScreenId::Inventor); }
+    void fill(TextView topic, const std::vector<Text>& phrases) {
+        show(ScreenId::Inventor);
+        player.type(topic);
+        for (const Text& phrase : phrases) {
+            player.clickInto("txtWord", 0);
+            player.type(phrase);
+            player.press(key::kReturn);
+        }
+    }
+    void fileName(TextView name) {
+        desktop.deliver([&] { screen().edit(screen().txtFile, Text(name), 0, 0); });
+    }
+};
+
+TEST_F(InventorSaving, WritesASpanishTopicWithItsTag) {
+    fill(u"Frutas", {u"pera", u"Uva verde"});
+    desktop.answerQuestion(kAskSpanish, false);
+    player.click("lblSave(0)");
+    EXPECT_EQ(folder.read("Temas/FRUTAS.txt"), "FRUTAS [espa\361ol]\r\npera\r\nuva verde\r\n");
+}
+
+TEST_F(InventorSaving, WritesAnEnglishTopicWithoutATag) {
+    settings().gbEnglish = true;
+    fill(u"Fruit", {u"Pear", u"CAFÉ"});
+    desktop.answerQuestion(kAskEnglish, false);
+    player.click("lblSave(1)");
+    EXPECT_EQ(folder.read("Topics/FRUIT.txt"), "FRUIT\r\npear\r\ncaf\351\r\n");
+    EXPECT_FALSE(folder.has("Temas/FRUIT.txt"));
+}
+
+TEST_F(InventorSaving, WritesUnderTheEditedFileName) {
+    fill(u"Frutas", {u"pera"});
+    fileName(u"otro ñame");
+    desktop.answerQuestion(kAskSpanish, false);
+    player.click("lblSave(0)");
+    EXPECT_TRUE(folder.has(std::filesystem::path(u8"Temas/otro ñame.txt")));
+}
+
+TEST_F(InventorSaving, ReplacesAFileOfThatName) {
+    for (const TextView phrase : {u"una fruta muy larga", u"uva"}) {
+        fill(u"F", {Text(phrase)});
+        desktop.answerQuestion(kAskSpanish, false);
+        player.click("lblSave(0)");
+    }
+    EXPECT_EQ(folder.read("Temas/F.txt"), "F [espa\361ol]\r\nuva\r\n");
+}
+
+TEST_F(InventorSaving, ClearsAllForTheNextTopicOnNo) {
+    fill(u"Frutas", {u"pera"});
+    player.type(u"half");
+    desktop.answerQuestion(kAskSpanish, false);
+    player.click("lblSave(0)");
+    EXPECT_TRUE(screen().lstTopics.items.empty());
+    EXPECT_EQ(screen().txtWord.text(), u"");
+    EXPECT_EQ(screen().txtTheme.text(), u"");
+    EXPECT_EQ(screen().txtFile.text(), u"");
+    EXPECT_EQ(screen().lblCont.caption, u"00/50");
+    EXPECT_FALSE(screen().lblSave(0).enabled);
+    EXPECT_EQ(desktop.focusOf(screen()), &screen().txtTheme);
+}
+
+TEST_F(InventorSaving, DoesNotLoadTheTopicOnNo) {
+    fill(u"Frutas", {u"pera"});
+    desktop.answerQuestion(kAskSpanish, false);
+    player.click("lblSave(0)");
+    EXPECT_TRUE(settings().gaTopicLines.empty());
+}
+
+TEST_F(InventorSaving, StartsAnewOnYesAndLoadsTheTopic) {
+    fill(u"Frutas", {u"pera", u"uva"});
+    desktop.answerQuestion(kAskSpanish, true);
+    player.click("lblSave(0)");
+    EXPECT_EQ(player.screen().name, "frmStart");
+    EXPECT_EQ(program.find(ScreenId::Inventor), nullptr);
+    EXPECT_EQ(program.find(ScreenId::Menu), nullptr);
+    EXPECT_EQ(settings().gaTopicLines.at(0)[2], u"UVA");
+}
+
+TEST_F(InventorSaving, HappensOnReturnInTheList) {
+    fill(u"Frutas", {u"pera"});
+    player.selectItem("lstTopics", 0);
+    desktop.answerQuestion(kAskSpanish, false);
+    player.press(key::kReturn);
+    EXPECT_TRUE(folder.has("Temas/FRUTAS.txt"));
+}
+
+TEST_F(InventorSaving, DoesNotHappenWithoutPhrasesOrFileName) {
+    fill(u"Frutas", {});
+    player.click("lblSave(1)");
+    fill(u"", {u"pera"});
+    fileName(u"");
+    player.click("lblSave(1)");
+    player.selectItem("lstTopics", 0);
+    player.press(key::kReturn);
+    EXPECT_TRUE(std::filesystem::is_empty(folder / "Temas"));
+}
+
+TEST_F(InventorSaving, FailsSilentlyWithoutATopicFolder) {
+    std::filesystem::remove(folder / "Temas");
+    fill(u"Frutas", {u"pera"});
+    player.click("lblSave(0)");
+    EXPECT_FALSE(folder.has("Temas"));
+    EXPECT_EQ(screen().txtTheme.text(), u"Frutas");
+    EXPECT_EQ(screen().lstTopics.items.size(), 1U);
+    EXPECT_TRUE(screen().lblSave(0).enabled);
+}
+
+TEST_F(InventorSaving, FailsSilentlyWhereAFolderHasTheName) {
+    std::filesystem::create_directory(folder / "Temas" / "FRUTAS.txt");
+    fill(u"Frutas", {u"pera"});
+    player.click("lblSave(0)");
+    EXPECT_EQ(screen().txtTheme.text(), u"Frutas");
+}
+
+TEST_F(InventorSaving, RefusesNamesThatNotEverySystemTakes) {
+    fill(u"Frutas", {u"pera"});
+    for (const TextView name : {u"CON", u"nul", u"com1", u"LPT9", u"COM²", u"a.", u"a ", u"a\tb"}) {
+        fileName(name);
+        player.click("lblSave(0)");
+    }
+    EXPECT_TRUE(std::filesystem::is_empty(folder / "Temas"));
+    EXPECT_EQ(screen().lstTopics.items.size(), 1U);
+}
+
+TEST_F(InventorSaving, IsReadBackAsItWasAdded) {
+    fill(u"Mi tema", {u"jazmín", u"pingüino", u"año 1"});
+    desktop.answerQuestion(kAskSpanish, false);
+    player.click("lblSave(0)");
+    eLoadWords(settings(), folder.path());
+    const Topic& topic = settings().gaTopicLines.at(0);
+    EXPECT_EQ(topicTitle(topic), u"MI TEMA");
+    EXPECT_EQ(topic[1], u"JAZMÍN");
+    EXPECT_EQ(topic[2], u"PINGÜINO");
+    EXPECT_EQ(topic[3], u"AÑO 1");
+    EXPECT_EQ(topic[4], u"");
+}
+
+TEST_F(InventorSaving, WritesMoreThanFiftyPhrasesAsAdded) {
+    fill(u"Todo", std::vector<Text>(52, u"p"));
+    desktop.answerQuestion(kAskSpanish, false);
+    player.click("lblSave(0)");
+    const std::string bytes = folder.read("Temas/TODO.txt");
+    EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\n'), 53);
+}
+
+TEST_F(InventorSaving, KeepsLettersThatOnlyUtf8Has) {
+    show(ScreenId::Inventor);
+    player.type(u"Ω мир");
+    player.clickInto("txtWord", 0);
+    player.type(u"uno");
+    player.press(key::kReturn);
+    desktop.answerQuestion(kAskSpanish, false);
+    player.click("lblSave(0)");
+    eLoadWords(settings(), folder.path());
+    EXPECT_EQ(settings().gaTopicLines.at(0)[0], u"Ω МИР [ESPAÑOL]");
+}
+
+}  // namespace
+}  // namespace quillor::testing
