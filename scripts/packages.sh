@@ -5,8 +5,8 @@
 # Names of Debian 12 and Ubuntu 24.04; later releases have them too.
 # shellcheck disable=SC2034 # the sourcing scripts choose among these
 {
-    packages_play=(g++ cmake ninja-build qt6-base-dev qt6-wayland libsdl2-dev libmpg123-dev
-        fonts-quicksand fonts-comic-neue)
+    packages_play=(g++ cmake ninja-build qt6-base-dev qt6-wayland pkgconf libsdl2-dev
+        libmpg123-dev fonts-quicksand fonts-comic-neue)
     # A screen that exists in memory alone, and a window manager for it.
     packages_virtual_display=(xvfb openbox dbus)
     packages_test=(libgtest-dev libgmock-dev libbenchmark-dev xdotool imagemagick at-spi2-core
