@@ -28,6 +28,8 @@ struct Font {
     Face face = Face::Plain;
     float size = 10;  // points (20 twips)
     bool bold = false;
+
+    bool operator==(const Font&) const = default;
 };
 
 enum class Align { Left, Center, Right };
