@@ -1,0 +1,33 @@
+// The program's typefaces: what each face is drawn in on this system.
+#pragma once
+
+#include <QFont>
+#include <QString>
+#include <filesystem>
+#include <vector>
+
+#include "toolkit/controls.h"
+
+namespace quillor {
+
+class FontBook {
+  public:
+    /// Loads every font file in the given folders; one that is missing is skipped.
+    explicit FontBook(const std::vector<std::filesystem::path>& folders);
+
+    /// In logical pixels, at `pixelsPerTwip`.
+    QFont font(const Font& font, double pixelsPerTwip) const;
+
+    /// Whether text in the named font is drawn in it. A rounded font that has
+    /// been loaded serves as the display font.
+    bool present(TextView name) const;
+
+  private:
+    void load(const QString& file);
+    QString family(Face face) const;
+
+    QString rounded_;  // loaded families; empty: none
+    QString comic_;
+};
+
+}  // namespace quillor
