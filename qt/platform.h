@@ -1,0 +1,28 @@
+// What differs from system to system; each has its own platform_*.cpp.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <filesystem>
+
+class QWidget;
+
+namespace quillor::platform {
+
+/// The command line without the program's own name.
+QStringList arguments(int argc, char** argv);
+
+/// Whether a key pressed together with Alt alone types a character.
+bool altTypesCharacters();
+
+/// Hand a file, or an address that is fully encoded, to the system's handler.
+void openFile(const std::filesystem::path& file);
+void openEncodedAddress(const QString& address);
+
+/// The user's own folder for this program's data; it may not exist yet.
+std::filesystem::path userDataFolder();
+
+/// Shows the system's own about box. False where the system has none.
+bool showSystemAbout(QWidget* parent, const QString& title, const QString& text);
+
+}  // namespace quillor::platform

@@ -1,0 +1,165 @@
+#include "qt/qt_desktop.h"
+
+#include <QClipboard>
+#include <QCoreApplication>
+#include <QCursor>
+#include <QGuiApplication>
+#include <QProcess>
+#include <QResource>
+#include <QTime>
+#include <chrono>
+#include <utility>
+
+#include "core/texts.h"
+#include "qt/address.h"
+#include "qt/picture_loader.h"
+#include "qt/platform.h"
+#include "qt/popup_menu.h"
+#include "qt/qt_values.h"
+#include "qt/screen_window.h"
+
+namespace quillor {
+
+namespace {
+
+constexpr Font kBoxFont{Face::Plain, 12, false};
+
+std::uint64_t clockReading() {
+    return static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
+}
+
+// The middle of the focused control, for a menu that was asked for by key.
+QPoint focusPoint(const ScreenWindow& window) {
+    const QWidget* focus = window.focusWidget();
+    const QWidget& place = focus ? *focus : window;
+    return place.mapToGlobal(place.rect().center());
+}
+
+}  // namespace
+
+QtDesktop::QtDesktop(Shell& shell, std::unique_ptr<SoundPlayer> player)
+    : shell_(shell), player_(std::move(player)), random_(clockReading()) {}
+
+void QtDesktop::attach(Program& program) {
+    program_ = &program;
+    shell_.onIdle = [&program] { program.destroyClosed(); };
+}
+
+QString QtDesktop::lang(const TextPair& pair) const {
+    return toQt(program_->lang(pair));
+}
+
+BoxStyle QtDesktop::boxStyle() const {
+    BoxStyle style;
+    style.parent = shell_.front();
+    const ScreenWindow* window = shell_.front();
+    style.font = shell_.fonts.font(kBoxFont, window ? window->scale().pixels : TwipScale().pixels);
+    return style;
+}
+
+void QtDesktop::messageBox(MessageIcon icon, TextView text) {
+    shell_.modally([&] {
+        showMessage(
+            boxStyle(),
+            icon == MessageIcon::Critical ? QMessageBox::Critical : QMessageBox::Information,
+            toQt(text), lang(texts::kAccept));
+    });
+}
+
+bool QtDesktop::question(TextView text) {
+    return shell_.modally(
+        [&] { return askQuestion(boxStyle(), toQt(text), lang(texts::kYes), lang(texts::kNo)); });
+}
+
+Text QtDesktop::inputBox(TextView prompt) {
+    return shell_.modally([&] {
+        return fromQt(
+            askText(boxStyle(), toQt(prompt), lang(texts::kAccept), lang(texts::kCancel)));
+    });
+}
+
+void QtDesktop::aboutBox(TextView title, TextView text) {
+    shell_.modally([&] {
+        const BoxStyle style = boxStyle();
+        if (!platform::showSystemAbout(style.parent, toQt(title), toQt(text)))
+            showAbout(style, toQt(title), toQt(text), lang(texts::kAccept));
+    });
+}
+
+Text QtDesktop::clipboard() {
+    return fromQt(QGuiApplication::clipboard()->text());
+}
+
+void QtDesktop::setClipboard(TextView text) {
+    QGuiApplication::clipboard()->setText(toQt(text));
+}
+
+bool QtDesktop::fontPresent(TextView name) {
+    return shell_.fonts.present(name);
+}
+
+ImageRef QtDesktop::loadPicture(const std::filesystem::path& file) {
+    return loadPictureFile(file);
+}
+
+void QtDesktop::open(const std::filesystem::path& file) {
+    platform::openFile(file);
+}
+
+void QtDesktop::openAddress(TextView address) {
+    platform::openEncodedAddress(encodedAddress(address));
+}
+
+std::span<const std::byte> QtDesktop::sound(int id) {
+    const QResource carried(QStringLiteral(":/sounds/%1.wav").arg(id));
+    return {reinterpret_cast<const std::byte*>(carried.data()),
+            static_cast<std::size_t>(carried.size())};
+}
+
+void QtDesktop::playWave(std::span<const std::byte> image) {
+    shell_.showNow();
+    player_->play(image);
+}
+
+TimeOfDay QtDesktop::timeOfDay() {
+    const QTime now = QTime::currentTime();
+    return {now.hour(), now.minute(), now.second()};
+}
+
+double QtDesktop::random() {
+    return random_.next();
+}
+
+void QtDesktop::seedRandom() {
+    random_.reseed(clockReading());
+}
+
+void QtDesktop::show(Screen& screen) {
+    shell_.show(screen);
+}
+
+void QtDesktop::close(Screen& screen) {
+    shell_.close(screen);
+}
+
+void QtDesktop::popUp(Screen& screen, MenuItem& menu) {
+    ScreenWindow* window = shell_.find(&screen);
+    if (!window)
+        return;
+    const QPoint at = shell_.isKeyEvent() ? focusPoint(*window) : QCursor::pos();
+    const QFont font = boxStyle().font;
+    MenuItem* chosen = shell_.modally([&] { return choosePopUp(window, menu, font, at); });
+    if (chosen && shell_.isOpen(screen))
+        screen.choose(*chosen);
+}
+
+void QtDesktop::startProgram() {
+    QProcess::startDetached(QCoreApplication::applicationFilePath(),
+                            QCoreApplication::arguments().mid(1));
+}
+
+void QtDesktop::end() {
+    shell_.end();
+}
+
+}  // namespace quillor

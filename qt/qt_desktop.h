@@ -1,0 +1,54 @@
+// The machine as the screens ask for it, by way of the windowing toolkit.
+#pragma once
+
+#include <memory>
+
+#include "app/program.h"
+#include "core/random.h"
+#include "qt/boxes.h"
+#include "qt/shell.h"
+#include "qt/sound_player.h"
+#include "toolkit/desktop.h"
+
+namespace quillor {
+
+class QtDesktop : public Desktop {
+  public:
+    QtDesktop(Shell& shell, std::unique_ptr<SoundPlayer> player);
+
+    /// The program whose language the boxes speak and whose closed screens are
+    /// destroyed when it is safe. To be called before the first screen shows.
+    void attach(Program& program);
+
+    void messageBox(MessageIcon icon, TextView text) override;
+    bool question(TextView text) override;
+    Text inputBox(TextView prompt) override;
+    void aboutBox(TextView title, TextView text) override;
+    Text clipboard() override;
+    void setClipboard(TextView text) override;
+    bool fontPresent(TextView name) override;
+    ImageRef loadPicture(const std::filesystem::path& file) override;
+    void open(const std::filesystem::path& file) override;
+    void openAddress(TextView address) override;
+    std::span<const std::byte> sound(int id) override;
+    void playWave(std::span<const std::byte> image) override;
+    TimeOfDay timeOfDay() override;
+    double random() override;
+    void seedRandom() override;
+    void show(Screen& screen) override;
+    void close(Screen& screen) override;
+    void popUp(Screen& screen, MenuItem& menu) override;
+    void startProgram() override;
+    void end() override;
+
+  private:
+    BoxStyle boxStyle() const;
+    QString lang(const TextPair& pair) const;
+
+    Shell& shell_;
+    std::unique_ptr<SoundPlayer> player_;
+    Program* program_ = nullptr;
+    Random random_;
+};
+
+}  // namespace quillor
