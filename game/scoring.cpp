@@ -106,9 +106,9 @@ void Scoring::count() {
     if (score == target)
         tmrScore.enabled = false;
     else if (settings.giGameState == kWon && score < target)
-        next += score + kCountSlowly <= target ? kCountStep : 1;
+        next += score + kCountSlowly < target ? kCountStep : 1;
     else if (settings.giGameState == kDead && score > target)
-        next -= score - kCountSlowly >= target ? kCountStep : 1;
+        next -= score - kCountSlowly > target ? kCountStep : 1;
     settings.giScore = static_cast<std::int16_t>(next);
 }
 
