@@ -147,8 +147,8 @@ void frmGame::layOutControls() {
     lifeCycle.shpPlay.id = "shpPlay";
     lifeCycle.shpPlay.radius = style::kButtonRadius;
     add(lifeCycle.shpPlay).place(kButtonLeft, 5940, kButtonWidth, 840);
-    Label& play =
-        describe(lifeCycle.lblPlay(0), "lblPlay(0)", style::kButton, kPale, Align::Center);
+    Label& play = describe(lifeCycle.lblPlay(0), "lblPlay(0)", {Face::Display, 15, true}, kPale,
+                           Align::Center);
     play.role = LabelRole::Button;
     play.cornerRadius = style::kButtonRadius;
     add(play).place(kButtonLeft, 5940, kButtonWidth, 840);

@@ -33,15 +33,17 @@ void frmOptions::layOut() {
         lblLetter(i).font = {Face::Display, 40, true};
         lblLetter(i).place(x, kTilesTop, kTile, kTile);
         lnLetter(i).thickness = 60;
-        lnLetter(i).span(x, kTilesTop + kTile, x + kTile, kTilesTop + kTile);
+        // Its round ends stay within the tile.
+        lnLetter(i).span(x + 30, kTilesTop + kTile, x + kTile - 30, kTilesTop + kTile);
     }
 
     for (int i = 0; i <= kLastOption; ++i) {
         const Twips y = kFirstRow + kRow * static_cast<Twips>(i);
-        add(shpCheck(i)).place(kLeft - 30, y - 30, kBox + 60, kBox + 60);
+        add(shpCheck(i)).place(kLeft, y, kBox, kBox);
         Label& box = lblCheck(i);
         box.font = {Face::Webdings, 20, false};
         box.textColor = kPale;
+        box.cornerRadius = shpCheck(i).radius;
         box.role = i == 0 ? LabelRole::Plain : LabelRole::CheckBox;
         add(box).place(kLeft, y, kBox, kBox);
         Label& words = lblOpts(i);
@@ -50,8 +52,11 @@ void frmOptions::layOut() {
         words.align = Align::Left;
         words.role = i == 0 ? LabelRole::Plain : LabelRole::Button;
         words.tabStop = false;
-        add(words).place(kLeft + 720, y - 30, i == 0 ? 2400 : 6000, kBox + 60);
+        add(words).place(kLeft + 720, y, i == 0 ? 2400 : 6000, kBox);
     }
+    // The heading's box never holds a tick: it is a mere dot.
+    shpCheck(0).kind = ShapeKind::Oval;
+    shpCheck(0).place(kLeft + 180, kFirstRow + 180, kBox - 360, kBox - 360);
 
     for (int i = 0; i <= kLastDesign; ++i) {
         const Twips x = kLeft + 3360 + 900 * static_cast<Twips>(i);
@@ -60,6 +65,7 @@ void frmOptions::layOut() {
         lblDs(i).font = {Face::Display, 18, true};
         lblDs(i).textColor = kPale;
         lblDs(i).role = LabelRole::RadioButton;
+        lblDs(i).cornerRadius = shpDs(i).radius;
         add(lblDs(i)).place(x, kFirstRow - 60, 720, 720);
     }
 
