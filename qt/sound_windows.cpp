@@ -1,6 +1,5 @@
 // The sound player of Windows, whose own player takes a whole WAVE image,
 // MPEG Layer 3 included, and blocks until its end.
-#include <mmsystem.h>
 #include <windows.h>
 
 #include "qt/sound_player.h"
