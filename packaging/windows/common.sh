@@ -1,0 +1,41 @@
+# Shared by the Windows packaging scripts: where things are and what they need.
+# Expects $here, the folder of this file; sets $root, $version, $cache, $qt.
+# shellcheck shell=sh disable=SC2034 # the variables are for the scripts that read this file
+
+: "${here:?set it before reading this file}"
+root=$(CDPATH='' cd -- "$here/../.." && pwd)
+version=$(sed -n 's/^project(Quillor VERSION \([0-9.]*\).*/\1/p' "$root/CMakeLists.txt")
+cache=${XDG_CACHE_HOME:-$HOME/.cache}/quillor
+jobs=${QUILLOR_JOBS:-$(nproc)}
+
+# Must match the machine's own qt6-base-dev, whose moc and rcc do the building.
+qt_version=$(dpkg-query -W -f '${Version}' qt6-base-dev 2>/dev/null ||
+    apt-cache policy qt6-base-dev | sed -n 's/.*Candidate: //p')
+qt=${QUILLOR_WINDOWS_QT:-$cache/qt-windows-$qt_version}
+export QUILLOR_WINDOWS_QT="$qt"
+
+# need_packages NAME...: installs those Debian packages that are missing.
+need_packages() {
+    missing=
+    for package in "$@"; do
+        dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' ||
+            missing="$missing $package"
+    done
+    [ -n "$missing" ] || return 0
+    as_root=
+    [ "$(id -u)" -eq 0 ] || as_root=sudo
+    # shellcheck disable=SC2086 # a list of words on purpose
+    $as_root apt-get -o DPkg::Lock::Timeout=600 install -y --no-install-recommends $missing >&2
+}
+
+# start_wine FOLDER: a Windows of its own in that folder, without the add-ons
+# that Wine would offer to download. stop_wine ends it.
+start_wine() {
+    export WINEPREFIX="$1" WINEDEBUG="${WINEDEBUG:--all}" WINEDLLOVERRIDES="mscoree,mshtml="
+    [ -f "$WINEPREFIX/system.reg" ] || wine wineboot --init >/dev/null 2>&1
+}
+
+stop_wine() {
+    wineserver -k >/dev/null 2>&1 || true
+    wineserver -w >/dev/null 2>&1 || true
+}
