@@ -1,6 +1,8 @@
 // The sound player of Windows, whose own player takes a whole WAVE image,
 // MPEG Layer 3 included, and blocks until its end.
 #include <windows.h>
+// After windows.h, which it builds on.
+#include <mmsystem.h>
 
 #include "qt/sound_player.h"
 #include "qt/wave_image.h"

@@ -130,6 +130,8 @@ TEST(WritingFiles, FailsInAFolderThatIsNotThere) {
 
 TEST(WritingFiles, FollowsALink) {
     TempFolder folder;
+    if (!folder.takesLinks())
+        GTEST_SKIP() << "no links can be made here";
     folder.write("real/f", "old");
     std::filesystem::create_symlink(folder / "real" / "f", folder / "link");
     writeFile(folder / "link", "new");
@@ -167,6 +169,8 @@ TEST(FileNames, KeepAnyUnicode) {
 }
 
 TEST(FileNames, OfBytesThatAreNoTextStillRead) {
+    if (sizeof(std::filesystem::path::value_type) != 1)
+        GTEST_SKIP() << "this system's file names are no bytes";
     EXPECT_EQ(fromPath(std::filesystem::path(std::string("a\xFF.txt"))), u"a\uFFFD.txt");
 }
 
@@ -184,6 +188,12 @@ TEST(FileExists, TakesEveryErrorAsNo) {
     EXPECT_FALSE(eFileExists(folder / "f" / "below"));
     EXPECT_FALSE(eFileExists(folder / std::string(5000, 'x')));
     EXPECT_FALSE(eFileExists(""));
+}
+
+TEST(FileExists, TakesALinkToNothingAsNo) {
+    TempFolder folder;
+    if (!folder.takesLinks())
+        GTEST_SKIP() << "no links can be made here";
     std::filesystem::create_symlink("nowhere", folder / "dangling");
     EXPECT_FALSE(eFileExists(folder / "dangling"));
 }

@@ -1,11 +1,12 @@
 // The guard: errors end an operation, keep what it did, and are told of on wish.
 #include "core/guard.h"
 
-#include <cstdlib>
 #include <stdexcept>
 #include <string>
 
 #include <gtest/gtest.h>
+
+#include "tests/support/environment.h"
 
 namespace quillor {
 namespace {
@@ -30,7 +31,7 @@ TEST(Guard, SwallowsWhatIsNoException) {
 
 class GuardLog : public ::testing::Test {
   protected:
-    void TearDown() override { unsetenv("QUILLOR_LOG"); }
+    void TearDown() override { clearVariable("QUILLOR_LOG"); }
 
     static std::string logOf(const char* error) {
         ::testing::internal::CaptureStderr();
@@ -40,12 +41,12 @@ class GuardLog : public ::testing::Test {
 };
 
 TEST_F(GuardLog, SaysNothingUnlessAsked) {
-    unsetenv("QUILLOR_LOG");
+    clearVariable("QUILLOR_LOG");
     EXPECT_EQ(logOf("broken"), "");
 }
 
 TEST_F(GuardLog, WritesOneLineWithOperationAndErrorWhenAsked) {
-    setenv("QUILLOR_LOG", "1", 1);
+    setVariable("QUILLOR_LOG", "1");
     EXPECT_EQ(logOf("broken"), "quillor: eTest ended: broken\n");
 }
 

@@ -51,6 +51,8 @@ TEST_F(Library, ListsTextFilesByNameInAnyCase) {
 }
 
 TEST_F(Library, ListsNamesThatDifferInCaseAloneInAStableOrder) {
+    if (!folder.tellsCaseApart())
+        GTEST_SKIP() << "such names are one file here";
     for (const char* name : {"a.txt", "A.txt", "a.TXT"})
         topic(name, "");
     EXPECT_EQ(listed(), (Names{u"A.txt", u"a.TXT", u"a.txt"}));
@@ -69,6 +71,8 @@ TEST_F(Library, DoesNotListFolders) {
 }
 
 TEST_F(Library, ListsLinksToFilesOnly) {
+    if (!folder.takesLinks())
+        GTEST_SKIP() << "no links can be made here";
     topic("a.txt", "A");
     std::filesystem::create_symlink("a.txt", folder / "Temas" / "b.txt");
     std::filesystem::create_symlink("nowhere", folder / "Temas" / "c.txt");

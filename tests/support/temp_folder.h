@@ -47,6 +47,22 @@ class TempFolder {
         return std::filesystem::exists(path_ / name);
     }
 
+    /// Whether symbolic links can be made here. Windows reserves them.
+    bool takesLinks() const {
+        std::error_code error;
+        std::filesystem::create_symlink("nowhere", path_ / "link-probe", error);
+        std::error_code ignored;
+        std::filesystem::remove(path_ / "link-probe", ignored);
+        return !error;
+    }
+    /// Whether names that differ in capitals alone are two files.
+    bool tellsCaseApart() const {
+        write("case-probe", "");
+        const bool apart = !has("CASE-PROBE");
+        std::filesystem::remove(path_ / "case-probe");
+        return apart;
+    }
+
   private:
     // Test programs run side by side, so the clock alone is not enough.
     static std::filesystem::path uniquePath() {
