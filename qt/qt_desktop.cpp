@@ -5,13 +5,13 @@
 #include <QCursor>
 #include <QGuiApplication>
 #include <QProcess>
-#include <QResource>
 #include <QTime>
 #include <chrono>
 #include <utility>
 
 #include "core/texts.h"
 #include "qt/address.h"
+#include "qt/carried_sounds.h"
 #include "qt/picture_loader.h"
 #include "qt/platform.h"
 #include "qt/popup_menu.h"
@@ -111,9 +111,7 @@ void QtDesktop::openAddress(TextView address) {
 }
 
 std::span<const std::byte> QtDesktop::sound(int id) {
-    const QResource carried(QStringLiteral(":/sounds/%1.wav").arg(id));
-    return {reinterpret_cast<const std::byte*>(carried.data()),
-            static_cast<std::size_t>(carried.size())};
+    return carriedSound(id);
 }
 
 void QtDesktop::playWave(std::span<const std::byte> image) {
