@@ -8,7 +8,7 @@
 set -eu
 
 here=$(CDPATH='' cd -- "$(dirname -- "$0")" && pwd)
-# shellcheck source=packaging/windows/common.sh
+# shellcheck source=SCRIPTDIR/common.sh
 . "$here/common.sh"
 
 if [ -f "$qt/.complete" ]; then
@@ -25,6 +25,7 @@ cd "$work"
 
 # A sources list of its own: the machine's lists stay as they are.
 fetch_source() {
+    # shellcheck source=/dev/null
     . /etc/os-release
     echo "deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg]" \
         "http://deb.debian.org/debian $VERSION_CODENAME main" >deb-src.list
@@ -59,11 +60,12 @@ configure() {
         -DFEATURE_system_zlib=OFF -DFEATURE_system_pcre2=OFF -DFEATURE_system_doubleconversion=OFF \
         -DFEATURE_system_png=OFF -DFEATURE_system_jpeg=OFF -DFEATURE_system_freetype=OFF \
         -DFEATURE_system_harfbuzz=OFF -DFEATURE_graphicsview=OFF -DFEATURE_wizard=OFF \
-        -DFEATURE_pdf=OFF -DFEATURE_textodfwriter=OFF
+        -DFEATURE_pdf=OFF -DFEATURE_textodfwriter=OFF -DFEATURE_direct2d=OFF \
+        -DFEATURE_direct2d1_1=OFF
 }
 
 configure >&2
-nice -n 19 ninja -C build -j "${QUILLOR_JOBS:-$(nproc)}" >&2
+nice -n 19 ninja -C build -j "$jobs" >&2
 cmake --install build >&2
 mkdir -p "$qt/licences"
 cp source/LICENSES/LGPL-3.0-only.txt source/LICENSES/GPL-3.0-only.txt "$qt/licences/"

@@ -23,7 +23,7 @@ compile() {
     cd "$root"
     cmake --preset windows
     cmake --build --preset windows -j "$jobs"
-    no_foreign_dlls "$build/Quillor.exe"
+    no_foreign_dlls "$build/qt/Quillor.exe"
 }
 
 # Windows' own libraries only: whatever the compiler or Qt brings must be inside.
@@ -36,21 +36,15 @@ no_foreign_dlls() {
 # What is installed and zipped, the same for both.
 fill_stage() {
     rm -rf "$stage"
-    mkdir -p "$stage/fonts" "$stage/licences"
-    cp "$build/Quillor.exe" "$stage/"
-    cp /usr/share/fonts/truetype/quicksand/Quicksand-Bold.ttf \
-        /usr/share/fonts/opentype/comic-neue/ComicNeue-*.otf "$stage/fonts/"
-    [ ! -f "$root/resources/Quillor-Manual.txt" ] ||
-        windows_text "$root/resources/Quillor-Manual.txt" "$stage/Quillor-Manual.txt"
+    cmake --install "$build" --prefix "$stage" >/dev/null
     fill_licences
 }
 
 fill_licences() {
     doc=/usr/share/doc
+    mkdir -p "$stage/licences"
     windows_text "$root/LICENSE" "$stage/licences/Quillor.txt"
     windows_text "$here/third-party.txt" "$stage/licences/Third-party.txt"
-    windows_text "$doc/fonts-quicksand/copyright" "$stage/licences/Quicksand.txt"
-    windows_text "$doc/fonts-comic-neue/copyright" "$stage/licences/Comic-Neue.txt"
     windows_text "$doc/mingw-w64-common/copyright" "$stage/licences/MinGW-w64.txt"
     windows_text "$doc/gcc-mingw-w64-base/copyright" "$stage/licences/GCC-runtime.txt"
     for text in "$qt/licences/"*.txt; do
