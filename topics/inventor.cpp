@@ -123,7 +123,7 @@ void frmInventor::eTranslate() {
     lstTopics.toolTip = program_.lang(texts::kPhrasesTip);
     lstTopics.spokenName = program_.lang(texts::kSpokenPhrases);
     lblSave(1).caption = program_.lang(texts::kSave);
-    lblSave(0).spokenName = lblSave(1).caption;
+    lblSave(0).spokenName = replaceAll(lblSave(1).caption, u"&&", u"&");
 }
 
 void frmInventor::eRefreshButton() {

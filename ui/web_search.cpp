@@ -28,6 +28,7 @@ void WebSearch::offer(bool shown) {
 
 void WebSearch::eTranslate() {
     lblFinder(0).caption = program_.lang(texts::kFinder);
+    lblFinder(1).spokenName = replaceAll(lblFinder(0).caption, u"&", u"");
     for (Label& label : lblFinder)
         label.toolTip = program_.lang(texts::kFinderTip);
 }
