@@ -27,7 +27,11 @@ Text number(int value) {
 
 std::int16_t deathPoints(const GameResult& game) {
     const double base = game.hard ? kHardDeathBase : kDeathBase;
-    return toInteger(std::floor(-(base - base * game.found / game.letters)));
+    // A phrase whose characters all lie past the board has no letter to share by.
+    const double kept = game.letters > 0 ? base * game.found / game.letters : 0;
+    // The letters found may be those of an earlier, longer phrase: a death is
+    // never a gain, for the score would count towards it without end.
+    return toInteger(std::floor(-(base - std::min(kept, base))));
 }
 
 std::int16_t victoryPoints(const GameResult& game) {
