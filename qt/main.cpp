@@ -1,9 +1,11 @@
 // Starts the program: command line, program folder, fonts, screens.
 #include <QApplication>
 #include <QIcon>
+#include <QTemporaryDir>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <stdexcept>
 
 #include "app/program.h"
 #include "core/files.h"
@@ -13,6 +15,7 @@
 #include "qt/program_folder.h"
 #include "qt/qt_desktop.h"
 #include "qt/qt_values.h"
+#include "qt/tour_script.h"
 #include "topics/register_screens.h"
 #include "ui/options.h"
 
@@ -20,6 +23,7 @@ namespace quillor {
 
 namespace {
 
+constexpr int kFailedTour = 1;
 constexpr int kBadUsage = 2;
 
 void complain(const QString& line) {
@@ -34,17 +38,17 @@ void onlyFatal(QtMsgType type, const QMessageLogContext&, const QString&) {
     std::_Exit(kBadUsage);
 }
 
+std::filesystem::path executableFolder() {
+    return toPath(fromQt(QCoreApplication::applicationDirPath()));
+}
+
 class Session {
   public:
-    explicit Session(const CommandLine& line)
-        : executableFolder_(toPath(fromQt(QCoreApplication::applicationDirPath()))),
-          folder_(line.folder.isEmpty()
-                      ? findProgramFolder(executableFolder_, platform::userDataFolder())
-                      : useFolder(toPath(fromQt(line.folder)))),
-          fonts_({folder_ / "fonts", executableFolder_ / "fonts"}),
+    explicit Session(const std::filesystem::path& folder)
+        : fonts_({folder / "fonts", executableFolder() / "fonts"}),
           shell_(fonts_),
           desktop_(shell_, makeSoundPlayer()),
-          program_(desktop_, folder_) {
+          program_(desktop_, folder) {
         desktop_.attach(program_);
         addSettingsScreen(program_);
         addTopicScreens(program_);
@@ -56,25 +60,56 @@ class Session {
         return shell_.hasEnded() ? 0 : QApplication::exec();
     }
 
+    /// Plays by itself and leaves pictures in `pictures`.
+    int runTour(const QString& pictures) {
+        QString failure;
+        Tour tour(pictures, [&](const QString& howItWent) {
+            failure = howItWent;
+            shell_.end();
+        });
+        shell_.event([&] { program_.show(ScreenId::Start); });
+        tour.start(tourScript(tour, program_.settings.gbEnglish));
+        QApplication::exec();
+        if (!failure.isEmpty())
+            complain(failure);
+        return failure.isEmpty() ? 0 : kFailedTour;
+    }
+
   private:
-    std::filesystem::path executableFolder_;
-    std::filesystem::path folder_;
     FontBook fonts_;
     Shell shell_;
     QtDesktop desktop_;
     Program program_;
 };
 
+// In a folder of its own, so that the player's settings and topics stay as they
+// are; what changes the look is taken from the player's folder.
+int playTour(const QString& pictures, const std::filesystem::path& model) {
+    const QTemporaryDir folder;
+    if (!folder.isValid())
+        throw std::runtime_error("no temporary folder for the tour");
+    const std::filesystem::path path = toPath(fromQt(folder.path()));
+    prepareTourFolder(path, model);
+    return Session(path).runTour(pictures);
+}
+
 int play(const CommandLine& line, int argc, char** argv) {
-    // Before a display is looked for: a wrong folder needs none.
+    // Before a display is looked for: wrong folders need none.
+    std::filesystem::path folder;
     if (!line.folder.isEmpty())
-        useFolder(toPath(fromQt(line.folder)));
+        folder = useFolder(toPath(fromQt(line.folder)));
+    if (!line.tour.isEmpty())
+        useFolder(toPath(fromQt(line.tour)));
     qInstallMessageHandler(onlyFatal);
     QApplication application(argc, argv);
     qInstallMessageHandler(nullptr);
     QApplication::setApplicationName("Quillor");
     QApplication::setQuitOnLastWindowClosed(false);
-    return Session(line).run();
+    if (!line.tour.isEmpty())
+        return playTour(line.tour, folder);
+    if (folder.empty())
+        folder = findProgramFolder(executableFolder(), platform::userDataFolder());
+    return Session(folder).run();
 }
 
 int run(int argc, char** argv) {

@@ -1,0 +1,189 @@
+#include "qt/tour.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTimer>
+#include <QWindow>
+#include <cstdio>
+#include <utility>
+
+#include "qt/label_views.h"
+#include "qt/qt_values.h"
+
+namespace quillor {
+
+namespace {
+
+constexpr int kLookAgain = 30;   // ms
+constexpr int kPatience = 8000;  // ms, until a step counts as failed
+constexpr int kPause = 90;       // ms between two steps, about as a quick player's
+
+// What takes keys and mouse now: an open menu, a box, or the window in front.
+QWidget* front() {
+    if (QWidget* popup = QApplication::activePopupWidget())
+        return popup;
+    if (QWidget* modal = QApplication::activeModalWidget())
+        return modal;
+    return QApplication::activeWindow();
+}
+
+QWidget* control(const QString& id) {
+    QWidget* window = front();
+    QWidget* found = window ? window->findChild<QWidget*>(id) : nullptr;
+    return found && found->isVisible() ? found : nullptr;
+}
+
+// To the native window, as if they came from the desktop.
+void post(QWidget& window, QEvent* event) {
+    if (QWindow* native = window.window()->windowHandle())
+        QCoreApplication::postEvent(native, event);
+    else
+        delete event;
+}
+
+void postKey(QWidget& window, int key, Qt::KeyboardModifiers modifiers, const QString& text) {
+    post(window, new QKeyEvent(QEvent::KeyPress, key, modifiers, text));
+    post(window, new QKeyEvent(QEvent::KeyRelease, key, modifiers, text));
+}
+
+void postMouse(QWidget& widget, QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held) {
+    const QPoint inWindow = widget.mapTo(widget.window(), widget.rect().center());
+    const QPoint onDisplay = widget.mapToGlobal(widget.rect().center());
+    post(widget, new QMouseEvent(type, inWindow, onDisplay, button, held, Qt::NoModifier));
+}
+
+// The windows in front of each other, as they stand on the display.
+QPixmap grabAll() {
+    QWidget* back = nullptr;
+    QList<QWidget*> shown;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible() && window->windowType() != Qt::ToolTip)
+            shown.append(window);
+    for (QWidget* window : std::as_const(shown))
+        if (!back || window->width() > back->width())
+            back = window;
+    if (!back)
+        return {};
+    QPixmap picture = back->grab();
+    QPainter painter(&picture);
+    shown.removeOne(back);
+    QWidget* const top = front();
+    if (shown.removeOne(top))
+        shown.append(top);
+    for (QWidget* window : std::as_const(shown))
+        painter.drawPixmap(window->geometry().topLeft() - back->geometry().topLeft(),
+                           window->grab());
+    return picture;
+}
+
+}  // namespace
+
+Tour::Tour(QString folder, std::function<void(QString)> finished)
+    : folder_(std::move(folder)), finished_(std::move(finished)) {}
+
+void Tour::start(std::vector<TourStep> steps) {
+    steps_ = std::move(steps);
+    waiting_.start();
+    QTimer::singleShot(kPause, this, [this] { next(); });
+}
+
+// Steps only post events, so that a box which an event opens does not hold the
+// tour up.
+void Tour::next() {
+    if (at_ == steps_.size()) {
+        finished_({});
+        return;
+    }
+    const TourStep& step = steps_.at(at_);
+    if (step.ready()) {
+        step.act();
+        ++at_;
+        waiting_.restart();
+        const int pause = at_ < steps_.size() ? steps_.at(at_).pause : 0;
+        QTimer::singleShot(pause, this, [this] { next(); });
+    } else if (waiting_.elapsed() > kPatience) {
+        finished_("step " + QString::number(at_ + 1) + " could not be done: " + step.name);
+    } else {
+        QTimer::singleShot(kLookAgain, this, [this] { next(); });
+    }
+}
+
+TourStep Tour::waitFor(const QString& window) const {
+    return {"wait for " + window, kPause,
+            [window] { return front() && front()->objectName() == window; }, [] {}};
+}
+
+TourStep Tour::waitForBox() const {
+    return {"wait for a box", kPause,
+            [] { return QApplication::activeModalWidget() || QApplication::activePopupWidget(); },
+            [] {}};
+}
+
+TourStep Tour::key(int key, Qt::KeyboardModifiers modifiers) const {
+    return {"press a key", kPause, [] { return front() != nullptr; },
+            [key, modifiers] { postKey(*front(), key, modifiers, {}); }};
+}
+
+TourStep Tour::type(const QString& character) const {
+    return {"type " + character, kPause, [] { return front() != nullptr; },
+            [character] {
+                const int code = character.at(0).toUpper().unicode();
+                postKey(*front(), code, Qt::NoModifier, character);
+            }};
+}
+
+TourStep Tour::moveTo(const QString& id) const {
+    return {"move to " + id, kPause, [id] { return control(id) != nullptr; },
+            [id] { postMouse(*control(id), QEvent::MouseMove, Qt::NoButton, Qt::NoButton); }};
+}
+
+TourStep Tour::press(const QString& id) const {
+    return {"press " + id, kPause, [id] { return control(id) != nullptr; },
+            [id] {
+                postMouse(*control(id), QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
+                postMouse(*control(id), QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+            }};
+}
+
+TourStep Tour::release(const QString& id) const {
+    return {"release " + id, kPause, [id] { return control(id) != nullptr; },
+            [id] {
+                postMouse(*control(id), QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
+            }};
+}
+
+TourStep Tour::expect(const QString& id, const QString& text) const {
+    const auto shows = [id, text] {
+        const auto* label = dynamic_cast<const LabelView*>(control(id));
+        return label && toQt(label->label().caption).contains(text);
+    };
+    return {id + " shows \"" + text + "\"", 0, shows, [] {}};
+}
+
+TourStep Tour::closeWindow() const {
+    return {"close the window", kPause, [] { return front() != nullptr; },
+            [] { QMetaObject::invokeMethod(front(), &QWidget::close, Qt::QueuedConnection); }};
+}
+
+TourStep Tour::picture(const QString& name, int pause) {
+    return {"picture " + name, pause, [] { return front() != nullptr; },
+            [this, name] { save(name); }};
+}
+
+QString Tour::pictureFile(const QString& name) {
+    const QString number = QString::number(++pictures_).rightJustified(2, '0');
+    return QDir(folder_).absoluteFilePath(number + '-' + name + ".png");
+}
+
+void Tour::save(const QString& name) {
+    const QString file = pictureFile(name);
+    if (grabAll().save(file))
+        std::printf("%s\n", file.toLocal8Bit().constData());
+    else
+        steps_.push_back({"write " + file, 0, [] { return false; }, [] {}});
+}
+
+}  // namespace quillor

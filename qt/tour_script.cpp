@@ -1,0 +1,210 @@
+#include "qt/tour_script.h"
+
+#include <system_error>
+
+#include "core/files.h"
+#include "qt/qt_values.h"
+
+namespace quillor {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* kAnswer = "la luna llena";
+
+/// Adds steps to a list, one part of the tour at a time.
+class Script {
+  public:
+    Script(Tour& tour, bool english) : tour_(tour), english_(english) {}
+
+    std::vector<TourStep> write() {
+        startAndMenu();
+        classicGame();
+        lostGame();
+        wonGame();
+        hiddenLetters();
+        inventor();
+        settings();
+        add(tour_.closeWindow());
+        return std::move(steps_);
+    }
+
+  private:
+    void add(TourStep step) { steps_.push_back(std::move(step)); }
+    void picture(const QString& name, int pause = 350) { add(tour_.picture(name, pause)); }
+    void key(int code, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        add(tour_.key(code, modifiers));
+    }
+    void type(const QString& text) {
+        for (const QChar character : text)
+            add(tour_.type(character));
+    }
+    void click(const QString& id) {
+        add(tour_.press(id));
+        add(tour_.release(id));
+    }
+    void expect(const QString& id, const TextPair& pair) {
+        const TextView text = english_ ? pair.english : pair.spanish;
+        add(tour_.expect(id, toQt(text)));
+    }
+
+    void startAndMenu() {
+        add(tour_.waitFor("frmStart"));
+        picture("start", 400);
+        add(tour_.waitFor("frmMenu"));
+        picture("menu");
+        add(tour_.moveTo("lblOption(5)"));
+        picture("menu-hover", 150);
+        add(tour_.press("lblOption(5)"));
+        picture("menu-pressed", 150);
+        add(tour_.moveTo("imgBack"));
+        add(tour_.release("imgBack"));
+    }
+
+    void classicGame() {
+        key(Qt::Key_C);
+        add(tour_.waitFor("frmGame"));
+        expect("lblMode", texts::kClassicMode);
+        picture("game-idle");
+        key(Qt::Key_Return);
+        add(tour_.waitFor("frmWord1"));
+        type("ruta 66 al sur");
+        key(Qt::Key_Return);
+        type(english_ ? "journeys" : "viajes");
+        picture("classic-entry");
+        key(Qt::Key_Return);
+        add(tour_.waitFor("frmGame"));
+        picture("game-with-first-letter", 600);
+        add(tour_.moveTo("lblKey(19)"));
+        picture("key-hover", 150);
+        add(tour_.press("lblKey(19)"));
+        picture("key-pressed", 150);
+        add(tour_.release("lblKey(19)"));
+        click("lblKey(38)");
+        picture("game-digits");
+        type("arutls6");
+        expect("lblStatus", texts::kVictory);
+        picture("classic-victory");
+        key(Qt::Key_F2);
+        add(tour_.waitFor("frmMenu"));
+    }
+
+    void startArcadeGame() {
+        key(Qt::Key_Return);
+        add(tour_.waitFor("frmWord2"));
+        key(Qt::Key_Up);
+    }
+
+    void lostGame() {
+        key(Qt::Key_A);
+        add(tour_.waitFor("frmGame"));
+        // Without sounds there is time to see the points.
+        key(Qt::Key_S, Qt::ControlModifier);
+        startArcadeGame();
+        picture("topic-selection");
+        key(Qt::Key_Return);
+        add(tour_.waitFor("frmGame"));
+        type("lxyz");
+        picture("game-three-mistakes", 700);
+        key(Qt::Key_Menu);
+        add(tour_.waitForBox());
+        picture("game-menu");
+        key(Qt::Key_Escape);
+        add(tour_.waitFor("frmGame"));
+        type("wvk");
+        expect("lblStatus", texts::kDead);
+        picture("dead", 250);
+        // The score has been counted down and pulses.
+        add(tour_.picture("low-score", 4600));
+    }
+
+    void wonGame() {
+        startArcadeGame();
+        key(Qt::Key_Return);
+        add(tour_.waitFor("frmGame"));
+        type("!");
+        add(tour_.waitForBox());
+        picture("answer-box");
+        type(kAnswer);
+        key(Qt::Key_Return);
+        expect("lblStatus", texts::kVictory);
+        picture("victory-with-bonus", 250);
+        picture("victory", 4500);
+    }
+
+    void hiddenLetters() {
+        key(Qt::Key_O, Qt::ControlModifier);
+        startArcadeGame();
+        key(Qt::Key_Return);
+        add(tour_.waitFor("frmGame"));
+        type("la");
+        picture("game-hidden-letters", 600);
+        key(Qt::Key_F2);
+        add(tour_.waitForBox());
+        picture("leave-question");
+        key(Qt::Key_Return);
+        add(tour_.waitFor("frmMenu"));
+    }
+
+    void inventor() {
+        key(Qt::Key_I);
+        add(tour_.waitFor("frmInventor"));
+        type(english_ ? "fruits" : "frutas");
+        key(Qt::Key_Return);
+        for (const char* phrase : {"pera", "uva verde", "durazno"}) {
+            type(phrase);
+            key(Qt::Key_Return);
+        }
+        picture("inventor");
+        click("lblBack");
+        add(tour_.waitFor("frmMenu"));
+    }
+
+    void settings() {
+        key(Qt::Key_S);
+        add(tour_.waitFor("frmOptions"));
+        picture("settings");
+        for (const int design : {1, 2, 3, 4}) {
+            key(Qt::Key_0 + design);
+            picture("settings-design-" + QString::number(design));
+            if (design == 2)
+                key(Qt::Key_C);
+        }
+        key(Qt::Key_Backspace);
+        add(tour_.waitFor("frmMenu"));
+        key(Qt::Key_A);
+        add(tour_.waitFor("frmGame"));
+        startArcadeGame();
+        key(Qt::Key_Return);
+        add(tour_.waitFor("frmGame"));
+        key(Qt::Key_O, Qt::ControlModifier);
+        type("ln");
+        picture("game-filled-letters-and-clock", 600);
+    }
+
+    Tour& tour_;
+    bool english_;
+    std::vector<TourStep> steps_;
+};
+
+}  // namespace
+
+void prepareTourFolder(const fs::path& folder, const fs::path& model) {
+    std::error_code ignored;
+    if (!model.empty())
+        for (const char* name : {"English.txt", "Color.txt", "Pic.jpg"})
+            fs::copy_file(model / name, folder / name, ignored);
+    const bool english = eFileExists(folder / "English.txt");
+    const fs::path topics = folder / (english ? "Topics" : "Temas");
+    fs::create_directories(topics);
+    // One answer, however it is dealt: the two phrases differ by an accent.
+    writeLines(topics / "LUNA.txt", {english ? u"UP IN THE SKY" : u"EN EL CIELO [español]",
+                                     u"la luna llena", u"la lúna llena"});
+}
+
+std::vector<TourStep> tourScript(Tour& tour, bool english) {
+    return Script(tour, english).write();
+}
+
+}  // namespace quillor
