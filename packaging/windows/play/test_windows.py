@@ -1,0 +1,113 @@
+"""The packed Windows program is started, played and set up as on other systems."""
+
+from harness.player import QUIET, SAME_LETTERS
+from test_first_start import ENGLISH_SAMPLE, FIRST_SETTINGS, SPANISH_SAMPLE, stored
+from windows_player import WindowsPlayer
+
+WON = "rgb(30,180,30)"
+LOST = "rgb(250,30,30)"
+
+
+def lines(*texts):
+    return "".join(text + "\r\n" for text in texts).encode("cp1252")
+
+
+class FirstStart(WindowsPlayer):
+    sample = SPANISH_SAMPLE
+    added = set()
+
+    def test_leaves_the_settings_and_the_sample_beside_the_program(self):
+        self.start_at_menu()
+        topic = f"{self.words.topic_folder}/DEMO.txt"
+        self.assertEqual(self.new_files(), {"Quillor-Config.ini", topic} | self.added)
+        self.assertEqual(self.get("Quillor-Config.ini"), FIRST_SETTINGS)
+        self.assertEqual(self.get(topic), stored(self.sample))
+        self.picture(f"menu-{type(self).__name__}")
+
+
+class FirstStartInEnglish(FirstStart):
+    english = True
+    sample = ENGLISH_SAMPLE
+    added = {"English.txt"}
+
+
+class Games(WindowsPlayer):
+    def setUp(self):
+        super().setUp()
+        self.put("Quillor-Config.ini", QUIET)
+        self.put("Temas/Letras.txt", "\n".join(["LETRAS", *SAME_LETTERS]) + "\n")
+        self.start_at_menu()
+        self.open("a", self.words.arcade_title)
+
+    def deal(self, title):
+        self.open("Return", self.words.select_topic)
+        self.open("Return", title)
+
+    def test_one_is_won_and_one_is_lost_by_keyboard(self):
+        self.deal(self.words.arcade_title)
+        self.key("a", "b", "c")
+        self.expect_much_of(WON, "game-won")
+        self.deal(f"{self.words.arcade_title} [1]")
+        self.picture("game-begun")
+        self.key("a", "d", "e", "f", "g", "h", "i")
+        self.expect_much_of(LOST, "game-lost")
+        self.open("F2", self.words.menu_title)
+
+    def test_one_in_play_is_left_only_after_asking(self):
+        self.deal(self.words.arcade_title)
+        self.open("F2", "Quillor")
+        self.picture("question")
+        self.open("Escape", self.words.arcade_title)
+        self.key("b")
+        self.open("F2", "Quillor")
+        self.open("Escape", self.words.arcade_title)
+
+
+class Settings(WindowsPlayer):
+    def test_are_on_the_disk_at_once_and_come_back(self):
+        self.put("Quillor-Config.ini", QUIET)
+        self.start_at_menu()
+        self.open("s", self.words.settings_title)
+        held = ["0"] * 11
+        for key, line, value in (("w", 2, "1"), ("d", 4, "1"), ("c", 6, "1"), ("4", 0, "3")):
+            self.key(key)
+            held[line] = value
+            held[10] = self.get("Quillor-Config.ini").split(b"\r\n")[10].decode()
+            self.expect_file("Quillor-Config.ini", lines(*held))
+        self.picture("settings")
+        self.open("BackSpace", self.words.menu_title)
+        self.open("a", self.words.arcade_title + self.words.hard_and_time)
+
+
+class Inventor(WindowsPlayer):
+    def setUp(self):
+        super().setUp()
+        self.put("Quillor-Config.ini", QUIET)
+
+    def write_topic(self, name, *phrases):
+        self.open("i", "Quillor | Inventor")
+        self.hands.type(name)
+        self.key("Return")
+        for phrase in phrases:
+            self.hands.type(phrase)
+            self.key("Return")
+
+    def save(self):
+        """From the phrase field past its two buttons to the list, where Return saves."""
+        self.key("Tab", "Tab", "Tab")
+        self.open("Return", "Quillor")
+        self.picture("restart-question")
+
+    def test_topic_is_played_after_the_restart(self):
+        self.start_at_menu()
+        self.write_topic("Años", "ñab", "añb", "bañ")
+        self.picture("inventor")
+        self.save()
+        self.assertEqual(self.get("Temas/AÑOS.txt"), lines("AÑOS [español]", "ñab", "añb", "bañ"))
+        self.open("Return", self.words.menu_title)
+        self.open("a", self.words.arcade_title)
+        self.open("Return", self.words.select_topic)
+        self.open("Return", self.words.arcade_title)
+        self.picture("own-topic-begun")
+        self.key("a", "b", "ntilde")
+        self.expect_much_of(WON, "own-topic-won")
