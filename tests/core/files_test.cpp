@@ -103,7 +103,7 @@ TEST(ReadingFiles, TakesALineEndThatIsReadInTwoPieces) {
 TEST(ReadingFiles, LooksOnlyAtTheStartOfAHugeFile) {
     TempFolder folder;
     folder.write("f", "one\r\ntwo\r\nthree\r\n" + std::string(100'000, '\n'));
-    std::filesystem::resize_file(folder / "f", 8ULL << 30);  // takes no room on the disk
+    std::filesystem::resize_file(folder / "f", 64 << 20);
     EXPECT_EQ(readLines(folder / "f", 2), (Lines{u"one", u"two"}));
     EXPECT_LT(readFileStart(folder / "f", 2).size(), 1'000'000U);
 }
@@ -111,7 +111,7 @@ TEST(ReadingFiles, LooksOnlyAtTheStartOfAHugeFile) {
 TEST(ReadingFiles, GivesUpOnALineThatNeverEnds) {
     TempFolder folder;
     folder.write("f", "x");
-    std::filesystem::resize_file(folder / "f", 8ULL << 30);
+    std::filesystem::resize_file(folder / "f", 20 << 20);
     EXPECT_THROW(readLines(folder / "f", 2), std::runtime_error);
 }
 

@@ -137,7 +137,7 @@ TEST_F(Library, EndsAtAFileWithAFiftySecondLine) {
 TEST_F(Library, EndsAtAFileThatCannotBeRead) {
     topic("a.txt", "first");
     topic("b.txt", "x");
-    std::filesystem::resize_file(folder / "Temas" / "b.txt", 8ULL << 30);  // more than is taken
+    std::filesystem::resize_file(folder / "Temas" / "b.txt", 20 << 20);  // more than is taken
     topic("c.txt", "third");
     load();
     EXPECT_EQ(settings.giTopicMax, 2);

@@ -1,4 +1,5 @@
-// Writing where there is no room left: all stays as it was.
+// Writing where there is no room left: all stays as it was. Not on Windows, which
+// has no limit to set.
 #include <csignal>
 
 #include <gtest/gtest.h>
