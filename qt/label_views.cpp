@@ -68,6 +68,7 @@ void ButtonView::paintEvent(QPaintEvent*) {
 
 void ButtonView::mouseMoveEvent(QMouseEvent* event) {
     QAbstractButton::mouseMoveEvent(event);
+    event->accept();  // the frame behind it is not what the mouse moves over
     if (rect().contains(event->position().toPoint()))
         link().event([&](Screen& screen) { screen.mouseMove(label()); });
 }

@@ -77,6 +77,14 @@ Symbol bin() {
     return symbol;
 }
 
+Symbol magnifier() {
+    Symbol symbol;
+    symbol.pen = 0.11;
+    symbol.strokes.addEllipse(QPointF(0.42, 0.42), 0.27, 0.27);
+    symbol.strokes.addPath(polyline({{0.63, 0.63}, {0.88, 0.88}}));
+    return symbol;
+}
+
 Symbol stroked(QPainterPath path) {
     return {std::move(path), {}, 0.13};
 }
@@ -112,6 +120,7 @@ std::map<SymbolKey, Symbol> makeSymbols() {
         {{web, kQuestion[0]}, question()},
         {{web, kTriangleLeft[0]}, filled(polyline({{0.7, 0.16}, {0.26, 0.5}, {0.7, 0.84}}, true))},
         {{web, kTriangleRight[0]}, filled(polyline({{0.3, 0.16}, {0.74, 0.5}, {0.3, 0.84}}, true))},
+        {{web, kMagnifier[0]}, magnifier()},
         {{wing, kArrowLeft[0]}, arrowLeft()},
         {{wing, kPlus[0]}, plus()},
         {{wing, kDelete[0]}, bin()},

@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QTimer>
 #include <QWindow>
+#include <algorithm>
 #include <cstdio>
 #include <utility>
 
@@ -49,33 +50,48 @@ void postKey(QWidget& window, int key, Qt::KeyboardModifiers modifiers, const QS
     post(window, new QKeyEvent(QEvent::KeyRelease, key, modifiers, text));
 }
 
-void postMouse(QWidget& widget, QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held) {
-    const QPoint inWindow = widget.mapTo(widget.window(), widget.rect().center());
-    const QPoint onDisplay = widget.mapToGlobal(widget.rect().center());
+void postMouse(QWidget& widget, QEvent::Type type, QPoint place, Qt::MouseButton button,
+               Qt::MouseButtons held) {
+    const QPoint inWindow = widget.mapTo(widget.window(), place);
+    const QPoint onDisplay = widget.mapToGlobal(place);
     post(widget, new QMouseEvent(type, inWindow, onDisplay, button, held, Qt::NoModifier));
 }
 
-// The windows in front of each other, as they stand on the display.
-QPixmap grabAll() {
-    QWidget* back = nullptr;
+// Two moves: the first one may be spent on entering the widget.
+void moveOnto(QWidget& widget) {
+    const QPoint center = widget.rect().center();
+    for (const QPoint place : {center + QPoint(1, 1), center})
+        postMouse(widget, QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton);
+}
+
+QList<QWidget*> windowsFromBack() {
     QList<QWidget*> shown;
     for (QWidget* window : QApplication::topLevelWidgets())
         if (window->isVisible() && window->windowType() != Qt::ToolTip)
             shown.append(window);
-    for (QWidget* window : std::as_const(shown))
-        if (!back || window->width() > back->width())
-            back = window;
-    if (!back)
+    const auto width = [](const QWidget* window) { return window->width(); };
+    std::sort(shown.begin(), shown.end(),
+              [width](const QWidget* a, const QWidget* b) { return width(a) > width(b); });
+    if (shown.removeOne(front()))
+        shown.append(front());
+    return shown;
+}
+
+// The windows in front of each other, as they stand on the display.
+QPixmap grabAll() {
+    QRect extent;
+    const QList<QWidget*> windows = windowsFromBack();
+    for (const QWidget* window : windows)
+        extent |= window->geometry();
+    if (extent.isEmpty())
         return {};
-    QPixmap picture = back->grab();
+    const double density = windows.front()->devicePixelRatioF();
+    QPixmap picture((QSizeF(extent.size()) * density).toSize());
+    picture.setDevicePixelRatio(density);
+    picture.fill(Qt::white);
     QPainter painter(&picture);
-    shown.removeOne(back);
-    QWidget* const top = front();
-    if (shown.removeOne(top))
-        shown.append(top);
-    for (QWidget* window : std::as_const(shown))
-        painter.drawPixmap(window->geometry().topLeft() - back->geometry().topLeft(),
-                           window->grab());
+    for (QWidget* window : windows)
+        painter.drawPixmap(window->geometry().topLeft() - extent.topLeft(), window->grab());
     return picture;
 }
 
@@ -137,21 +153,25 @@ TourStep Tour::type(const QString& character) const {
 
 TourStep Tour::moveTo(const QString& id) const {
     return {"move to " + id, kPause, [id] { return control(id) != nullptr; },
-            [id] { postMouse(*control(id), QEvent::MouseMove, Qt::NoButton, Qt::NoButton); }};
+            [id] { moveOnto(*control(id)); }};
 }
 
 TourStep Tour::press(const QString& id) const {
     return {"press " + id, kPause, [id] { return control(id) != nullptr; },
             [id] {
-                postMouse(*control(id), QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
-                postMouse(*control(id), QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+                QWidget& widget = *control(id);
+                moveOnto(widget);
+                postMouse(widget, QEvent::MouseButtonPress, widget.rect().center(), Qt::LeftButton,
+                          Qt::LeftButton);
             }};
 }
 
 TourStep Tour::release(const QString& id) const {
     return {"release " + id, kPause, [id] { return control(id) != nullptr; },
             [id] {
-                postMouse(*control(id), QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
+                QWidget& widget = *control(id);
+                postMouse(widget, QEvent::MouseButtonRelease, widget.rect().center(),
+                          Qt::LeftButton, Qt::NoButton);
             }};
 }
 
