@@ -2,7 +2,7 @@
 
 from harness.player import QUIET, SAME_LETTERS
 from test_first_start import ENGLISH_SAMPLE, FIRST_SETTINGS, SPANISH_SAMPLE, stored
-from windows_player import WindowsPlayer
+from windows_player import PATIENCE, PICTURES, WindowsPlayer
 
 WON = "rgb(30,180,30)"
 LOST = "rgb(250,30,30)"
@@ -111,3 +111,12 @@ class Inventor(WindowsPlayer):
         self.picture("own-topic-begun")
         self.key("a", "b", "ntilde")
         self.expect_much_of(WON, "own-topic-won")
+
+
+class Tour(WindowsPlayer):
+    def test_plays_itself_through_every_screen(self):
+        pictures = PICTURES / "tour"
+        windows_path = "Z:" + str(pictures).replace("/", "\\")
+        self.start("--tour", windows_path)
+        self.assertEqual(self.process.wait(PATIENCE * 5), 0)
+        self.assertGreater(len(list(pictures.glob("*.png"))), 20)

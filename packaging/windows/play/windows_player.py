@@ -86,11 +86,14 @@ class WindowsPlayer(unittest.TestCase):
 
     # The program
 
-    def start_at_menu(self):
+    def start(self, *arguments):
         with open(self.desktop.scratch / "program.log", "wb") as log:
             self.process = self.desktop.start_program(
-                ["wine", str(self.folder / "Quillor.exe")], {}, log
+                ["wine", str(self.folder / "Quillor.exe"), *arguments], {}, log
             )
+
+    def start_at_menu(self):
+        self.start()
         self.expect_title(self.words.menu_title)
 
     def titles(self):
