@@ -1,0 +1,1 @@
+"""Drives the real program in a display of its own, as a player would."""

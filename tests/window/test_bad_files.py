@@ -1,0 +1,118 @@
+"""Settings, colours and pictures that are not as they should be."""
+
+import os
+import shutil
+
+from harness.bad_input import BadInput
+from harness.jpeg import grey_jpeg
+from harness.program import executable
+from harness.waiting import until
+
+SETTINGS = {
+    "nothing": b"",
+    "three lines": b"1\r\n1\r\n1\r\n",
+    "five hundred lines": b"0\r\n" * 500,
+    "words": b"design\r\n" + b"yes\r\n" * 10,
+    "numbers too large": b"99999\r\n" * 11,
+    "a topic below the first": b"0\r\n" * 10 + b"-5\r\n",
+    "a topic behind the last": b"0\r\n" * 10 + b"12\r\n",
+    "no text": bytes(range(256)),
+}
+COLORS = {
+    "words": b"blue\r\n",
+    "a huge number": b"99999999999999999999\r\n",
+    "a negative number": b"-16777216\r\n",
+    "nothing": b"",
+    "no text": bytes(range(256)),
+}
+
+
+class BadSettings(BadInput):
+    def setUp(self):
+        super().setUp()
+        self.put_topic("A", "PRIMERO")
+        self.put_topic("B", "SEGUNDO")
+
+    def test_any_settings_file_lets_the_game_be_played(self):
+        for what, content in SETTINGS.items():
+            with self.subTest(what):
+                self.put("Quillor-Config.ini", content)
+                self.assertEqual(self.survives(), self.words.select_topic)
+                self.wins("SEGUNDO")
+                self.end_program()
+
+    def test_any_settings_file_lets_the_settings_be_changed(self):
+        for what, content in SETTINGS.items():
+            with self.subTest(what):
+                self.put("Quillor-Config.ini", content)
+                self.start_at_menu()
+                self.key("s")
+                self.expect_title(self.words.settings_title)
+                self.click("lblDs(1)")
+                self.expect_design(1)
+                self.end_program()
+
+    def expect_design(self, design):
+        lines = 11
+        until(
+            lambda: self.get("Quillor-Config.ini").split(b"\r\n")[0] == b"%d" % design
+            and self.get("Quillor-Config.ini").count(b"\r\n") == lines,
+            f"design {design} in {lines} lines",
+        )
+
+
+class BadColors(BadInput):
+    def test_any_color_file_lets_the_game_be_played(self):
+        self.put_topic("A", "PRIMERO")
+        for what, content in COLORS.items():
+            with self.subTest(what):
+                self.put("Color.txt", content)
+                self.survives()
+                self.end_program()
+
+
+class BadPicture(BadInput):
+    def setUp(self):
+        super().setUp()
+        self.put_topic("A", "PRIMERO")
+
+    def test_file_that_is_no_picture_does_not_stop_the_program(self):
+        self.put("Pic.jpg", b"this is no picture" * 100)
+        self.start_at_menu()
+        self.key("a")
+        self.expect_title(self.words.arcade_title)
+        self.program.check_alive()
+
+    def test_picture_of_twenty_thousand_pixels_is_shown(self):
+        self.put("Pic.jpg", grey_jpeg(20000, 304))
+        self.survives()
+        self.wins("PRIMERO")
+        self.picture("wide-background")
+
+
+class ReadOnlyFolder(BadInput):
+    """As a user who may not write: root may always."""
+
+    desktop_user = "nobody" if os.geteuid() == 0 else None
+
+    def make_read_only(self):
+        for folder in (self.folder, self.folder / "Temas"):
+            if self.desktop_user is not None:
+                os.chown(folder, 0, 0)
+            folder.chmod(0o555)
+            self.addCleanup(folder.chmod, 0o755)
+
+    def program_for_all(self):
+        """A copy of the program where every user gets at it."""
+        target = self.desktop.scratch / "installed"
+        target.mkdir()
+        shutil.copytree(executable().parent / "fonts", target / "fonts")
+        return shutil.copy(executable(), target)
+
+    def test_game_is_played_and_nothing_is_left(self):
+        self.put_topic("A", "PRIMERO")
+        (self.folder / "Quillor-Config.ini").unlink()
+        self.make_read_only()
+        self.survives(binary=self.program_for_all())
+        self.wins("PRIMERO")
+        self.assertEqual(self.files(), ["Temas/A.txt"])
