@@ -122,11 +122,15 @@ void ListView::selectionMade() {
         link().event([&](Screen& screen) { screen.selectItem(list_, row); });
 }
 
-// With nothing selected, an arrow key selects the first entry.
-QModelIndex ListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
-    if (selectedRow() < 0 && count() > 0)
-        return model()->index(0, 0);
-    return QListWidget::moveCursor(action, modifiers);
+// With nothing selected, a key that moves the selection begins with an entry
+// at the end that it comes from.
+void ListView::press(QKeyEvent& event) {
+    const bool down = event.key() == Qt::Key_Down || event.key() == Qt::Key_Home;
+    const bool up = event.key() == Qt::Key_Up || event.key() == Qt::Key_End;
+    if (selectedRow() < 0 && count() > 0 && (down || up))
+        setCurrentRow(down ? 0 : count() - 1);
+    else
+        QListWidget::keyPressEvent(&event);
 }
 
 // The box around the entries; these are painted on the viewport inside it.

@@ -17,7 +17,7 @@ class ListView : public QListWidget, public ControlView {
     bool takesTab() const override { return isUsable(); }
 
     /// A key that the screen has left to the list.
-    void press(QKeyEvent& event) { QListWidget::keyPressEvent(&event); }
+    void press(QKeyEvent& event);
 
   protected:
     void syncLook() override;
@@ -25,7 +25,6 @@ class ListView : public QListWidget, public ControlView {
     void enterEvent(QEnterEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
-    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
 
   private:
     void paintBox();

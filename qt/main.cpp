@@ -1,5 +1,6 @@
 // Starts the program: command line, program folder, fonts, screens.
 #include <QApplication>
+#include <QDir>
 #include <QIcon>
 #include <QTemporaryDir>
 #include <cstdio>
@@ -36,6 +37,13 @@ void onlyFatal(QtMsgType type, const QMessageLogContext&, const QString&) {
         return;
     complain("no display can be opened (is DISPLAY or WAYLAND_DISPLAY set?)");
     std::_Exit(kBadUsage);
+}
+
+QIcon programIcon() {
+    QIcon icon;
+    for (const QFileInfo& file : QDir(":/icon").entryInfoList({"*.png"}))
+        icon.addFile(file.filePath());
+    return icon;
 }
 
 std::filesystem::path executableFolder() {
@@ -104,6 +112,7 @@ int play(const CommandLine& line, int argc, char** argv) {
     QApplication application(argc, argv);
     qInstallMessageHandler(nullptr);
     QApplication::setApplicationName("Quillor");
+    QApplication::setWindowIcon(programIcon());
     QApplication::setQuitOnLastWindowClosed(false);
     if (!line.tour.isEmpty())
         return playTour(line.tour, folder);

@@ -9,8 +9,11 @@ namespace quillor {
 namespace {
 
 constexpr std::size_t kKeptCopies = 4;
-constexpr double kSquare = 300;   // twips, of the notebook's ruling
-constexpr double kMargin = 1200;  // twips, from the left edge to the margin line
+// The notebook page, in twips.
+constexpr double kPen = 15;
+constexpr double kRulePitch = 300;
+constexpr double kFirstRule = 180;
+constexpr double kMargin = 1185;  // from the left edge to the first of the two margin lines
 
 QPixmap cropped(const QImage& image, QSize size) {
     const QImage scaled =
@@ -53,19 +56,20 @@ const QPixmap& PaperCache::filling(const ImageRef& image, QSize size, double den
 }
 
 void paintNotebook(QPainter& painter, const QRectF& area, QPointF origin, double pixelsPerTwip) {
-    painter.fillRect(area, QColor(253, 253, 250));
-    const double square = kSquare * pixelsPerTwip;
-    const double pen = std::max(1.0, std::round(15 * pixelsPerTwip));
-    const QColor ruling(226, 234, 244);
-    const auto first = [&](double from, double start) {
-        return start + std::ceil((from - start) / square) * square;
+    painter.fillRect(area, QColor(252, 251, 247));
+    const double pen = std::max(1.0, std::round(kPen * pixelsPerTwip));
+    const double pitch = kRulePitch * pixelsPerTwip;
+    const double first = origin.y() + kFirstRule * pixelsPerTwip;
+    const double start = first + std::ceil((area.top() - pen - first) / pitch) * pitch;
+    for (double y = start; y < area.bottom(); y += pitch)
+        painter.fillRect(QRectF(area.left(), std::round(y), area.width(), pen),
+                         QColor(223, 233, 244));
+    const auto margin = [&](double twips, const QColor& color) {
+        const double x = std::round(origin.x() + twips * pixelsPerTwip);
+        painter.fillRect(QRectF(x, area.top(), pen, area.height()), color);
     };
-    for (double x = first(area.left(), origin.x()); x < area.right(); x += square)
-        painter.fillRect(QRectF(std::round(x), area.top(), pen, area.height()), ruling);
-    for (double y = first(area.top(), origin.y()); y < area.bottom(); y += square)
-        painter.fillRect(QRectF(area.left(), std::round(y), area.width(), pen), ruling);
-    const double margin = std::round(origin.x() + kMargin * pixelsPerTwip);
-    painter.fillRect(QRectF(margin, area.top(), 2 * pen, area.height()), QColor(246, 206, 206));
+    margin(kMargin, QColor(245, 207, 207));
+    margin(kMargin + 3 * kPen, QColor(248, 224, 223));
 }
 
 QColor averageColor(const ImageRef& image) {

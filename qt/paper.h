@@ -37,7 +37,7 @@ class PaperCache {
     std::list<Entry> entries_;  // the one used last is in front
 };
 
-/// Paints the notebook page over `area`; its first square begins at `origin`.
+/// Paints the notebook page over `area`; its top left corner is `origin`.
 void paintNotebook(QPainter& painter, const QRectF& area, QPointF origin, double pixelsPerTwip);
 
 /// The colour that an image has on average.

@@ -1,0 +1,80 @@
+// What a screen reader is told.
+#include <QAccessible>
+
+#include "tests/qt/shell_fixture.h"
+
+namespace quillor {
+
+namespace {
+
+class Accessibility : public ShellTest {
+  protected:
+    QAccessibleInterface& spoken(const Control& control) {
+        return *QAccessible::queryAccessibleInterface(&widgetOf(control));
+    }
+};
+
+TEST_F(Accessibility, NamesAButtonByItsCaption) {
+    Label button;
+    addButton(button, "lblSave(1)", 0, 0).caption = u"SAVE && &CREATE";
+    button.toolTip = u" Save it ";
+    open();
+    EXPECT_EQ(spoken(button).role(), QAccessible::Button);
+    EXPECT_EQ(spoken(button).text(QAccessible::Name), "SAVE & CREATE");
+    EXPECT_EQ(spoken(button).text(QAccessible::Description), "Save it [#lblSave(1)]");
+}
+
+TEST_F(Accessibility, NeverSpeaksASymbolsLetter) {
+    Label box;
+    addButton(box, "lblTick", 0, 0).caption = u"a";
+    box.spokenName = u"Hard score";
+    box.role = LabelRole::CheckBox;
+    open();
+    EXPECT_EQ(spoken(box).role(), QAccessible::CheckBox);
+    EXPECT_EQ(spoken(box).text(QAccessible::Name), "Hard score");
+    EXPECT_FALSE(spoken(box).state().checked);
+    shell.event([&] { box.checked = true; });
+    EXPECT_TRUE(spoken(box).state().checked);
+}
+
+TEST_F(Accessibility, PressesAButtonButNotBehindABox) {
+    Label button;
+    int clicks = 0;
+    addButton(button, "lbl", 0, 0).onClick = [&] { ++clicks; };
+    open();
+    auto* actions = static_cast<QAccessibleActionInterface*>(
+        spoken(button).interface_cast(QAccessible::ActionInterface));
+    ASSERT_NE(actions, nullptr);
+    actions->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(clicks, 1);
+    shell.event([&] {
+        shell.modally([&] { actions->doAction(QAccessibleActionInterface::pressAction()); });
+    });
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(Accessibility, HasNotificationsThatAreNotDrawn) {
+    Label notice;
+    addButton(notice, "lblNotice", 0, 0).role = LabelRole::Notification;
+    open();
+    const QImage before = widgetOf(notice).window()->grab().toImage();
+    shell.event([&] { notice.caption = u"Right: A"; });
+    EXPECT_EQ(spoken(notice).role(), QAccessible::Notification);
+    EXPECT_EQ(spoken(notice).text(QAccessible::Name), "Right: A");
+    EXPECT_FALSE(spoken(notice).state().invisible);
+    EXPECT_EQ(widgetOf(notice).window()->grab().toImage(), before);
+}
+
+TEST_F(Accessibility, NamesFieldsAndWindows) {
+    TextField field;
+    addField(field, "txtWord", 0, 0).spokenName = u"Phrase";
+    screen.title = u"Entry";
+    ScreenWindow& window = open();
+    EXPECT_EQ(spoken(field).role(), QAccessible::EditableText);
+    EXPECT_EQ(spoken(field).text(QAccessible::Name), "Phrase");
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&window)->text(QAccessible::Name), "Entry");
+}
+
+}  // namespace
+
+}  // namespace quillor

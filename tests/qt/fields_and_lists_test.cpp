@@ -1,0 +1,150 @@
+// Text fields and lists in step with their screen.
+#include <QLineEdit>
+#include <QListWidget>
+
+#include "tests/qt/shell_fixture.h"
+
+namespace quillor {
+
+namespace {
+
+class Fields : public ShellTest {
+  protected:
+    Fields() { screen.firstFocus = &addField(field, "txt", 0, 0); }
+    QLineEdit& edit() { return as<QLineEdit>(field); }
+
+    TextField field;
+};
+
+TEST_F(Fields, KeepCaretAndSelectionWhileOtherThingsChange) {
+    Label label;
+    addButton(label, "lbl", 0, 900);
+    field.setText(u"abcdef");
+    open();
+    edit().setSelection(2, 3);
+    shell.event([&] { label.caption = u"new"; });
+    EXPECT_EQ(edit().selectionStart(), 2);
+    EXPECT_EQ(edit().selectedText(), "cde");
+    EXPECT_EQ(field.caret(), 2);
+    EXPECT_EQ(field.selectionLength(), 3);
+}
+
+TEST_F(Fields, TakeTextAndCaretFromTheScreen) {
+    open();
+    shell.event([&] {
+        field.setText(u"hola");
+        field.setCaret(3);
+    });
+    EXPECT_EQ(edit().text(), "hola");
+    EXPECT_EQ(edit().cursorPosition(), 3);
+    shell.event([&] { field.selectAll(); });
+    EXPECT_EQ(edit().selectedText(), "hola");
+}
+
+TEST_F(Fields, LetAHandlerRewriteWhatIsTyped) {
+    field.onChange = [this] {
+        Text upper = field.text();
+        for (char16_t& c : upper)
+            c = c >= u'a' && c <= u'z' ? static_cast<char16_t>(c - 32) : c;
+        const int caret = field.caret();
+        field.setText(upper);
+        field.setCaret(caret);
+    };
+    field.setText(u"AC");
+    field.setCaret(1);
+    open();
+    type('b');
+    EXPECT_EQ(edit().text(), "ABC");
+    EXPECT_EQ(edit().cursorPosition(), 2);
+    EXPECT_EQ(field.text(), u"ABC");
+}
+
+TEST_F(Fields, KnowTheCaretBeforeTheKeysHandlerRuns) {
+    field.setText(u"abc");
+    int caret = -1;
+    field.onKeyPress = [&](char16_t c) {
+        caret = field.caret();
+        return c;
+    };
+    open();
+    press(Qt::Key_Home);
+    press(Qt::Key_Right);
+    type('x');
+    EXPECT_EQ(caret, 1);
+    EXPECT_EQ(field.text(), u"axbc");
+}
+
+TEST_F(Fields, AreNoLongerThanAllowed) {
+    field.maxLength = 3;
+    open();
+    for (const char c : {'a', 'b', 'c', 'd'})
+        type(c);
+    EXPECT_EQ(field.text(), u"abc");
+}
+
+class Lists : public ShellTest {
+  protected:
+    Lists() {
+        list.id = "lst";
+        list.items = {u"one", u"two", u"three"};
+        list.onClick = [this] { ++clicks; };
+        screen.add(list).place(0, 0, 3000, 2400);
+        screen.firstFocus = &list;
+    }
+    QListWidget& widget() { return as<QListWidget>(list); }
+
+    ListBox list;
+    int clicks = 0;
+};
+
+TEST_F(Lists, SelectByArrowKeys) {
+    open();
+    EXPECT_EQ(list.listIndex(), -1);
+    press(Qt::Key_Down);
+    EXPECT_EQ(list.listIndex(), 0);
+    press(Qt::Key_Down);
+    EXPECT_EQ(list.listIndex(), 1);
+    EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(Lists, ShowWhatTheScreenSelectsWithoutReportingItBack) {
+    open();
+    shell.event([&] { list.select(2); });
+    ASSERT_EQ(widget().selectedItems().size(), 1);
+    EXPECT_EQ(widget().selectedItems()[0]->text(), "three");
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(Lists, DropAnEntryAndWithItTheSelection) {
+    list.select(1);
+    open();
+    shell.event([&] { list.removeItem(1); });
+    EXPECT_EQ(widget().count(), 2);
+    EXPECT_TRUE(widget().selectedItems().isEmpty());
+    EXPECT_EQ(list.listIndex(), -1);
+}
+
+TEST_F(Lists, DoNotMoveOnAKeyThatTheirHandlerTakes) {
+    list.select(1);
+    list.onKeyDown = [](KeyEvent& event) { event.handled = event.code == key::kRight; };
+    open();
+    press(Qt::Key_Right);
+    EXPECT_EQ(list.listIndex(), 1);
+    press(Qt::Key_Up);
+    EXPECT_EQ(list.listIndex(), 0);
+}
+
+TEST_F(Lists, ReportADoubleClick) {
+    int doubles = 0;
+    list.onDoubleClick = [&] { ++doubles; };
+    open();
+    const QPoint second = widget().visualItemRect(widget().item(1)).center();
+    QTest::mouseClick(widget().viewport(), Qt::LeftButton, {}, second);
+    QTest::mouseDClick(widget().viewport(), Qt::LeftButton, {}, second);
+    EXPECT_EQ(list.listIndex(), 1);
+    EXPECT_EQ(doubles, 1);
+}
+
+}  // namespace
+
+}  // namespace quillor

@@ -1,0 +1,36 @@
+#include "qt/font_book.h"
+
+#include <QFontInfo>
+
+#include <gtest/gtest.h>
+
+#include "core/texts.h"
+
+namespace quillor {
+
+namespace {
+
+TEST(FontBook, CountsALoadedRoundedFontAsTheDisplayFont) {
+    const FontBook fonts({QUILLOR_FONT_FOLDER});
+    EXPECT_TRUE(fonts.present(texts::kDisplayFont));
+    EXPECT_EQ(fonts.font({Face::Display, 12, true}, 0.1).family(), "Quicksand");
+    EXPECT_EQ(fonts.font({Face::Comic, 12, true}, 0.1).family(), "Comic Neue");
+}
+
+TEST(FontBook, MissesTheDisplayFontWithoutFontFiles) {
+    const FontBook fonts({"/no/such/folder"});
+    EXPECT_FALSE(fonts.present(texts::kDisplayFont));
+    EXPECT_FALSE(fonts.present(u"No Such Font At All"));
+}
+
+TEST(FontBook, ScalesPointsWithTheWindow) {
+    const FontBook fonts({});
+    // 12 points are 240 twips.
+    EXPECT_EQ(fonts.font({Face::Plain, 12, false}, 0.1).pixelSize(), 24);
+    EXPECT_EQ(fonts.font({Face::Plain, 12, false}, 0.05).pixelSize(), 12);
+    EXPECT_GE(fonts.font({Face::Plain, 1, false}, 0.0001).pixelSize(), 1);
+}
+
+}  // namespace
+
+}  // namespace quillor

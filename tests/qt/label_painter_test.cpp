@@ -1,0 +1,113 @@
+#include "qt/label_painter.h"
+
+#include <QImage>
+#include <map>
+
+#include <gtest/gtest.h>
+
+#include "qt/symbol_painter.h"
+#include "toolkit/symbols.h"
+
+namespace quillor {
+
+namespace {
+
+QImage blank(int width, int height) {
+    QImage image(width, height, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    return image;
+}
+
+// The smallest rectangle that holds everything that is not white.
+QRect inked(const QImage& image) {
+    QRect ink;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixel(x, y) != qRgb(255, 255, 255))
+                ink |= QRect(x, y, 1, 1);
+    return ink;
+}
+
+QRect inkOf(const LabelLook& look, const QRectF& rect) {
+    QImage image = blank(400, 200);
+    QPainter painter(&image);
+    const FontBook fonts({});
+    paintLabel(painter, rect, look, fonts, 0.1);
+    painter.end();
+    return inked(image);
+}
+
+LabelLook captioned(const Text& caption, float points) {
+    LabelLook look;
+    look.caption = caption;
+    look.font.size = points;
+    return look;
+}
+
+TEST(Caption, NamesTheAccessKey) {
+    EXPECT_EQ(accessKey(u"AJU&STES"), u'S');
+    EXPECT_EQ(accessKey(u"&ábaco"), u'Á');
+    EXPECT_EQ(accessKey(u"¿QUÉ ES ESO&?"), u'?');
+    EXPECT_EQ(accessKey(u"SAVE && CREATE"), 0);
+    EXPECT_EQ(accessKey(u"A && &B"), u'B');
+    EXPECT_EQ(accessKey(u"END&"), 0);
+}
+
+TEST(Caption, IsReadWithoutItsMarks) {
+    EXPECT_EQ(plainCaption(u"MODO &ARCADE"), u"MODO ARCADE");
+    EXPECT_EQ(plainCaption(u"SAVE && CREATE"), u"SAVE & CREATE");
+    EXPECT_EQ(plainCaption(u"END&"), u"END");
+    EXPECT_EQ(plainCaption(u""), u"");
+}
+
+TEST(LabelPainter, ShrinksACaptionThatIsTooWide) {
+    const QRectF space(100, 50, 120, 40);
+    const QRect ink = inkOf(captioned(u"A caption much wider than its label", 14), space);
+    ASSERT_FALSE(ink.isEmpty());
+    EXPECT_GE(ink.left(), 99);
+    EXPECT_LE(ink.right(), 220);
+}
+
+TEST(LabelPainter, ShrinksWrappedTextThatIsTooHigh) {
+    LabelLook look = captioned(u"Words that need several lines to be shown in here at all", 18);
+    look.wordWrap = true;
+    const QRect ink = inkOf(look, QRectF(100, 50, 120, 60));
+    ASSERT_FALSE(ink.isEmpty());
+    EXPECT_GE(ink.top(), 49);
+    EXPECT_LE(ink.bottom(), 111);
+}
+
+TEST(LabelPainter, FillsItsRectangleWhenOpaque) {
+    LabelLook look;
+    look.opaque = true;
+    look.backColor = rgb(10, 20, 30);
+    EXPECT_EQ(inkOf(look, QRectF(100, 50, 120, 40)), QRect(100, 50, 120, 40));
+    look.opaque = false;
+    EXPECT_TRUE(inkOf(look, QRectF(100, 50, 120, 40)).isEmpty());
+}
+
+TEST(SymbolPainter, DrawsADifferentPictureForEachSymbol) {
+    using namespace symbols;
+    const std::pair<Face, TextView> all[] = {
+        {Face::Webdings, kTick},           {Face::Webdings, kLoudspeaker},
+        {Face::Webdings, kLoudspeakerOff}, {Face::Webdings, kCross},
+        {Face::Webdings, kQuestion},       {Face::Webdings, kTriangleLeft},
+        {Face::Webdings, kTriangleRight},  {Face::Wingdings, kArrowLeft},
+        {Face::Wingdings, kPlus},          {Face::Wingdings, kDelete}};
+    std::map<QByteArray, Text> pictures;
+    for (const auto& [face, letter] : all) {
+        QImage image = blank(40, 40);
+        QPainter painter(&image);
+        drawSymbol(painter, QRectF(4, 4, 32, 32), face, letter[0], Qt::black);
+        painter.end();
+        EXPECT_TRUE(QRect(2, 2, 36, 36).contains(inked(image))) << static_cast<int>(letter[0]);
+        EXPECT_FALSE(inked(image).isEmpty()) << static_cast<int>(letter[0]);
+        pictures[QByteArray(reinterpret_cast<const char*>(image.bits()), image.sizeInBytes())] =
+            letter;
+    }
+    EXPECT_EQ(pictures.size(), std::size(all));
+}
+
+}  // namespace
+
+}  // namespace quillor

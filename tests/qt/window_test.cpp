@@ -1,0 +1,185 @@
+// Windows: events one at a time, what is shown, opening and closing.
+#include <QAbstractButton>
+#include <QTimer>
+
+#include "tests/qt/shell_fixture.h"
+
+namespace quillor {
+
+namespace {
+
+using Windows = ShellTest;
+
+TEST_F(Windows, ShowTheTitleAndEveryControlInItsPlace) {
+    Label button;
+    addButton(button, "lbl", 3000, 1500);
+    screen.title = u"Quillor | Prueba";
+    ScreenWindow& window = open();
+    window.resize(600, 300);
+    EXPECT_EQ(window.windowTitle(), "Quillor | Prueba");
+    EXPECT_EQ(widgetOf(button).geometry(), QRect(300, 150, 90, 30));
+    EXPECT_EQ(widgetOf(button).objectName(), "lbl");
+}
+
+TEST_F(Windows, KeepTheScreensProportions) {
+    Label button;
+    addButton(button, "lbl", 0, 0);
+    ScreenWindow& window = open();
+    window.resize(1000, 300);
+    EXPECT_EQ(widgetOf(button).geometry(), QRect(200, 0, 90, 30));
+}
+
+TEST_F(Windows, HideWhatIsHidden) {
+    Label button;
+    addButton(button, "lbl", 0, 0).visible = false;
+    open();
+    EXPECT_FALSE(widgetOf(button).isVisible());
+    shell.event([&] { button.visible = true; });
+    EXPECT_TRUE(widgetOf(button).isVisible());
+}
+
+TEST_F(Windows, ReportTheMouseInItsOrder) {
+    Label button;
+    addButton(button, "lbl", 0, 0);
+    std::string seen;
+    button.onMouseMove = [&] { seen += "move "; };
+    button.onMouseDown = [&] { seen += "down "; };
+    button.onMouseUp = [&] { seen += "up "; };
+    button.onClick = [&] { seen += "click "; };
+    button.onRightClick = [&] { seen += "right "; };
+    open();
+    QTest::mouseMove(&widgetOf(button), QPoint(5, 5));
+    QTest::qWait(1);
+    seen.clear();
+    QTest::mouseClick(&widgetOf(button), Qt::LeftButton);
+    QTest::mouseClick(&widgetOf(button), Qt::RightButton);
+    EXPECT_EQ(seen, "down up click right ");
+}
+
+TEST_F(Windows, TakeNoMouseWhileTheScreenIsDisabled) {
+    Label button;
+    addButton(button, "lbl", 0, 0);
+    int clicks = 0;
+    button.onClick = [&] { ++clicks; };
+    open();
+    shell.event([&] { screen.enabled = false; });
+    QTest::mouseClick(&widgetOf(button), Qt::LeftButton);
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(Windows, AskTheScreenBeforeTheyClose) {
+    int asked = 0;
+    screen.closeHandler = [&] { ++asked; };
+    ScreenWindow& window = open();
+    window.close();
+    EXPECT_EQ(asked, 1);
+    EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(Windows, DoNotCloseWhileABoxIsOpen) {
+    int asked = 0;
+    screen.closeHandler = [&] { ++asked; };
+    ScreenWindow& window = open();
+    shell.event([&] { shell.modally([&] { window.close(); }); });
+    EXPECT_EQ(asked, 0);
+}
+
+TEST_F(Windows, GoWhenTheirScreenClosesButNotInTheMiddleOfAnEvent) {
+    int idle = 0;
+    shell.onIdle = [&] { ++idle; };
+    QPointer<ScreenWindow> window = &open();
+    idle = 0;
+    shell.event([&] {
+        shell.close(screen);
+        shell.modally([&] { shell.event([] {}); });
+        EXPECT_EQ(idle, 0);
+        EXPECT_FALSE(window->isVisible());
+    });
+    EXPECT_EQ(idle, 1);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(window.isNull());
+}
+
+TEST_F(Windows, ShowWhatATimerDoesWhileABoxIsOpen) {
+    Label button;
+    addButton(button, "lbl", 0, 0);
+    open();
+    shell.event([&] {
+        shell.modally([&] { shell.event([&] { button.visible = false; }); });
+        EXPECT_FALSE(widgetOf(button).isVisible());
+    });
+}
+
+TEST_F(Windows, DeliverNothingAfterTheEnd) {
+    open();
+    bool delivered = false;
+    shell.event([&] {
+        shell.end();
+        shell.event([&] { delivered = true; });
+    });
+    EXPECT_FALSE(delivered);
+}
+
+TEST_F(Windows, StandOverTheWindowOfTheirScreen) {
+    PlainScreen above;
+    screen.width = 13200;
+    screen.height = 8100;
+    above.over = &screen;
+    ScreenWindow& below = open();
+    ScreenWindow& window = open(above);
+    EXPECT_EQ(window.windowType(), Qt::Dialog);
+    EXPECT_EQ(window.windowHandle()->transientParent(), below.windowHandle());
+    EXPECT_NEAR(window.scale().pixels, below.scale().pixels, 0.001);
+    shell.event([&] { shell.close(above); });
+}
+
+TEST_F(Windows, HandTheirPlaceOnToTheNextLargeScreen) {
+    PlainScreen next;
+    for (Screen* each : {static_cast<Screen*>(&screen), static_cast<Screen*>(&next)}) {
+        each->width = 13200;
+        each->height = 8100;
+    }
+    open().setGeometry(40, 50, 500, 300);
+    QCoreApplication::processEvents();
+    shell.event([&] {
+        shell.show(next);
+        shell.close(screen);
+    });
+    EXPECT_EQ(shell.find(&next)->geometry(), QRect(40, 50, 500, 300));
+    shell.event([&] { shell.close(next); });
+}
+
+TEST_F(Windows, RunTimersWhileTheyAreEnabled) {
+    Timer timer;
+    timer.id = "tmr";
+    timer.interval = 1;
+    timer.enabled = true;
+    int ticks = 0;
+    timer.onTick = [&] { timer.enabled = ++ticks < 3; };
+    screen.add(timer);
+    open();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ticks == 3; }, 2000));
+    QTest::qWait(3 * kTimerResolution);
+    EXPECT_EQ(ticks, 3);
+}
+
+TEST_F(Windows, DoNotTickATimerInsideItsOwnTick) {
+    Timer timer;
+    timer.id = "tmr";
+    timer.enabled = true;
+    int ticks = 0;
+    timer.onTick = [&] {
+        ++ticks;
+        shell.modally([] { QTest::qWait(5 * kTimerResolution); });
+        timer.enabled = false;
+    };
+    screen.add(timer);
+    open();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !timer.enabled; }, 2000));
+    EXPECT_EQ(ticks, 1);
+}
+
+}  // namespace
+
+}  // namespace quillor
