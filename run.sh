@@ -6,6 +6,8 @@ set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 # shellcheck source=scripts/packages.sh
 . "$root/scripts/packages.sh"
+# shellcheck source=scripts/build.sh
+. "$root/scripts/build.sh"
 
 # Whether a window could be opened here.
 have_screen() {
@@ -20,14 +22,6 @@ have_screen() {
     esac
 }
 
-build() {
-    cd "$root"
-    use_ccache
-    cmake --preset release >build/configure.log || { cat build/configure.log; return 1; }
-    cmake --build --preset release
-    cmake --install build/release >/dev/null
-}
-
 tour() {
     local pictures="$root/build/tour"
     echo "There is no screen here, so Quillor shows itself on a virtual one."
@@ -38,10 +32,7 @@ tour() {
     find "$pictures" -name '*.png' | sort
 }
 
-install_packages "${packages_play[@]}"
-mkdir -p "$root/build"
-(build)
-program="$root/build/install/quillor"
+build_program
 if have_screen; then
     exec "$program" "$@"
 else
