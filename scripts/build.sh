@@ -6,10 +6,11 @@
 build_program() {
     local top
     top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+    # shellcheck disable=SC2154 # from packages.sh
     install_packages "${packages_play[@]}"
     mkdir -p "$top/build"
     (
-        cd "$top"
+        cd "$top" || return
         use_ccache
         cmake --preset release >build/configure.log || { cat build/configure.log; return 1; }
         cmake --build --preset release
