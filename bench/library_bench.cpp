@@ -1,0 +1,60 @@
+// What the start waits for (reading the topics) and what each guess costs.
+#include <filesystem>
+
+#include <benchmark/benchmark.h>
+#include <unistd.h>
+
+#include "core/files.h"
+#include "core/text_rules.h"
+#include "core/topic_library.h"
+
+namespace quillor {
+
+namespace {
+
+const Text kPhrase = u"la canción más larga de un tablero ñ";
+
+/// A program folder with full topics, removed afterwards.
+class FullLibrary {
+  public:
+    explicit FullLibrary(int topics) {
+        std::filesystem::create_directories(folder / "Temas");
+        const std::vector<Text> lines(kTopicLines, kPhrase);
+        for (int i = 0; i < topics; ++i)
+            writeLines(folder / "Temas" / (std::to_string(i) + ".txt"), lines);
+    }
+    ~FullLibrary() { std::filesystem::remove_all(folder); }
+    FullLibrary(const FullLibrary&) = delete;
+    FullLibrary& operator=(const FullLibrary&) = delete;
+
+    const std::filesystem::path folder =
+        std::filesystem::temp_directory_path() /
+        ("quillor-bench-" +
+         std::to_string(std::chrono::steady_clock::now().time_since_epoch().count()));
+};
+
+void loadTopics(benchmark::State& state) {
+    const FullLibrary library(static_cast<int>(state.range(0)));
+    for (auto round : state) {
+        GameSettings settings;
+        eLoadWords(settings, library.folder);
+        benchmark::DoNotOptimize(settings.gaTopicLines);
+    }
+}
+BENCHMARK(loadTopics)->Arg(10)->Arg(100)->Unit(benchmark::kMillisecond);
+
+void foldPhrase(benchmark::State& state) {
+    for (auto round : state)
+        benchmark::DoNotOptimize(eFoldAccents(kPhrase));
+}
+BENCHMARK(foldPhrase);
+
+void wrapOnBoard(benchmark::State& state) {
+    for (auto round : state)
+        benchmark::DoNotOptimize(wrapPhrase(kPhrase));
+}
+BENCHMARK(wrapOnBoard);
+
+}  // namespace
+
+}  // namespace quillor
