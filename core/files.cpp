@@ -58,6 +58,18 @@ LineEnd findLineEnd(std::string_view bytes, std::size_t at) {
     return {end, end + (bytes.substr(end, 2) == "\r\n" ? 2 : 1)};
 }
 
+// Whether the file holds exactly these bytes already.
+bool holds(const fs::path& path, std::string_view bytes) {
+    std::error_code error;
+    const std::uintmax_t size = fs::file_size(path, error);
+    if (error || size != bytes.size())
+        return false;
+    std::ifstream file(path, std::ios::binary);
+    std::string held(bytes.size(), '\0');
+    file.read(held.data(), static_cast<std::streamsize>(held.size()));
+    return file && held == bytes;
+}
+
 void writeAll(const fs::path& path, std::string_view bytes) {
     std::ofstream file(path, std::ios::binary | std::ios::trunc);
     file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
@@ -138,6 +150,9 @@ std::vector<Text> readLines(const fs::path& path, std::size_t most) {
 }
 
 void writeFile(const fs::path& path, std::string_view bytes) {
+    // Each new game saves the settings, most often as they are.
+    if (holds(path, bytes))
+        return;
     checkReplaceable(path);
     std::error_code error;
     const fs::path behindLink = fs::canonical(path, error);

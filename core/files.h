@@ -22,8 +22,8 @@ std::string readFile(const std::filesystem::path& path);
 std::string readFileStart(const std::filesystem::path& path, std::size_t lines);
 
 /// Replaces the file whole or leaves it as it was: temporary file beside it,
-/// flush, rename. Throws std::runtime_error; a folder or a read-only file is
-/// not replaced.
+/// flush, rename. A file that holds these bytes already is left alone. Throws
+/// std::runtime_error; a folder or a read-only file is not replaced.
 void writeFile(const std::filesystem::path& path, std::string_view bytes);
 
 /// The lines of a text, without their ends: CR LF, lone LF or lone CR. A line

@@ -139,6 +139,17 @@ TEST(WritingFiles, LeavesAReadOnlyFileAsItWas) {
     EXPECT_EQ(folder.read("f"), "old");
 }
 
+TEST(WritingFiles, LeavesAFileAloneThatHoldsTheseBytes) {
+    const TempFolder folder;
+    folder.write("a.txt", "same");
+    const auto longAgo = std::filesystem::last_write_time(folder / "a.txt") - std::chrono::hours(1);
+    std::filesystem::last_write_time(folder / "a.txt", longAgo);
+    writeFile(folder / "a.txt", "same");
+    EXPECT_EQ(std::filesystem::last_write_time(folder / "a.txt"), longAgo);
+    writeFile(folder / "a.txt", "fame");
+    EXPECT_EQ(folder.read("a.txt"), "fame");
+}
+
 TEST(WritingFiles, FailsInAFolderThatIsNotThere) {
     TempFolder folder;
     EXPECT_THROW(writeFile(folder / "none" / "f", "new"), std::runtime_error);
