@@ -1,0 +1,115 @@
+// Whole games through the real game screen, without a window: what a guess
+// costs with everything that belongs to it.
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+
+#include <benchmark/benchmark.h>
+
+#include "core/random.h"
+#include "game/game_screen.h"
+#include "topics/register_screens.h"
+
+namespace quillor {
+
+namespace {
+
+/// A machine that shows nothing, hears nothing and says yes.
+class SilentDesktop : public Desktop {
+  public:
+    void messageBox(MessageIcon, TextView) override {}
+    bool question(TextView) override { return true; }
+    Text inputBox(TextView) override { return {}; }
+    void aboutBox(TextView, TextView) override {}
+    Text clipboard() override { return {}; }
+    void setClipboard(TextView) override {}
+    bool fontPresent(TextView) override { return true; }
+    ImageRef loadPicture(const std::filesystem::path&) override { return {}; }
+    void open(const std::filesystem::path&) override {}
+    void openAddress(TextView) override {}
+    std::span<const std::byte> sound(int) override { return {}; }
+    void playWave(std::span<const std::byte>) override {}
+    TimeOfDay timeOfDay() override { return {}; }
+    double random() override { return random_.next(); }
+    void seedRandom() override { random_.reseed(1); }
+    void show(Screen&) override {}
+    void close(Screen&) override {}
+    void popUp(Screen&, MenuItem&) override {}
+    void startProgram() override {}
+    void end() override {}
+
+  private:
+    Random random_{1};
+};
+
+/// An arcade game screen that deals from the sample topic by itself; the score
+/// is infinite, so that no loss ends the playing.
+class Table {
+  public:
+    Table() {
+        std::filesystem::create_directories(folder_);
+        std::ofstream(folder_ / "Quillor-Config.ini")
+            << "0\r\n0\r\n0\r\n0\r\n0\r\n1\r\n0\r\n0\r\n0\r\n0\r\n0\r\n";
+        addTopicScreens(program_);
+        addGameScreens(program_);
+        program_.load(ScreenId::Start);
+        game_ = &program_.load(ScreenId::Game);
+        program_.settings.giWay = kAnyTopic;
+    }
+    ~Table() { std::filesystem::remove_all(folder_); }
+    Table(const Table&) = delete;
+    Table& operator=(const Table&) = delete;
+
+    /// Plays one game to its end and returns how many letters it took.
+    int playGame() {
+        constexpr TextView kByFrequency = u"EAOSRNIDLCTUMPBGVYQHFZJÑXWK1234567890";
+        KeyEvent enter{key::kReturn};
+        game_->keyDown(enter);
+        int guesses = 0;
+        for (const char16_t letter : kByFrequency) {
+            if (program_.settings.giGameState != kPlaying)
+                break;
+            game_->keyPress(letter);
+            ++guesses;
+        }
+        program_.destroyClosed();
+        return guesses;
+    }
+
+  private:
+    const std::filesystem::path folder_ =
+        std::filesystem::temp_directory_path() /
+        ("quillor-table-" +
+         std::to_string(std::chrono::steady_clock::now().time_since_epoch().count()));
+    SilentDesktop desktop_;
+    Program program_{desktop_, folder_};
+    Screen* game_ = nullptr;
+};
+
+void playGames(benchmark::State& state) {
+    Table table;
+    double guesses = 0;
+    for (auto round : state)
+        guesses += table.playGame();
+    state.counters["guesses"] = benchmark::Counter(guesses, benchmark::Counter::kIsRate);
+}
+BENCHMARK(playGames)->Unit(benchmark::kMicrosecond);
+
+void layOutBoard(benchmark::State& state) {
+    SilentDesktop desktop;
+    Program program(desktop, std::filesystem::temp_directory_path() / "quillor-no-folder");
+    setPalette(program.settings);
+    addGameScreens(program);
+    auto& game = dynamic_cast<frmGame&>(program.load(ScreenId::Game));
+    program.settings.gsShownPhrase = u"THE LONGEST    PHRASE THAT   FITS A BOARD";
+    program.settings.giGameState = kPlaying;
+    for (auto round : state) {
+        game.board.clear();
+        game.board.ePutMagicWord();
+    }
+}
+BENCHMARK(layOutBoard);
+
+}  // namespace
+
+}  // namespace quillor
