@@ -26,9 +26,9 @@ class Clock(Player):
 
     def test_game_is_lost_to_the_clock(self):
         left = self.seconds_left()
-        self.assertIn(left, (75, 74, 73))
+        self.assertTrue(60 < left <= 75, left)
         self.key("a")
-        until(lambda: self.seconds_left() == left - 2, "the clock to run")
+        until(lambda: self.seconds_left() <= left - 2, "the clock to run")
         until(lambda: self.caption("lblStatus") == self.words.dead, "the time to run out", 100)
         self.assertIsNone(self.seconds_left())
         self.expect("lblPoints", "-924")

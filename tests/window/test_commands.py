@@ -1,31 +1,19 @@
 """The game menu, its keys, and what is handed to other programs."""
 
+from harness.opener import Opener
 from harness.player import Player
 from harness.waiting import until
 
 SETTING = {"ctrl+s": 1, "ctrl+o": 3, "ctrl+l": 7}
 
 
-class Commands(Player):
+class Commands(Opener, Player):
     def setUp(self):
         super().setUp()
         self.put_settings()
         self.put_topic("A", "TORRES", ["torre eiffel", "eiffel torre"])
-        self.opened = self.desktop.scratch / "opened"
-        self.start_at_menu(environment={"PATH": self.path_with_opener()})
+        self.start_at_menu(environment=self.with_opener())
         self.open_arcade()
-
-    def path_with_opener(self):
-        """A PATH on which xdg-open only notes down what it was given."""
-        folder = self.desktop.scratch / "bin"
-        folder.mkdir()
-        opener = folder / "xdg-open"
-        opener.write_text(f'#!/bin/sh\nprintf "%s\\n" "$@" >>"{self.opened}"\n')
-        opener.chmod(0o755)
-        return f"{folder}:{self.desktop.environment['PATH']}"
-
-    def expect_opened(self, look):
-        return until(lambda: self.opened.exists() and look(self.opened.read_text()), "an opening")
 
     def choose_from_menu(self, *keys):
         """Opens the menu with its key and goes to an entry with the arrows."""

@@ -36,6 +36,11 @@ def marked_with(text):
     return sorted(found, reverse=True)
 
 
+def binary(pid):
+    """The file that a process runs. Raises OSError when it has ended."""
+    return Path(os.readlink(f"/proc/{pid}/exe"))
+
+
 def end(pids):
     """Ends processes by their ids: first with a request, then for good."""
     for sign in (signal.SIGTERM, signal.SIGKILL):

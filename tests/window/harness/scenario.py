@@ -53,6 +53,8 @@ class Scenario(Eyes, Dialogs, unittest.TestCase):
 
     def setUp(self):
         self.program = None
+        for old in pictures_folder().glob(f"{self._traces_name()}.*"):
+            old.unlink()
         self.desktop = VirtualDesktop(self.desktop_user)
         self.addCleanup(self.desktop.close)
         self.addCleanup(self.end_program)
@@ -130,6 +132,20 @@ class Scenario(Eyes, Dialogs, unittest.TestCase):
     def type(self, text):
         self.hands.type(text)
 
+    def close_window(self):
+        """A click on the close button that the window manager draws."""
+        windows = self.desktop.windows
+        window = windows.active()
+        left, top, width, _ = windows.place(window)
+        _, right, above, _ = windows.frame(window)
+        side = above // 2
+        self.hands.click((left + width + right - side * 2, top - above, side * 2, above))
+
+    def expect_end(self):
+        """Waits until the program has ended well and taken its windows with it."""
+        self.assertEqual(self.program.wait_for_end(), 0)
+        until(lambda: self.desktop.windows.ids() == [], "no window to be left")
+
     # Pictures
 
     def picture(self, name):
@@ -139,8 +155,11 @@ class Scenario(Eyes, Dialogs, unittest.TestCase):
         self.desktop.run(["import", "-window", str(window or "root"), str(target)])
         self.assertGreater(target.stat().st_size, 0)
 
+    def _traces_name(self):
+        return "FAILED-" + re.sub(r"[^A-Za-z0-9]+", "-", self.id())
+
     def _leave_traces(self):
-        target = pictures_folder() / f"FAILED-{re.sub(r'[^A-Za-z0-9]+', '-', self.id())}"
+        target = pictures_folder() / self._traces_name()
         try:
             self.desktop.run(["import", "-window", "root", f"{target}.png"])
             if self.program is not None:
