@@ -1,12 +1,10 @@
 #include "qt/boxes.h"
 
-#include <QDialogButtonBox>
 #include <QInputDialog>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QStyle>
-#include <QVBoxLayout>
+#include <QScreen>
+#include <algorithm>
 
 #include "core/texts.h"
 #include "qt/qt_values.h"
@@ -21,6 +19,33 @@ constexpr int kInputWidth = 24;  // of the input field, in font sizes
 QString boxTitle() {
     return toQt(texts::kProgramName);
 }
+
+constexpr double kLowPlace = 0.72;  // of the window's height, for a low box's middle
+
+/// A box that knows its place as soon as it knows its size.
+template <typename Box>
+class Placed : public Box {
+  public:
+    explicit Placed(const BoxStyle& style) : Box(style.parent), low_(style.low) {}
+
+  protected:
+    void showEvent(QShowEvent* event) override {
+        Box::showEvent(event);
+        const QWidget* owner = this->parentWidget();
+        if (!low_ || !owner)
+            return;
+        const QRect below = owner->geometry();
+        QRect place = this->frameGeometry();
+        place.moveCenter(
+            {below.center().x(), below.top() + static_cast<int>(below.height() * kLowPlace)});
+        const QRect space = owner->screen()->availableGeometry();
+        place.moveBottom(std::min(place.bottom(), space.bottom()));
+        this->move(place.topLeft());
+    }
+
+  private:
+    bool low_;
+};
 
 QString oneLineEnds(QString text) {
     return text.replace("\r\n", "\n");
@@ -44,7 +69,7 @@ void prepare(QMessageBox& box, const BoxStyle& style, QMessageBox::Icon icon, co
 
 void showMessage(const BoxStyle& style, QMessageBox::Icon icon, const QString& text,
                  const QString& accept) {
-    QMessageBox box(style.parent);
+    Placed<QMessageBox> box(style);
     prepare(box, style, icon, text);
     QPushButton* button = box.addButton(accept, QMessageBox::AcceptRole);
     box.setDefaultButton(button);
@@ -54,7 +79,7 @@ void showMessage(const BoxStyle& style, QMessageBox::Icon icon, const QString& t
 
 bool askQuestion(const BoxStyle& style, const QString& text, const QString& yes,
                  const QString& no) {
-    QMessageBox box(style.parent);
+    Placed<QMessageBox> box(style);
     prepare(box, style, QMessageBox::Question, text);
     QPushButton* agree = box.addButton(yes, QMessageBox::YesRole);
     QPushButton* refuse = box.addButton(no, QMessageBox::NoRole);
@@ -66,7 +91,7 @@ bool askQuestion(const BoxStyle& style, const QString& text, const QString& yes,
 
 QString askText(const BoxStyle& style, const QString& prompt, const QString& accept,
                 const QString& cancel) {
-    QInputDialog box(style.parent);
+    Placed<QInputDialog> box(style);
     box.setWindowTitle(boxTitle());
     box.setFont(style.font);
     box.setLabelText(oneLineEnds(prompt));
@@ -81,7 +106,7 @@ QString askText(const BoxStyle& style, const QString& prompt, const QString& acc
 
 void showAbout(const BoxStyle& style, const QString& title, const QString& text,
                const QString& accept) {
-    QMessageBox box(style.parent);
+    Placed<QMessageBox> box(style);
     prepare(box, style, QMessageBox::Information, title);
     box.setInformativeText(oneLineEnds(text));
     if (style.parent && !style.parent->windowIcon().isNull())

@@ -11,6 +11,7 @@ namespace quillor {
 struct BoxStyle {
     QWidget* parent = nullptr;
     QFont font;
+    bool low = false;  // in the lower part of that window, so that what is above can be read
 };
 
 void showMessage(const BoxStyle& style, QMessageBox::Icon icon, const QString& text,

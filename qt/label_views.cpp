@@ -62,7 +62,7 @@ void ButtonView::announce() {
 void ButtonView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     paint(painter);
-    if (hasFocus())
+    if (hasFocus() && link().shell().showsFocus)
         paintFocusRing(painter, rect(), static_cast<double>(look().cornerRadius) * pixelsPerTwip());
 }
 
@@ -74,6 +74,7 @@ void ButtonView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void ButtonView::mousePressEvent(QMouseEvent* event) {
+    link().shell().showsFocus = false;
     QAbstractButton::mousePressEvent(event);
     event->accept();  // the right button's release is ours too
 }

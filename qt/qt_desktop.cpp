@@ -53,6 +53,7 @@ BoxStyle QtDesktop::boxStyle() const {
     BoxStyle style;
     style.parent = shell_.front();
     const ScreenWindow* window = shell_.front();
+    style.low = window && window->isLarge();
     style.font = shell_.fonts.font(kBoxFont, window ? window->scale().pixels : TwipScale().pixels);
     return style;
 }

@@ -203,6 +203,7 @@ void ScreenWindow::giveFocus(const Control* control) {
 }
 
 bool ScreenWindow::focusNextPrevChild(bool next) {
+    link_.shell().showsFocus = true;
     const std::vector<ControlView*> order = readingOrder(views_);
     if (order.empty())
         return true;

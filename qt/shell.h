@@ -50,6 +50,10 @@ class Shell {
     }
     bool isKeyEvent() const { return byKey_; }
 
+    /// Whether a button shows that it has the focus: once Tab has been used,
+    /// until the mouse is.
+    bool showsFocus = false;
+
     /// The windows appear, and disappear, at the end of the event.
     void show(Screen& screen);
     void close(Screen& screen);

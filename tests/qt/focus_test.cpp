@@ -94,6 +94,17 @@ TEST_F(Focus, ComesBackWhenTheScreenIsEnabledAgain) {
     EXPECT_EQ(focused(), "right");
 }
 
+TEST_F(Focus, IsShownOnAButtonOnceTabIsUsed) {
+    open();
+    const QImage unfocused = widgetOf(below).grab().toImage();
+    shell.event([&] { screen.setFocus(below); });
+    EXPECT_EQ(widgetOf(below).grab().toImage(), unfocused);
+    press(Qt::Key_Tab);
+    press(Qt::Key_Backtab);
+    ASSERT_EQ(focused(), "below");
+    EXPECT_NE(widgetOf(below).grab().toImage(), unfocused);
+}
+
 TEST_F(Focus, IsToldToFieldsOnceEach) {
     TextField field;
     TextField second;
