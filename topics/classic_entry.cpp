@@ -25,12 +25,12 @@ frmWord1::frmWord1(Program& program)
 
 void frmWord1::connect() {
     txtWord.onKeyPress = [this](char16_t character) { return txtWord_KeyPress(character); };
-    txtWord.onKeyDown = [this](KeyEvent& event) { closeOnEscape(event); };
+    txtWord.onKeyDown = [this](KeyEvent& event) { field_KeyDown(event); };
     txtWord.onChange = [this] {
         lblOk(0).enabled = lblOk(1).enabled = !trimmed(txtWord.text()).empty();
     };
     txtTheme.onKeyPress = [this](char16_t character) { return txtTheme_KeyPress(character); };
-    txtTheme.onKeyDown = [this](KeyEvent& event) { closeOnEscape(event); };
+    txtTheme.onKeyDown = [this](KeyEvent& event) { field_KeyDown(event); };
     txtTheme.onChange = [this] { txtTheme_Change(); };
     txtTheme.onGotFocus = [this] { txtTheme_GotFocus(); };
     txtTheme.onLostFocus = [this] { txtTheme_LostFocus(); };
@@ -106,11 +106,14 @@ void frmWord1::txtTheme_LostFocus() {
         txtTheme.setText(placeholder());
 }
 
-void frmWord1::closeOnEscape(KeyEvent& event) {
-    if (event.code != key::kEscape)
-        return;
-    event.handled = true;
-    program_.close(*this);
+void frmWord1::field_KeyDown(KeyEvent& event) {
+    if (event.code == key::kEscape) {
+        event.handled = true;
+        program_.close(*this);
+    } else if (event.code == key::kReturn) {
+        // A held Return is one press: it must not run on through the topic.
+        event.handled = event.autoRepeat;
+    }
 }
 
 void frmWord1::lblOk_Click() {

@@ -37,7 +37,7 @@ class frmWord1 : public Screen {
     void txtTheme_Change();
     void txtTheme_GotFocus();
     void txtTheme_LostFocus();
-    void closeOnEscape(KeyEvent& event);
+    void field_KeyDown(KeyEvent& event);
     void lblOk_Click();
     Text placeholder() const { return program_.lang(texts::kNoTopic); }
 

@@ -161,6 +161,16 @@ TEST_F(ClassicEntry, ShowsThatItsButtonIsHeld) {
     EXPECT_EQ(screen.shpOk.backColor, rgb(250, 30, 30));
 }
 
+TEST_F(ClassicEntry, DoesNotRunThroughTheTopicOnAHeldReturn) {
+    entry();
+    player.type(u"casa");
+    player.press(key::kReturn);
+    player.press(key::kReturn, kHeld);
+    EXPECT_TRUE(isOpen());
+    player.press(key::kReturn);
+    EXPECT_FALSE(isOpen());
+}
+
 TEST_F(ClassicEntry, ClosesOnEscapeInEitherField) {
     for (const char* field : {"txtWord", "txtTheme"}) {
         entry();
