@@ -22,15 +22,18 @@ trap 'git worktree remove --force "$work/source"' EXIT
 build "$work/before" "$work/source"
 build "$work/now" .
 
-rm -f "$work"/*.csv
+rm -f "$work"/*.txt
 for ((round = 0; round < rounds; round++)); do
     for side in before now; do
-        "$work/$side/bench/quillor_bench" --benchmark_format=csv --benchmark_min_time=0.2 \
-            2>/dev/null >>"$work/$side.csv"
+        "$work/$side/bench/quillor_bench" --benchmark_min_time=0.2 2>/dev/null >>"$work/$side.txt"
     done
 done
 
 # The best round of each benchmark: what the machine can do undisturbed.
-best() { awk -F, '/^"/ { t = $4; if (!($1 in b) || t < b[$1]) b[$1] = t } END { for (n in b) print n, b[n] }' "$1" | sort; }
-join <(best "$work/before.csv") <(best "$work/now.csv") |
-    awk '{ printf "%-28s %12.4g -> %12.4g  %+6.1f %%\n", $1, $2, $3, ($3 / $2 - 1) * 100 }'
+# Its lines are: name, time, unit, processor time, unit, iterations.
+best() {
+    awk '$5 ~ /^[num]?s$/ { if (!($1 in b) || $4 < b[$1]) b[$1] = $4; unit[$1] = $5 }
+         END { for (n in b) print n, b[n], unit[n] }' "$1" | sort
+}
+join <(best "$work/before.txt") <(best "$work/now.txt") |
+    awk '{ printf "%-20s %10.4g %s -> %10.4g %s  %+6.1f %%\n", $1, $2, $3, $4, $5, ($4 / $2 - 1) * 100 }'
