@@ -101,6 +101,9 @@ QString askText(const BoxStyle& style, const QString& prompt, const QString& acc
         field->setMinimumWidth(style.font.pixelSize() * kInputWidth);
         field->setAccessibleName(oneLineEnds(prompt));
     }
+    // Some styles put icons on these buttons; the other boxes have none.
+    for (QPushButton* button : box.findChildren<QPushButton*>())
+        button->setIcon({});
     return box.exec() == QDialog::Accepted ? box.textValue() : QString();
 }
 
