@@ -107,13 +107,14 @@ void Scoring::count() {
     const int score = settings.giScore;
     const int target = settings.giScoreShown;
     int next = score;
-    if (score == target)
-        tmrScore.enabled = false;
-    else if (settings.giGameState == kWon && score < target)
+    if (settings.giGameState == kWon && score < target)
         next += score + kCountSlowly < target ? kCountStep : 1;
     else if (settings.giGameState == kDead && score > target)
         next -= score - kCountSlowly > target ? kCountStep : 1;
     settings.giScore = static_cast<std::int16_t>(next);
+    // With the last point, not a tick later: whoever sees it may press play.
+    if (next == target)
+        tmrScore.enabled = false;
 }
 
 void Scoring::showScore() {
