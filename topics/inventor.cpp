@@ -31,6 +31,14 @@ bool isReserved(TextView name) {
            kPortDigits.find(base.back()) != TextView::npos;
 }
 
+// A line break that was pasted would make two lines of one.
+Text oneLine(Text text) {
+    std::replace_if(
+        text.begin(), text.end(),
+        [](char16_t character) { return character == u'\r' || character == u'\n'; }, u' ');
+    return text;
+}
+
 Text twoDigits(int value) {
     const std::string digits = std::to_string(value);
     return fromUtf8(digits.size() < 2 ? "0" + digits : digits);
@@ -175,6 +183,9 @@ char16_t frmInventor::txtWord_KeyPress(char16_t character) {
 }
 
 void frmInventor::txtWord_KeyDown(KeyEvent& event) {
+    // The Return that left the topic name, still held, adds nothing.
+    if (event.code == key::kReturn && event.autoRepeat)
+        event.handled = true;
     if (!event.onlyControl())
         return;
     switch (event.code) {
@@ -211,10 +222,10 @@ void frmInventor::paste() {
 void frmInventor::lstTopics_KeyDown(KeyEvent& event) {
     if (event.code == key::kDelete)
         lblDel_Click();
-    else if (event.code == key::kReturn)
-        lblSave_Click();
-    else
+    else if (event.code != key::kReturn)
         return;
+    else if (!event.autoRepeat)
+        lblSave_Click();
     event.handled = true;
 }
 
@@ -248,6 +259,7 @@ void frmInventor::lblSave_Click() {
         lstTopics.clear();
         txtWord.setText(u"");
         txtTheme.setText(u"");
+        txtFile.setText(u"");  // also where there was no topic name for it to follow
         eRefreshButton();
         setFocus(txtTheme);
     });
@@ -257,11 +269,11 @@ void frmInventor::saveTopic() {
     if (!isPortableFileName(txtFile.text()))
         throw std::runtime_error("not a file name everywhere");
     std::vector<Text> lines;
-    lines.push_back(upperCase(txtTheme.text()));
+    lines.push_back(oneLine(upperCase(txtTheme.text())));
     if (!settings_.gbEnglish)
         lines.front() += u" " + lowerCase(texts::kSpanishTag);
     for (const Text& phrase : lstTopics.items)
-        lines.push_back(lowerCase(trimmed(phrase)));
+        lines.push_back(lowerCase(trimmed(oneLine(phrase))));
     writeLines(topicFolder(settings_, program_.folder) / toPath(txtFile.text() + u".txt"), lines);
 }
 

@@ -90,7 +90,7 @@ void frmWord2::lblOk_Click() {
     eChoiceTopic(static_cast<std::int16_t>(lstTopics.listIndex()));
 }
 
-// A mode of 3 or 4, taken over from the game, is not wrapped and has no caption.
+// A mode of 3 or 4, taken over from the game, has no caption.
 void frmWord2::eChangeMode(int step) {
     pendingMode_ += step;
     if (pendingMode_ == -1)

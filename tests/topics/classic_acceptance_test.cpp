@@ -100,11 +100,13 @@ TEST_F(ClassicAcceptance, DoesNothingOnReturnWithoutAPhrase) {
     EXPECT_TRUE(game().games.empty());
 }
 
-TEST_F(ClassicAcceptance, HappensOnceWhileReturnIsHeld) {
+TEST_F(ClassicAcceptance, HappensOnceHoweverLongReturnIsHeld) {
     player.type(u"frase");
     player.press(key::kReturn);
     for (int i = 0; i < 5; ++i)
         player.press(key::kReturn, kHeld);
+    EXPECT_TRUE(isOpen());
+    player.press(key::kReturn);
     EXPECT_EQ(game().games.size(), 1U);
     EXPECT_FALSE(isOpen());
 }

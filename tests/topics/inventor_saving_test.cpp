@@ -80,6 +80,33 @@ TEST_F(InventorSaving, ClearsAllForTheNextTopicOnNo) {
     EXPECT_EQ(desktop.focusOf(screen()), &screen().txtTheme);
 }
 
+TEST_F(InventorSaving, ClearsAFileNameThatHadNoTopicNameOnNo) {
+    fill(u"", {u"uno"});
+    fileName(u"SUELTO");
+    desktop.answerQuestion(kAskSpanish, false);
+    player.click("lblSave(0)");
+    EXPECT_EQ(screen().txtFile.text(), u"");
+    EXPECT_FALSE(screen().lblSave(0).enabled);
+}
+
+TEST_F(InventorSaving, KeepsAPastedLineBreakOutOfTheFile) {
+    fill(u"Frutas", {u"pera"});
+    player.clickInto("txtWord", 0);
+    desktop.setClipboard(u"uva\nverde\r\n");
+    player.press('V', kControl);
+    player.press(key::kReturn);
+    desktop.answerQuestion(kAskSpanish, false);
+    player.click("lblSave(0)");
+    EXPECT_EQ(folder.read("Temas/FRUTAS.txt"), "FRUTAS [espa\361ol]\r\npera\r\nuva verde\r\n");
+}
+
+TEST_F(InventorSaving, TakesAHeldReturnInTheListAsOnePress) {
+    fill(u"Frutas", {u"pera"});
+    desktop.deliver([&] { screen().setFocus(screen().lstTopics); });
+    player.press(key::kReturn, kHeld);
+    EXPECT_FALSE(std::filesystem::exists(folder / "Temas/FRUTAS.txt"));
+}
+
 TEST_F(InventorSaving, DoesNotLoadTheTopicOnNo) {
     fill(u"Frutas", {u"pera"});
     desktop.answerQuestion(kAskSpanish, false);
