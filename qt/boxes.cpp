@@ -100,6 +100,7 @@ QString askText(const BoxStyle& style, const QString& prompt, const QString& acc
     if (auto* field = box.findChild<QLineEdit*>()) {
         field->setMinimumWidth(style.font.pixelSize() * kInputWidth);
         field->setAccessibleName(oneLineEnds(prompt));
+        field->setContextMenuPolicy(Qt::NoContextMenu);  // not in the program's language
     }
     // Some styles put icons on these buttons; the other boxes have none.
     for (QPushButton* button : box.findChildren<QPushButton*>())

@@ -28,6 +28,8 @@ bool leavesField(const QFocusEvent& event) {
 FieldView::FieldView(TextField& field, ScreenLink& link, QWidget* parent)
     : QLineEdit(parent), ControlView(field, link), field_(field) {
     setFrame(false);
+    // Its entries would not speak the program's language.
+    setContextMenuPolicy(Qt::NoContextMenu);
     connect(this, &QLineEdit::textEdited, [this] { report(); });
     connect(this, &QLineEdit::selectionChanged, [this] { report(); });
     connect(this, &QLineEdit::cursorPositionChanged, [this] { report(); });

@@ -118,8 +118,14 @@ int ListView::selectedRow() const {
 
 void ListView::selectionMade() {
     const int row = selectedRow();
-    if (!writing_ && row != list_.listIndex())
-        link().event([&](Screen& screen) { screen.selectItem(list_, row); });
+    if (writing_ || row == list_.listIndex())
+        return;
+    link().event([&](Screen& screen) {
+        // A player selects another entry, never none: Control with a click is
+        // undone by the sync after this event.
+        if (row >= 0)
+            screen.selectItem(list_, row);
+    });
 }
 
 // With nothing selected, a key that moves the selection begins with an entry

@@ -16,10 +16,12 @@ constexpr double kFirstRule = 180;
 constexpr double kMargin = 1185;  // from the left edge to the first of the two margin lines
 
 QPixmap cropped(const QImage& image, QSize size) {
-    const QImage scaled =
-        image.scaled(size, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
-    const QPoint corner((scaled.width() - size.width()) / 2, (scaled.height() - size.height()) / 2);
-    return QPixmap::fromImage(scaled.copy(QRect(corner, size)));
+    // Cut out first and scaled then: the other way round, a very narrow picture
+    // would have to be made enormous.
+    QRect part(QPoint(), size.scaled(image.size(), Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
+    part.moveCenter(image.rect().center());
+    return QPixmap::fromImage(
+        image.copy(part).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
 
 QPixmap notebook(QSize size, double density, double pixelsPerTwip) {
