@@ -17,10 +17,18 @@ using Color = std::int32_t;
 /// A length on a screen, in twips (1/1440 inch; 15 to a pixel at 96 dpi).
 using Twips = float;
 
-constexpr Color rgb(int red, int green, int blue) { return red + 256 * green + 65536 * blue; }
+constexpr Color rgb(int red, int green, int blue) {
+    return red + 256 * green + 65536 * blue;
+}
 
-constexpr int redOf(Color color) { return color & 0xFF; }
-constexpr int greenOf(Color color) { return (color >> 8) & 0xFF; }
-constexpr int blueOf(Color color) { return (color >> 16) & 0xFF; }
+constexpr int redOf(Color color) {
+    return color & 0xFF;
+}
+constexpr int greenOf(Color color) {
+    return (color >> 8) & 0xFF;
+}
+constexpr int blueOf(Color color) {
+    return (color >> 16) & 0xFF;
+}
 
 }  // namespace quillor

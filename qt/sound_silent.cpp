@@ -12,6 +12,8 @@ class SilentPlayer : public SoundPlayer {
 
 }  // namespace
 
-std::unique_ptr<SoundPlayer> makeSoundPlayer() { return std::make_unique<SilentPlayer>(); }
+std::unique_ptr<SoundPlayer> makeSoundPlayer() {
+    return std::make_unique<SilentPlayer>();
+}
 
 }  // namespace quillor
