@@ -47,11 +47,13 @@ void Answer::showEnding() {
     game_.lifeCycle.lblStatus.caption = game_.program.lang(dead ? texts::kDead : texts::kVictory);
     if (dead)
         game_.figure.tmrDead.enabled = true;
+    // Named at once: the sixth mistake's own sound must not play under the box
+    // that completes a tour.
+    game_.sounds.name(dead ? sound::kDeath : sound::kVictory);
 }
 
 void Answer::eFinalStep() {
     GameSettings& settings = game_.settings;
-    const bool dead = settings.giGameState == kDead;
     showEnding();
     if (!settings.gbClassicMode &&
         settings.giGamesPlayed < std::numeric_limits<std::int16_t>::max())
@@ -65,7 +67,7 @@ void Answer::eFinalStep() {
     game_.menu.mWrite.enabled = false;
     moveTourOn();
     game_.countDown.stop();
-    game_.sounds.request(dead ? sound::kDeath : sound::kVictory);
+    game_.sounds.playNamed();
 }
 
 void Answer::moveTourOn() {

@@ -30,7 +30,11 @@ void Sounds::load() {
 }
 
 void Sounds::request(int soundToPlay) {
-    SoundToPlay_ = soundToPlay;
+    name(soundToPlay);
+    playNamed();
+}
+
+void Sounds::playNamed() {
     if (settings_.gbUseSounds)
         tmrSound.enabled = true;
 }

@@ -33,6 +33,10 @@ class Sounds {
     /// Names the sound to play next; it plays 20 ms later if sounds are on.
     /// A request made before that replaces it.
     void request(int soundToPlay);
+    /// Only names it, in place of what has not played yet.
+    void name(int soundToPlay) { SoundToPlay_ = soundToPlay; }
+    /// Plays what is named, if sounds are on.
+    void playNamed();
     void eActiveSound();
     void eChangeSound();
 

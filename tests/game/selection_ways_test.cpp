@@ -334,6 +334,19 @@ TEST_F(TourTest, StopsWithItsBoxOpenWhileTimeGoesOn) {
     EXPECT_EQ(desktop.playedSounds.back(), 105);
 }
 
+TEST_F(TourTest, SoundsTheDeathThatCompletesItUnderItsBox) {
+    saved.gbUseSounds = true;
+    openWithTopics(1);
+    pick(0, kTourSteps);
+    player.type(u"bcdef");
+    desktop.advance(100);
+    desktop.playedSounds.clear();
+    desktop.expectMessage(texts::kTourCompleted.english, [this] { desktop.advance(100); });
+    player.type(u"g");
+    desktop.advance(100);
+    EXPECT_EQ(desktop.playedSounds, std::vector<int>{103});
+}
+
 class HelpSwitchTest : public GameTest {};
 
 TEST_F(HelpSwitchTest, TurnsTheFirstLetterOnAndOff) {
