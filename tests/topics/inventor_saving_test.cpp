@@ -184,10 +184,10 @@ TEST_F(InventorSaving, IsReadBackAsItWasAdded) {
 }
 
 TEST_F(InventorSaving, WritesMoreThanFiftyPhrasesAsAdded) {
-    fill(u"Todo", std::vector<Text>(52, u"p"));
+    fill(u"Muchas", std::vector<Text>(52, u"p"));
     desktop.answerQuestion(kAskSpanish, false);
     player.click("lblSave(0)");
-    const std::string bytes = folder.read("Temas/TODO.txt");
+    const std::string bytes = folder.read("Temas/MUCHAS.txt");
     EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\n'), 53);
 }
 
