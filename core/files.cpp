@@ -137,10 +137,10 @@ SplitLines splitLines(std::string_view bytes, std::size_t most) {
     split.more = next < bytes.size();
     const Text text = decodeText(bytes.substr(0, next));
     std::size_t from = 0;
-    for (std::size_t i = 0; i < ends.size(); ++i) {
+    for (const LineEnd& line : ends) {
         const std::size_t end = std::min(text.find_first_of(u"\r\n", from), text.size());
         split.lines.push_back(text.substr(from, end - from));
-        from = end + (ends[i].next - ends[i].end);
+        from = end + (line.next - line.end);
     }
     return split;
 }
@@ -158,12 +158,13 @@ void writeFile(const fs::path& path, std::string_view bytes) {
     const fs::path behindLink = fs::canonical(path, error);
     const fs::path target = error ? path : behindLink;
     const fs::path temporary = target.parent_path() / kTemporaryName;
+    // What a write that was broken off left is not written into: it may be a link.
+    fs::remove(temporary, error);
     try {
         writeAll(temporary, bytes);
         fs::rename(temporary, target);
     } catch (const std::exception&) {
-        if (fs::is_regular_file(temporary, error))
-            fs::remove(temporary, error);
+        fs::remove(temporary, error);
         throw;
     }
 }

@@ -38,10 +38,10 @@ SplitLines splitLines(std::string_view bytes, std::size_t most);
 /// The first lines of a text file, at most `most`. Throws as readFileStart does.
 std::vector<Text> readLines(const std::filesystem::path& path, std::size_t most);
 
-/// The lines with CR LF after each, the last one included.
+/// The lines with CR LF after each, the last one included. Throws as writeFile does.
 void writeLines(const std::filesystem::path& path, const std::vector<Text>& lines);
 
-/// A path from text, and back.
+/// A path from text, and back. Bytes of a path that are no text become U+FFFD.
 std::filesystem::path toPath(TextView text);
 Text fromPath(const std::filesystem::path& path);
 

@@ -70,15 +70,6 @@ TEST_F(Library, DoesNotListFolders) {
     EXPECT_EQ(listed(), Names{u"a.txt"});
 }
 
-TEST_F(Library, ListsLinksToFilesOnly) {
-    if (!folder.takesLinks())
-        GTEST_SKIP() << "no links can be made here";
-    topic("a.txt", "A");
-    std::filesystem::create_symlink("a.txt", folder / "Temas" / "b.txt");
-    std::filesystem::create_symlink("nowhere", folder / "Temas" / "c.txt");
-    EXPECT_EQ(listed(), (Names{u"a.txt", u"b.txt"}));
-}
-
 TEST_F(Library, ListsAFileWithoutAName) {
     topic(".txt", "");
     EXPECT_EQ(listed(), Names{u".txt"});

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -47,14 +48,11 @@ class TempFolder {
         return std::filesystem::exists(path_ / name);
     }
 
-    /// Whether symbolic links can be made here. Windows reserves them.
-    bool takesLinks() const {
-        std::error_code error;
-        std::filesystem::create_symlink("nowhere", path_ / "link-probe", error);
-        std::error_code ignored;
-        std::filesystem::remove(path_ / "link-probe", ignored);
-        return !error;
+    /// How many files and folders stand in it, those in its folders not counted.
+    std::ptrdiff_t size() const {
+        return std::distance(std::filesystem::directory_iterator(path_), {});
     }
+
     /// Whether names that differ in capitals alone are two files.
     bool tellsCaseApart() const {
         write("case-probe", "");
