@@ -4,6 +4,7 @@
 #include <cmath>
 #include <limits>
 #include <stdexcept>
+#include <string>
 
 namespace quillor {
 
@@ -51,6 +52,11 @@ double leadingNumber(TextView line) {
         value += decimals / scale;
     }
     return negative ? -value : value;
+}
+
+Text inDigits(int value) {
+    const std::string digits = std::to_string(value);
+    return Text(digits.begin(), digits.end());
 }
 
 std::int16_t toInteger(double value) {

@@ -1,4 +1,4 @@
-// Numbers as the files write them, and rounding as the game's rules mean it.
+// Numbers as files and screens write them, and rounding as the game's rules mean it.
 #pragma once
 
 #include <cstdint>
@@ -10,6 +10,9 @@ namespace quillor {
 /// The number a line starts with: blanks, a sign and decimals allowed, 0 where
 /// there is none. Text after it is ignored.
 double leadingNumber(TextView line);
+
+/// A whole number in decimal digits, behind a minus sign where it is below 0.
+Text inDigits(int value);
 
 /// Rounds to the nearest whole number, halves to the even neighbour.
 /// Throws std::overflow_error beyond the signed 16 bits.

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <string>
 #include <variant>
 #include <vector>
 
@@ -27,15 +26,10 @@ constexpr std::array<std::variant<NumberField, FlagField>, 11> kLines{
 };
 constexpr std::size_t kSavedTopicLine = 10;
 
-Text written(std::int16_t number) {
-    const std::string digits = std::to_string(number);
-    return Text(digits.begin(), digits.end());
-}
-
 Text written(const GameSettings& settings, std::size_t line) {
     if (const auto* flag = std::get_if<FlagField>(&kLines[line]))
         return settings.*(*flag) ? u"1" : u"0";
-    return written(settings.*std::get<NumberField>(kLines[line]));
+    return inDigits(settings.*std::get<NumberField>(kLines[line]));
 }
 
 std::vector<Text> writtenLines(const GameSettings& settings) {

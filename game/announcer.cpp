@@ -1,17 +1,11 @@
 #include "game/announcer.h"
 
-#include <string>
-
-#include "core/text_codec.h"
+#include "core/numbers.h"
 #include "game/game_screen.h"
 
 namespace quillor {
 
 namespace {
-
-Text number(int value) {
-    return fromUtf8(std::to_string(value));
-}
 
 const TextPair& wordsFor(GuessResult result) {
     switch (result) {
@@ -48,13 +42,13 @@ void Announcer::sayNewGame() {
     const Program& program = game_.program;
     lblSpoken.caption = program.lang(texts::kTopicLabel) + u": " + game_.settings.gsTopicName +
                         u". " + program.lang(texts::kSpokenLetters) +
-                        number(game_.board.letters()) + u". " + board();
+                        inDigits(game_.board.letters()) + u". " + board();
 }
 
 void Announcer::sayGuess(char16_t key, GuessResult result) {
     const Program& program = game_.program;
     lblSpoken.caption = Text(1, key) + program.lang(wordsFor(result)) +
-                        program.lang(texts::kSpokenMistakes) + number(game_.settings.giStrikes) +
+                        program.lang(texts::kSpokenMistakes) + inDigits(game_.settings.giStrikes) +
                         program.lang(texts::kSpokenOfSix) + board();
 }
 

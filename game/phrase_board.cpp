@@ -1,10 +1,8 @@
 #include "game/phrase_board.h"
 
 #include <algorithm>
-#include <charconv>
-#include <string>
 
-#include "core/text_codec.h"
+#include "core/numbers.h"
 #include "game/game_screen.h"
 
 namespace quillor {
@@ -85,14 +83,11 @@ void PhraseBoard::clear() {
 }
 
 void PhraseBoard::showCount(int found) {
-    lblCont.caption = fromUtf8(std::to_string(found) + "/" + std::to_string(letters()));
+    lblCont.caption = inDigits(found) + u"/" + inDigits(letters());
 }
 
 int PhraseBoard::foundShown() const {
-    const std::string shown = toUtf8(lblCont.caption);
-    int found = 0;
-    std::from_chars(shown.data(), shown.data() + shown.size(), found);
-    return found;
+    return static_cast<int>(leadingNumber(lblCont.caption));
 }
 
 }  // namespace quillor

@@ -2,10 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <string>
 
 #include "core/numbers.h"
-#include "core/text_codec.h"
 #include "game/game_screen.h"
 
 namespace quillor {
@@ -18,10 +16,6 @@ constexpr int kLargestScore = 32767;
 constexpr int kCountStep = 10;
 constexpr int kCountSlowly = 50;  // points before the target, where single steps begin
 constexpr Twips kPointsTop = 660;
-
-Text number(int value) {
-    return fromUtf8(std::to_string(value));
-}
 
 }  // namespace
 
@@ -85,7 +79,7 @@ void Scoring::eScoreUpDown() {
 }
 
 void Scoring::showPoints(TextView sign, Color color) {
-    lblPoints.caption = Text(sign) + number(game_.settings.giScoreStep);
+    lblPoints.caption = Text(sign) + inDigits(game_.settings.giScoreStep);
     lblPoints.textColor = color;
     lblPoints.top = lblBonus.top = kPointsTop;
     lblPoints.visible = true;
@@ -124,7 +118,7 @@ void Scoring::showScore() {
         tmrScore.enabled = false;
         lblScore.caption = game_.program.lang(texts::kInfiniteScore);
     } else if (settings.giScore > 0) {
-        lblScore.caption = game_.program.lang(texts::kScore) + number(settings.giScore);
+        lblScore.caption = game_.program.lang(texts::kScore) + inDigits(settings.giScore);
         if (settings.giScore <= StatusAnimations::kLowScore)
             game_.animations.tmrBlood.enabled = true;
     } else {

@@ -1,9 +1,7 @@
 #include "game/selection_ways.h"
 
-#include <string>
-
+#include "core/numbers.h"
 #include "core/settings_file.h"
-#include "core/text_codec.h"
 #include "game/game_screen.h"
 
 namespace quillor {
@@ -103,8 +101,8 @@ Text SelectionWays::ePutWhere() const {
     const int topics = settings.giTopicMax + 1;
     const int steps = settings.giTopicIndex - settings.giTourStart;
     const int position = (steps >= 0 ? steps : topics + steps) + 1;
-    return game_.program.lang(texts::kTourPosition) + fromUtf8(std::to_string(position)) +
-           game_.program.lang(texts::kTourOf) + fromUtf8(std::to_string(topics));
+    return game_.program.lang(texts::kTourPosition) + inDigits(position) +
+           game_.program.lang(texts::kTourOf) + inDigits(topics);
 }
 
 std::int16_t SelectionWays::topicAfter(std::int16_t topic) const {

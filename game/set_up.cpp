@@ -1,9 +1,7 @@
 #include "game/set_up.h"
 
-#include <string>
-
+#include "core/numbers.h"
 #include "core/settings_file.h"
-#include "core/text_codec.h"
 #include "core/text_rules.h"
 #include "game/game_screen.h"
 
@@ -67,7 +65,7 @@ void SetUp::eChangeTitle() {
     if (!lblMode.caption.empty())
         title += lowerCase(TextView(lblMode.caption).substr(1));
     if (arcade && settings.giGamesPlayed > 0)
-        title += u" [" + fromUtf8(std::to_string(settings.giGamesPlayed)) + u"]";
+        title += u" [" + inDigits(settings.giGamesPlayed) + u"]";
     if (settings.gbHardScore)
         title += program.lang(texts::kTitleHard);
     if (settings.gbAgainstClock)

@@ -7,7 +7,7 @@
 #include "app/shared_operations.h"
 #include "core/files.h"
 #include "core/guard.h"
-#include "core/text_codec.h"
+#include "core/numbers.h"
 #include "core/text_rules.h"
 #include "core/topic_library.h"
 
@@ -40,8 +40,8 @@ Text oneLine(Text text) {
 }
 
 Text twoDigits(int value) {
-    const std::string digits = std::to_string(value);
-    return fromUtf8(digits.size() < 2 ? "0" + digits : digits);
+    const Text digits = inDigits(value);
+    return digits.size() < 2 ? u"0" + digits : digits;
 }
 
 }  // namespace

@@ -53,6 +53,12 @@ TEST(Rounding, GoesToTheNearest) {
     EXPECT_EQ(toInteger(-2.6), -3);
 }
 
+TEST(Digits, StandBehindAMinusSignBelowZero) {
+    EXPECT_EQ(inDigits(0), u"0");
+    EXPECT_EQ(inDigits(-1000), u"-1000");
+    EXPECT_EQ(inDigits(32767), u"32767");
+}
+
 TEST(Rounding, TakesHalvesToTheEvenNeighbour) {
     EXPECT_EQ(toInteger(0.5), 0);
     EXPECT_EQ(toInteger(1.5), 2);

@@ -5,16 +5,12 @@
 #include <sstream>
 #include <vector>
 
+#include "core/numbers.h"
 #include "core/settings_file.h"
-#include "core/text_codec.h"
 
 namespace quillor::testing {
 
 namespace {
-
-Text number(int value) {
-    return fromUtf8(std::to_string(value));
-}
 
 bool isGuessKey(char16_t key) {
     return TextView(u"ABCDEFGHIJKLMNÑOPQRSTUVWXYZ1234567890").find(key) != TextView::npos;
@@ -46,8 +42,8 @@ std::string expectedFile(const GameSettings& settings, bool bySettingsScreen) {
 }
 
 Text clockText(int seconds) {
-    const Text two = number(seconds % 60);
-    return number(seconds / 60) + (two.size() < 2 ? u":0" : u":") + two;
+    const Text two = inDigits(seconds % 60);
+    return inDigits(seconds / 60) + (two.size() < 2 ? u":0" : u":") + two;
 }
 
 }  // namespace
@@ -185,7 +181,7 @@ void GameInvariants::checkBoard(const frmGame& game) {
         letters += letter != u' ' ? 1 : 0;
     }
     require(game.board.lblCont.visible, "no counter");
-    require(game.board.lblCont.caption == number(found) + u"/" + number(letters),
+    require(game.board.lblCont.caption == inDigits(found) + u"/" + inDigits(letters),
             "the counter does not count the found cells");
 }
 
