@@ -2,7 +2,9 @@
 
 #include <cmath>
 
+#include "core/numbers.h"
 #include "core/settings_file.h"
+#include "ui/letter_design.h"
 
 namespace quillor {
 
@@ -50,18 +52,11 @@ Colors::Colors(Program& program, ColoredControls controls)
 }
 
 void Colors::ePutDesign() {
-    if (settings_.giDesign < 0 || settings_.giDesign > 3)
+    const int design = settings_.giDesign;
+    if (design < 0 || design >= kDesigns)
         return;
-    const bool blue = settings_.giDesign % 2 == 1;
-    const bool filled = settings_.giDesign >= 2;
-    const Color ink = blue ? settings_.glTheme : settings_.glBlack;
-    for (int i = 1; i <= 42; ++i) {
-        Label& cell = controls_.lblLetter(i);
-        controls_.lnLetter(i).color = ink;
-        cell.textColor = filled ? settings_.glWhite : ink;
-        cell.backColor = ink;
-        cell.opaque = filled;
-    }
+    for (int cell = 1; cell <= kBoardCells; ++cell)
+        paintLetter(controls_.lblLetter(cell), controls_.lnLetter(cell), design, settings_);
     settings_.glDesignColor = controls_.lblLetter(1).textColor;
 }
 
@@ -166,8 +161,7 @@ void Colors::tmrSmooth_Timer() {
     settings_.glThemeNow = drifted();
     lblColor.caption.clear();
     for (const Channel& shown : channels_)
-        for (const char character : " " + std::to_string(shown.value))
-            lblColor.caption += static_cast<char16_t>(character);
+        lblColor.caption += u" " + inDigits(shown.value);
     ePutNewColor(settings_.glThemeNow);
 }
 

@@ -5,13 +5,14 @@
 #include <array>
 
 #include "app/program.h"
+#include "core/text_rules.h"
 
 namespace quillor {
 
 /// What the colours are painted on; the parts of the game screen own it.
 struct ColoredControls {
-    ControlArray<Label, 1, 42>& lblLetter;
-    ControlArray<Line, 1, 42>& lnLetter;
+    ControlArray<Label, 1, kBoardCells>& lblLetter;
+    ControlArray<Line, 1, kBoardCells>& lnLetter;
     ControlArray<Label, 1, 40>& lblKey;
     ControlArray<Shape, 1, 40>& shpKey;
     ControlArray<Line, 0, 6>& lnStrike;
@@ -73,7 +74,7 @@ class Colors {
     std::array<Channel, 3> channels_{};  // red, green, blue
 };
 
-/// Contrast of white text on a colour, 1..21.
+/// Contrast of the palette's white on a colour: 1 is none, black has about 20.
 double whiteTextContrast(Color background);
 
 }  // namespace quillor

@@ -118,14 +118,8 @@ void frmOptions::markDesign(int design) {
 }
 
 void frmOptions::paintTiles(int design) {
-    const bool filled = design >= 2;
-    const Color ink = design % 2 == 1 ? settings_.glTheme : settings_.glBlack;
-    for (int i = 0; i <= kLastTile; ++i) {
-        lnLetter(i).color = ink;
-        lblLetter(i).textColor = filled ? settings_.glWhite : ink;
-        lblLetter(i).backColor = ink;
-        lblLetter(i).opaque = filled;
-    }
+    for (int i = 0; i <= kLastTile; ++i)
+        paintLetter(lblLetter(i), lnLetter(i), design, settings_);
 }
 
 void frmOptions::lblDs_Click(int design) {

@@ -4,6 +4,7 @@
 
 #include "app/program.h"
 #include "toolkit/screen.h"
+#include "ui/letter_design.h"
 
 namespace quillor {
 
@@ -12,7 +13,7 @@ class frmOptions : public Screen {
     explicit frmOptions(Program& program);
 
     static constexpr int kLastOption = 4;  // option 0 is the heading of the designs
-    static constexpr int kLastDesign = 3;
+    static constexpr int kLastDesign = kDesigns - 1;
     static constexpr int kLastTile = 6;
 
     Picture imgBack;
