@@ -5,17 +5,33 @@
 
 namespace quillor {
 
+namespace {
+constexpr Twips kWidth = 7860;
+constexpr Twips kHeight = 4500;
+}  // namespace
+
 void frmStart::layOut() {
-    constexpr Twips kWidth = 7860;
-    constexpr Twips kHeight = 4500;
     title = texts::kProgramName;
     width = kWidth;
     height = kHeight;
 
     add(imgBack(0)).place(0, 0, kWidth, kHeight);
+    layOutTitle();
+    lnGo.id = "lnGo";
+    lnGo.thickness = 60;
+    lnGo.span(1920, 2820, 1950, 2820);
+    add(lnGo);
+    layOutFontPanel();
 
-    // The end of the name slides out from behind the title frame, which shows
-    // the same picture as the screen and so seems not to be there.
+    tmrBar.id = "tmrBar";
+    tmrBar.interval = 20;
+    tmrBar.enabled = true;
+    add(tmrBar);
+}
+
+// The end of the name slides out from behind the title frame, which shows the
+// same picture as the screen and so seems not to be there.
+void frmStart::layOutTitle() {
     lblSub.id = "lblSub";
     lblSub.caption = u"or";
     lblSub.font = {Face::Display, 54, true};
@@ -36,12 +52,9 @@ void frmStart::layOut() {
     lblMarca.textColor = rgb(110, 110, 110);
     lblMarca.align = Align::Left;
     add(lblMarca, &frmeTitle).place(1920, 1380, 2520, 240);
+}
 
-    lnGo.id = "lnGo";
-    lnGo.thickness = 60;
-    lnGo.span(1920, 2820, 1950, 2820);
-    add(lnGo);
-
+void frmStart::layOutFontPanel() {
     frmeFont.id = "frmeFont";
     frmeFont.visible = false;
     frmeFont.opaque = true;
@@ -72,11 +85,6 @@ void frmStart::layOut() {
     lblEsc.backColor = rgb(200, 200, 200);
     lblEsc.role = LabelRole::Button;
     add(lblEsc, &frmeFont).place(kWidth - 480, 120, 360, 360);
-
-    tmrBar.id = "tmrBar";
-    tmrBar.interval = 20;
-    tmrBar.enabled = true;
-    add(tmrBar);
 }
 
 }  // namespace quillor

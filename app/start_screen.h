@@ -35,7 +35,9 @@ class frmStart : public Screen {
     void onCloseRequest() override { program_.end(); }
 
   private:
-    void layOut();   // start_layout.cpp
+    void layOut();  // start_layout.cpp, as are the next two
+    void layOutTitle();
+    void layOutFontPanel();
     void connect();  // events to handlers
     void eTranslate();
 

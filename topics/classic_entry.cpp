@@ -17,8 +17,7 @@ bool isAllowed(char16_t character) {
 
 }  // namespace
 
-frmWord1::frmWord1(Program& program)
-    : Screen("frmWord1"), program_(program), settings_(program.settings) {
+frmWord1::frmWord1(Program& program) : EntryScreen("frmWord1", program) {
     layOut();
     connect();
 }
@@ -26,29 +25,18 @@ frmWord1::frmWord1(Program& program)
 void frmWord1::connect() {
     txtWord.onKeyPress = [this](char16_t character) { return txtWord_KeyPress(character); };
     txtWord.onKeyDown = [this](KeyEvent& event) { field_KeyDown(event); };
-    txtWord.onChange = [this] {
-        lblOk(0).enabled = lblOk(1).enabled = !trimmed(txtWord.text()).empty();
-    };
+    txtWord.onChange = [this] { enableAccept(!trimmed(txtWord.text()).empty()); };
     txtTheme.onKeyPress = [this](char16_t character) { return txtTheme_KeyPress(character); };
     txtTheme.onKeyDown = [this](KeyEvent& event) { field_KeyDown(event); };
     txtTheme.onChange = [this] { txtTheme_Change(); };
     txtTheme.onGotFocus = [this] { txtTheme_GotFocus(); };
     txtTheme.onLostFocus = [this] { txtTheme_LostFocus(); };
-    for (Label& label : lblOk) {
-        label.onClick = [this] { lblOk_Click(); };
-        label.onMouseDown = [this] { shpOk.backColor = settings_.glGreen; };
-        label.onMouseUp = [this] { shpOk.backColor = settings_.glRed; };
-    }
+    connectAccept([this] { lblOk_Click(); });
 }
 
 void frmWord1::onLoad() {
     eTranslate();
-    PhraseTaker& game = phraseTaker(program_);
-    over = &game.screen();
-    game.setGameEnabled(false);
-    shpFond.backColor = shpFond.borderColor = settings_.glTheme;
-    shpOk.backColor = settings_.glRed;
-    imgBack.image = game.paper();
+    standOverGame();
     txtTheme.setText(settings_.gsClassicTopic);
     if (txtTheme.text().empty())
         txtTheme.setText(placeholder());
@@ -62,8 +50,7 @@ void frmWord1::eTranslate() {
     txtWord.spokenName = program_.lang(texts::kSpokenPhraseField);
     txtTheme.toolTip = program_.lang(texts::kTopicTip);
     txtTheme.spokenName = program_.lang(texts::kSpokenTopicField);
-    lblOk(1).caption = program_.lang(texts::kOk);
-    lblOk(0).spokenName = lblOk(1).caption;
+    translateAccept();
 }
 
 char16_t frmWord1::eCheck_Key(char16_t character) const {

@@ -38,7 +38,10 @@ class frmInventor : public Screen {
     void onCloseRequest() override { program_.close(*this); }
 
   private:
-    void layOut();  // inventor_layout.cpp
+    void layOut();  // inventor_layout.cpp, as are the next three
+    void layOutHead();
+    void layOutNames();
+    void layOutPhrases();
     void connect();
     void connectFields();
     void connectButtons();

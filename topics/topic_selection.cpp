@@ -33,34 +33,26 @@ bool hasEnoughPhrases(const Topic& topic, const Text& last) {
 
 }  // namespace
 
-frmWord2::frmWord2(Program& program)
-    : Screen("frmWord2"), program_(program), settings_(program.settings) {
+frmWord2::frmWord2(Program& program) : EntryScreen("frmWord2", program) {
     layOut();
     connect();
 }
 
 void frmWord2::connect() {
-    lstTopics.onClick = [this] { lblOk(0).enabled = lblOk(1).enabled = true; };
+    lstTopics.onClick = [this] { enableAccept(true); };
     lstTopics.onDoubleClick = [this] { lblOk_Click(); };
     lstTopics.onKeyDown = [this](KeyEvent& event) { lstTopics_KeyDown(event); };
     for (int i = 0; i <= 1; ++i) {
         lblChng(i).onClick = [this, i] { eChangeMode(i == 0 ? -1 : +1); };
         lblChng(i).onMouseDown = [this, i] { lblChng(i).textColor = settings_.glGrey; };
         lblChng(i).onMouseUp = [this, i] { lblChng(i).textColor = settings_.glWhite; };
-        lblOk(i).onClick = [this] { lblOk_Click(); };
-        lblOk(i).onMouseDown = [this] { shpOk.backColor = settings_.glGreen; };
-        lblOk(i).onMouseUp = [this] { shpOk.backColor = settings_.glRed; };
     }
+    connectAccept([this] { lblOk_Click(); });
 }
 
 void frmWord2::onLoad() {
     eTranslate();
-    PhraseTaker& game = phraseTaker(program_);
-    over = &game.screen();
-    game.setGameEnabled(false);
-    shpFond.backColor = shpFond.borderColor = settings_.glTheme;
-    shpOk.backColor = settings_.glRed;
-    imgBack.image = game.paper();
+    standOverGame();
     // The caption of the mode keeps its first text, whatever mode is pending.
     pendingMode_ = settings_.giWay;
     fillList();
@@ -68,8 +60,7 @@ void frmWord2::onLoad() {
 
 void frmWord2::eTranslate() {
     title = program_.lang(texts::kSelectionTitle);
-    lblOk(1).caption = program_.lang(texts::kOk);
-    lblOk(0).spokenName = lblOk(1).caption;
+    translateAccept();
     lstTopics.toolTip = program_.lang(texts::kTopicsTip);
     lstTopics.spokenName = program_.lang(texts::kSpokenTopicList);
     lblSelect.caption = program_.lang(texts::kSelectionLabel);

@@ -4,28 +4,21 @@
 
 #include <cstdint>
 
-#include "app/phrase_taker.h"
-#include "app/program.h"
-#include "toolkit/screen.h"
+#include "topics/entry_screen.h"
 
 namespace quillor {
 
-class frmWord2 : public Screen {
+class frmWord2 : public EntryScreen {
   public:
     explicit frmWord2(Program& program);
 
-    Picture imgBack;
-    Shape shpFond;
     ListBox lstTopics;
     Label lblSelect;
     ControlArray<Shape, 0, 1> shpChng{"shpChng"};
     ControlArray<Label, 0, 1> lblChng{"lblChng"};  // 0 steps back, 1 forward
     Label lblOpt;
-    Shape shpOk;
-    ControlArray<Label, 0, 1> lblOk{"lblOk"};  // 0 the face, 1 the caption
 
     Control* initialFocus() override { return &lstTopics; }
-    void takePaper(const ImageRef& paper) override { imgBack.image = paper; }
 
     /// Deals a phrase of the topic at that place of the list (which is the
     /// topic's index) and starts a game with it. A topic with too few phrases,
@@ -34,24 +27,21 @@ class frmWord2 : public Screen {
 
   protected:
     void onLoad() override;
-    void onUnload() override { phraseTaker(program_).setGameEnabled(true); }
-    void onCloseRequest() override { program_.close(*this); }
 
   private:
-    void layOut();  // topic_selection_layout.cpp
+    void layOut();  // topic_selection_layout.cpp, as is the next one
+    void layOutModes();
     void connect();
     void eTranslate();
     void fillList();
     void lblOk_Click();
     void eChangeMode(int step);
     void lstTopics_KeyDown(KeyEvent& event);
-    void choose(std::int16_t topic);
+    void choose(std::int16_t topicIndex);
     void nameTopic(const Topic& topic);
     void dealPhrase(const Topic& topic, int phrases);
     void tellGame();
 
-    Program& program_;
-    GameSettings& settings_;
     int pendingMode_ = 0;
 };
 

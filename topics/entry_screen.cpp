@@ -1,0 +1,54 @@
+#include "topics/entry_screen.h"
+
+namespace quillor {
+
+EntryScreen::EntryScreen(const std::string& screenName, Program& program)
+    : Screen(screenName), program_(program), settings_(program.settings) {}
+
+void EntryScreen::layOutPanel(Twips screenHeight) {
+    width = kWidth;
+    height = screenHeight;
+    imgBack.id = "imgBack";
+    add(imgBack).place(0, 0, width, height);
+    shpFond.id = "shpFond";
+    shpFond.radius = style::kButtonRadius;
+    add(shpFond).place(240, 240, width - 480, height - 480);
+}
+
+void EntryScreen::layOutAccept(Twips top) {
+    shpOk.id = "shpOk";
+    shpOk.radius = style::kButtonRadius;
+    add(shpOk).place(kEdge, top, kInner, 960);
+    lblOk(0).role = lblOk(1).role = LabelRole::Button;
+    lblOk(0).tabStop = false;
+    add(lblOk(0)).place(kEdge, top, kInner, 960);
+    lblOk(1).font = style::kButton;
+    lblOk(1).textColor = kPale;
+    lblOk(1).cornerRadius = style::kButtonRadius;
+    add(lblOk(1)).place(kEdge + 240, top + 120, kInner - 480, 720);
+    enableAccept(false);
+}
+
+void EntryScreen::connectAccept(const std::function<void()>& handler) {
+    for (Label& label : lblOk) {
+        label.onClick = handler;
+        label.onMouseDown = [this] { shpOk.backColor = settings_.glGreen; };
+        label.onMouseUp = [this] { shpOk.backColor = settings_.glRed; };
+    }
+}
+
+void EntryScreen::translateAccept() {
+    lblOk(1).caption = program_.lang(texts::kOk);
+    lblOk(0).spokenName = lblOk(1).caption;
+}
+
+void EntryScreen::standOverGame() {
+    PhraseTaker& game = phraseTaker(program_);
+    over = &game.screen();
+    game.setGameEnabled(false);
+    shpFond.backColor = shpFond.borderColor = settings_.glTheme;
+    shpOk.backColor = settings_.glRed;
+    imgBack.image = game.paper();
+}
+
+}  // namespace quillor

@@ -1,0 +1,49 @@
+// What the two screens have in common that stand over the game and choose a
+// phrase for it: the panel they are on, the accept button, and the game held
+// still behind them.
+#pragma once
+
+#include <functional>
+
+#include "app/phrase_taker.h"
+#include "app/program.h"
+#include "toolkit/screen.h"
+#include "toolkit/style.h"
+
+namespace quillor {
+
+class EntryScreen : public Screen {
+  public:
+    Picture imgBack;
+    Shape shpFond;
+    Shape shpOk;
+    ControlArray<Label, 0, 1> lblOk{"lblOk"};  // 0 the face, 1 the caption
+
+    void takePaper(const ImageRef& paper) override { imgBack.image = paper; }
+
+  protected:
+    EntryScreen(const std::string& screenName, Program& program);
+
+    static constexpr Twips kWidth = 7200;
+    static constexpr Twips kEdge = 480;  // from the screen's edge to what stands on the panel
+    static constexpr Twips kInner = kWidth - 2 * kEdge;
+    static constexpr Color kPale = rgb(250, 250, 250);
+
+    void layOutPanel(Twips screenHeight);
+    void layOutAccept(Twips top);
+    /// Either part of the button runs the handler and shows the press.
+    void connectAccept(const std::function<void()>& handler);
+    void enableAccept(bool now) { lblOk(0).enabled = lblOk(1).enabled = now; }
+    void translateAccept();
+
+    /// Disables the game and takes its paper and the colours over. Throws
+    /// std::bad_cast when no game is loaded.
+    void standOverGame();
+    void onUnload() override { phraseTaker(program_).setGameEnabled(true); }
+    void onCloseRequest() override { program_.close(*this); }
+
+    Program& program_;
+    GameSettings& settings_;
+};
+
+}  // namespace quillor
