@@ -9,7 +9,7 @@ namespace quillor {
 
 namespace {
 constexpr TextView kCompany = u"Quillor developers";
-constexpr TextView kVersionNumber = u"6.0.35";
+constexpr TextView kVersionNumber = u"" QUILLOR_VERSION;
 }  // namespace
 
 GameMenu::GameMenu(Program& program, Screen& gameScreen, Commands commands)
@@ -59,11 +59,10 @@ void GameMenu::buildTree() {
     // Repeat and Tour need a topic to start from: the first deal enables them.
     mDoWay(1).enabled = mDoWay(2).enabled = false;
     mWrite.enabled = false;
-    mAuto.children = {&mDoWay(0),      &mDoWay(1),    &mDoWay(2),
-                      &separators_[1], &mDoWayAll(0), &mDoWayAll(1)};
-    mMenu.children = {&mBack,  &mReboot,        &separators_[0], &mAuto,  &separators_[2],
-                      &mWrite, &separators_[3], &mWave,          &mHelpy, &mHide,
-                      &mColor, &separators_[4], &mAbout,         &mHelp};
+    const auto line = [this](std::size_t number) { return &separators_.at(number - 1); };
+    mAuto.children = {&mDoWay(0), &mDoWay(1), &mDoWay(2), line(2), &mDoWayAll(0), &mDoWayAll(1)};
+    mMenu.children = {&mBack, &mReboot, line(1), &mAuto,  line(3), &mWrite, line(4),
+                      &mWave, &mHelpy,  &mHide,  &mColor, line(5), &mAbout, &mHelp};
 }
 
 void GameMenu::eTranslate() {
