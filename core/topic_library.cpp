@@ -65,6 +65,7 @@ std::vector<fs::path> topicFiles(const fs::path& folder) {
     }
     std::sort(listed.begin(), listed.end());
     std::vector<fs::path> files;
+    files.reserve(listed.size());
     for (ListedFile& file : listed)
         files.push_back(std::move(file.path));
     return files;

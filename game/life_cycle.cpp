@@ -41,11 +41,10 @@ void LifeCycle::ePlayButton() {
     }
     if (game_.scoring.tmrScore.enabled)
         return;
-    if (settings.giGameState != kPlaying)
-        eContinueToPlay();
-    else if (settings.giStrikes >= kTooManyMistakes)
+    const bool playing = settings.giGameState == kPlaying;
+    if (playing && settings.giStrikes >= kTooManyMistakes)
         desktop.messageBox(MessageIcon::Information, game_.program.lang(texts::kTooManyMistakes));
-    else if (game_.menu.mayLeaveGame())
+    else if (!playing || game_.menu.mayLeaveGame())
         eContinueToPlay();
 }
 

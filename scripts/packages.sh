@@ -1,5 +1,5 @@
-# What has to be installed to build, play and test, in one place. Sourced by
-# run.sh, test.sh and .ci/run.
+# What has to be installed to build, play, test and check, in one place. Sourced
+# by the scripts that need any of it.
 # shellcheck shell=bash
 
 # Names of Debian 12 and Ubuntu 24.04; later releases have them too.
