@@ -34,14 +34,16 @@ class Program {
     Text lang(const TextPair& pair) const { return eLang(settings, pair); }
 
     /// Makes and loads a screen without showing it; one that is loaded already
-    /// is returned as it is.
+    /// is returned as it is. Throws std::out_of_range when no one said how it is
+    /// made; so does `show`.
     Screen& load(ScreenId id);
     Screen& show(ScreenId id);
     /// The loaded screen, or null.
     Screen* find(ScreenId id) const;
-    /// Unloads and hides a screen; it is destroyed by `destroyClosed`.
+    /// Unloads and hides a screen; it is destroyed by `destroyClosed`. One that
+    /// is not loaded is left alone.
     void close(Screen& screen);
-    /// Closes every screen and ends the run.
+    /// Ends the run at once. No screen is unloaded: nothing is saved at the end.
     void end();
 
     /// Destroys the screens that have been closed. For the shell, once no

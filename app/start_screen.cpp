@@ -18,6 +18,7 @@ constexpr Twips kSubBounce = 30;
 
 constexpr std::size_t kColorFileLines = 10'000;  // the last of them wins; far beyond any real file
 constexpr TextView kMakersPage = u"https://quillor.example/software";
+constexpr const char* kFontFile = "ARLRDBD.ttf";
 
 }  // namespace
 
@@ -103,16 +104,14 @@ void frmStart::eTranslate() {
 
 void frmStart::checkFont() {
     mbFontMissing_ = !program_.desktop.fontPresent(texts::kDisplayFont);
-    if (mbFontMissing_ && eFileExists(program_.folder / "ARLRDBD.ttf"))
+    if (mbFontMissing_ && eFileExists(program_.folder / kFontFile))
         lblAction.caption = program_.lang(texts::kOpenFont);
 }
 
 void frmStart::repairTopicFolder() {
     const auto folder = topicFolder(settings_, program_.folder);
-    if (!eFileExists(folder)) {
+    if (!eFileExists(folder))
         std::filesystem::create_directory(folder);
-        eWriteDemoTopic(settings_, program_.folder);
-    }
     if (topicFiles(folder).empty())
         eWriteDemoTopic(settings_, program_.folder);
 }
@@ -164,7 +163,7 @@ void frmStart::lblAction_Click() {
         program_.end();
         return;
     }
-    const auto fontFile = program_.folder / "ARLRDBD.ttf";
+    const auto fontFile = program_.folder / kFontFile;
     if (eFileExists(fontFile))
         program_.desktop.open(fontFile);
     else

@@ -1,8 +1,9 @@
 // What the start waits for (reading the topics) and what each guess costs.
+#include <chrono>
 #include <filesystem>
+#include <string>
 
 #include <benchmark/benchmark.h>
-#include <unistd.h>
 
 #include "core/files.h"
 #include "core/text_rules.h"

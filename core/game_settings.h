@@ -29,7 +29,7 @@ inline constexpr std::int16_t kFirstScore = 1000;
 /// `eResetGlobalVariables` each time the start screen loads.
 struct GameSettings {
     // Preferences, in the order of the settings file.
-    std::int16_t giDesign = 0;
+    std::int16_t giDesign = 0;  // of the player's letters, 0..3
     bool gbUseSounds = false;
     bool gbUseWikipedia = false;
     bool gbHiddenLetters = false;
@@ -39,7 +39,7 @@ struct GameSettings {
     bool gbFirstLetter = false;
     std::int16_t giWay = kManual;
     bool gbColorTransition = false;
-    std::int16_t giSavedTopic = 0;
+    std::int16_t giSavedTopic = 0;  // the topic last dealt from, for the next run
 
     // Language and library.
     bool gbEnglish = false;
@@ -58,15 +58,15 @@ struct GameSettings {
     bool gbAnswerWritten = false;  // won by a typed answer with under half the letters found
     bool gbHintUsed = false;
     bool gbTourStarted = false;
-    bool gbAutoChoice = false;  // the game itself picks the topic; survives the reset
-    std::int16_t giTopicIndex = 0;
-    std::int16_t giTourStart = 0;
+    bool gbAutoChoice = false;        // the game itself picks the topic; survives the reset
+    std::int16_t giTopicIndex = 0;    // the current topic, by its place in gaTopicLines
+    std::int16_t giTourStart = 0;     // the topic that the tour comes back to
     std::int16_t giLettersFound = 0;  // written by a good guess only, carried over between games
-    std::int16_t giGamesPlayed = 0;
-    std::int16_t giScore = 0;       // as shown, 0..32767
-    std::int16_t giScoreKept = 0;   // while the game screen is closed
-    std::int16_t giScoreShown = 0;  // where the counting score is heading
-    std::int16_t giScoreStep = 0;   // won or lost by the last game
+    std::int16_t giGamesPlayed = 0;   // arcade games ended since the start
+    std::int16_t giScore = 0;         // as shown, 0..32767
+    std::int16_t giScoreKept = 0;     // while the game screen is closed
+    std::int16_t giScoreShown = 0;    // where the counting score is heading
+    std::int16_t giScoreStep = 0;     // won or lost by the last game
     bool gbSettingsLoaded = false;
     bool gbOptionsOpened = false;  // survives the reset
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include <exception>
-#include <functional>
 #include <string_view>
+#include <utility>
 
 namespace quillor {
 

@@ -8,7 +8,7 @@ namespace quillor {
 
 class frmGame;
 
-/// Seconds allowed for a phrase of that length, blanks included. Very short
+/// Seconds allowed for a phrase of that length, 1 or more, blanks included. Very short
 /// phrases get much time, long ones get time for their length.
 int secondsAllowed(int letters, bool hiddenLetters);
 

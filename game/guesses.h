@@ -37,7 +37,8 @@ class Guesses {
     GuessResult eEnterKey(char16_t key);
     /// Records a mistake in the first free box; the sixth ends the game.
     void ePutStrikes(char16_t key);
-    /// Uncovers the first character that occurs once in the phrase.
+    /// Uncovers the first character that occurs once in the phrase. Where there
+    /// is none, or the phrase is too short, a box says so.
     void eHelpLetter();
     /// A guess of the player's own.
     void guess(char16_t key);

@@ -1,4 +1,4 @@
-// Where the next phrase comes from: the six entries of the selection menu, the
+// Where the next phrase comes from: the five ways of the selection menu, the
 // tour's position, and the two help switches.
 #pragma once
 

@@ -10,7 +10,7 @@ namespace quillor {
 std::filesystem::path useFolder(const std::filesystem::path& folder);
 
 /// The executable's folder if it can be written to, else the user's data
-/// folder, which gets the files that are carried along with the executable.
+/// folder, which gets a copy of the manual beside the executable.
 /// Throws like useFolder.
 std::filesystem::path findProgramFolder(const std::filesystem::path& executableFolder,
                                         const std::filesystem::path& userDataFolder);

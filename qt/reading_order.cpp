@@ -25,7 +25,8 @@ bool isLeft(const Stop& a, const Stop& b) {
     return std::tuple(a.place.left(), a.place.top()) < std::tuple(b.place.left(), b.place.top());
 }
 
-// Beside each other, not below: their tops differ by less than half of the lower one.
+// Beside each other, not below: their tops differ by no more than half the height of
+// the one that is less high.
 bool sameRow(const Stop& a, const Stop& b) {
     return std::abs(a.place.top() - b.place.top()) <=
            std::min(a.place.height(), b.place.height()) / 2;

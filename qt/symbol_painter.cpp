@@ -1,8 +1,8 @@
 #include "qt/symbol_painter.h"
 
 #include <QPainterPath>
+#include <initializer_list>
 #include <map>
-#include <string_view>
 #include <utility>
 
 #include "toolkit/symbols.h"

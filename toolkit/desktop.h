@@ -35,6 +35,7 @@ class Desktop {
     virtual Text inputBox(TextView prompt) = 0;
     virtual void aboutBox(TextView title, TextView text) = 0;
 
+    /// Empty when the clipboard holds no text.
     virtual Text clipboard() = 0;
     virtual void setClipboard(TextView text) = 0;
 

@@ -58,9 +58,10 @@ class Screen {
     void tick(Timer& timer);
     void edit(TextField& field, Text text, int selectionStart, int selectionLength);
     void fieldKeyDown(TextField& field, KeyEvent& event);
+    /// The character to type in place of this one; 0: none.
     char16_t fieldKeyPress(TextField& field, char16_t character);
     void focusChanged(TextField& field, bool gained);
-    void selectItem(ListBox& list, int index);
+    void selectItem(ListBox& list, int index);  // -1: none
     void doubleClick(ListBox& list);
     void listKeyDown(ListBox& list, KeyEvent& event);
 
