@@ -71,9 +71,9 @@ TEST_F(DamagedSettings, MissingLinesSwitchNothingOffOnTheSettingsScreen) {
 }
 
 TEST_F(DamagedSettings, FurtherLinesAreIgnored) {
-    std::string bytes;
-    for (int line = 0; line < 500; ++line)
-        bytes += line < 10 ? "1\r\n" : line == 10 ? "2\r\n" : "99999\r\n";
+    std::string bytes = "1\r\n1\r\n1\r\n1\r\n1\r\n1\r\n1\r\n1\r\n1\r\n1\r\n2\r\n";
+    for (int line = 11; line < 500; ++line)
+        bytes += "99999\r\n";
     load(bytes);
     EXPECT_EQ(settings.giTopicIndex, 2);
     EXPECT_EQ(settings.giWay, kRepeat);

@@ -84,9 +84,10 @@ TEST(Encoding, ReplacesLoneSurrogates) {
 TEST(Encoding, IsReadBackAsItWas) {
     Random random(11);
     for (int round = 0; round < 2000; ++round) {
+        const int characters = round % 2 * 0xD6FF + 0xFF;  // Latin alone, then nearly all
         Text text;
         for (int i = 0; i < 6; ++i)
-            text.push_back(static_cast<char16_t>(1 + random.next() * (round % 2 ? 0xFF : 0xD7FE)));
+            text.push_back(static_cast<char16_t>(1 + random.next() * characters));
         ASSERT_EQ(decodeText(encodeText(text)), text) << round;
     }
 }

@@ -14,10 +14,11 @@ class GameInvariants {
   public:
     explicit GameInvariants(Program& program) : program_(program) {}
 
-    /// Before an event: the letter that it guesses, if it guesses one.
+    /// Before each event.
     void beforeEvent();
+    /// After that: the event will guess this letter.
     void willGuess(char16_t key);
-    /// After it. `mayHaveSaved`: looks at the settings file as well.
+    /// After each event. `mayHaveSaved`: looks at the settings file as well.
     void afterEvent(bool mayHaveSaved);
 
     const std::string& problem() const { return problem_; }

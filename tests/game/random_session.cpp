@@ -223,9 +223,9 @@ class Session {
         auto* game = dynamic_cast<frmGame*>(program_.find(ScreenId::Game));
         if (!game || gameInFront())
             return;
-        KeyEvent event1;
-        event1.code = std::array{key::kReturn, key::kF2, key::kF3}.at(event.detail % 3);
-        desktop_.deliver([&] { game->keyDown(event1); });
+        KeyEvent press;
+        press.code = std::array{key::kReturn, key::kF2, key::kF3}.at(event.detail % 3);
+        desktop_.deliver([&] { game->keyDown(press); });
         desktop_.deliver([&] { game->keyPress(u'E'); });
         desktop_.deliver([&] { game->click(game->lifeCycle.lblPlay(0)); });
         desktop_.deliver([&] { game->choose(game->menu.mHide); });

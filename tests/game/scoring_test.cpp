@@ -82,14 +82,16 @@ class ScoringTest : public GameTest {
   protected:
     Text score() { return game().scoring.lblScore.caption; }
     Text points() { return game().scoring.lblPoints.caption; }
+    static constexpr int kLong = 20'000;  // ms; more than any rise or count takes
+    bool counts() { return game().scoring.tmrScore.enabled; }
     // Lets the points rise to their end, where the counting starts.
     void waitForRise() {
-        while (!game().scoring.tmrScore.enabled)
+        for (int waited = 0; !counts() && waited < kLong; ++waited)
             desktop.advance(1);
     }
     std::vector<int> scoresWhileCounting() {
         std::vector<int> seen{settings.giScore};
-        while (game().scoring.tmrScore.enabled) {
+        for (int waited = 0; counts() && waited < kLong; ++waited) {
             desktop.advance(1);
             if (settings.giScore != seen.back())
                 seen.push_back(settings.giScore);
