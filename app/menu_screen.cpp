@@ -1,3 +1,4 @@
+// Each option is a caption and the button behind it, which act as one.
 #include "app/menu_screen.h"
 
 namespace quillor {

@@ -1,3 +1,4 @@
+// The life of screens: made by their factories, kept by id, set aside when closed.
 #include "app/program.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// The text rules of core/ joined to the record, the boxes and the clipboard.
 #include "app/shared_operations.h"
 
 #include "core/text_rules.h"

@@ -47,7 +47,7 @@ void frmStart::layOutTitle() {
     lblName.align = Align::Right;
     add(lblName, &frmeTitle).place(1050, 120, 3420, 1260);
     lblMarca.id = "lblMarca";
-    lblMarca.caption = u"Quillor developers";
+    lblMarca.caption = texts::kMakers;
     lblMarca.font = {Face::Display, 9, true};
     lblMarca.textColor = rgb(110, 110, 110);
     lblMarca.align = Align::Left;

@@ -1,3 +1,4 @@
+// The loading sequence in its order, and the progress line that runs after it.
 #include "app/start_screen.h"
 
 #include "core/files.h"

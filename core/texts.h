@@ -29,6 +29,7 @@ inline Text eLang(const GameSettings& settings, const TextPair& pair) {
 namespace texts {
 
 inline constexpr TextView kProgramName = u"Quillor";
+inline constexpr TextView kMakers = u"Quillor developers";
 inline constexpr TextView kDisplayFont = u"Arial Rounded MT Bold";
 
 // Dialog buttons.

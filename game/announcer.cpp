@@ -1,3 +1,4 @@
+// Sentences put together from the board and the record.
 #include "game/announcer.h"
 
 #include "core/numbers.h"

@@ -1,3 +1,4 @@
+// The judging of a typed answer, and the steps of every ending in their order.
 #include "game/answer.h"
 
 #include <limits>

@@ -1,3 +1,4 @@
+// A timer looks at the wall clock five times a second and steps when it has.
 #include "game/count_down.h"
 
 #include <array>

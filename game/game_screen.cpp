@@ -1,3 +1,4 @@
+// Wiring: the parts with each other, the mouse and the keys with the parts.
 #include "game/game_screen.h"
 
 #include <memory>

@@ -1,3 +1,4 @@
+// From a key to its result: uncovered cells, or a filled strike box.
 #include "game/guesses.h"
 
 #include <algorithm>

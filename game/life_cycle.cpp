@@ -1,3 +1,4 @@
+// Who may leave a game, what a reset puts back, and how the next phrase is fetched.
 #include "game/life_cycle.h"
 
 #include "core/settings_file.h"

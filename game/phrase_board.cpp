@@ -1,3 +1,4 @@
+// Cells are laid out once a game; afterwards they are only shown or hidden.
 #include "game/phrase_board.h"
 
 #include <algorithm>

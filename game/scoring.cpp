@@ -1,3 +1,4 @@
+// The formulas of the points, and the count from the old score to the new one.
 #include "game/scoring.h"
 
 #include <algorithm>

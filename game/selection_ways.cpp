@@ -1,3 +1,4 @@
+// Keeps the menu's checks, the record and the settings file in step.
 #include "game/selection_ways.h"
 
 #include "core/numbers.h"

@@ -1,3 +1,4 @@
+// The order in which the screen is made ready, and the pieces of its title.
 #include "game/set_up.h"
 
 #include "core/numbers.h"

@@ -1,3 +1,4 @@
+// A factory of accessible objects that know the role, state and press of a label.
 #include "qt/accessible_label.h"
 
 #include <QAccessibleWidget>

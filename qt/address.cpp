@@ -1,3 +1,4 @@
+// Finds where the fixed part ends, and encodes what follows.
 #include "qt/address.h"
 
 #include <QUrl>

@@ -1,3 +1,4 @@
+// Read by hand: help and errors are needed before there is a display.
 #include "qt/command_line.h"
 
 namespace quillor {

@@ -1,3 +1,4 @@
+// The order of the differences: place, words, look, and at last who is on show.
 #include "qt/control_view.h"
 
 #include "core/text_rules.h"

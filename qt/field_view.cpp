@@ -1,3 +1,4 @@
+// Field and line edit follow each other; a flag tells which of them is being written.
 #include "qt/field_view.h"
 
 #include <QInputMethodEvent>

@@ -1,3 +1,4 @@
+// Installed fonts go before those that are carried along.
 #include "qt/font_book.h"
 
 #include <QDir>

@@ -1,3 +1,4 @@
+// A table for keys with names; letters, digits and F keys are counted.
 #include "qt/key_mapping.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// After each step the screen may be closed, or the key used up.
 #include "qt/key_router.h"
 
 #include "core/text_rules.h"

@@ -1,3 +1,4 @@
+// The mouse and the keys become events of the screen; what changes is announced.
 #include "qt/label_views.h"
 
 #include <QAccessible>

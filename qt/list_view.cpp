@@ -1,3 +1,4 @@
+// Rows drawn by hand; entries and selection follow those of the screen.
 #include "qt/list_view.h"
 
 #include <QPainter>

@@ -1,3 +1,4 @@
+// Scaled while it is read where the format can do that, else held to a limit.
 #include "qt/picture_loader.h"
 
 #include <QImageReader>

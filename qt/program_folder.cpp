@@ -1,3 +1,4 @@
+// Whether a folder can be written to is found out by writing.
 #include "qt/program_folder.h"
 
 #include <QTemporaryFile>

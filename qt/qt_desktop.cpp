@@ -1,3 +1,4 @@
+// Each wish by way of Qt; whatever opens a box runs inside Shell::modally.
 #include "qt/qt_desktop.h"
 
 #include <QClipboard>

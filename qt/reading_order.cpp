@@ -1,3 +1,4 @@
+// Sorted by top edges, cut into rows, and each row sorted by left edges.
 #include "qt/reading_order.h"
 
 #include <QRectF>

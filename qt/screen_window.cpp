@@ -1,3 +1,4 @@
+// A widget for each control, the focus among them, and the place of the window.
 #include "qt/screen_window.h"
 
 #include <QCloseEvent>

@@ -1,3 +1,4 @@
+// What follows an event: windows are brought in step, shown, hidden and destroyed.
 #include "qt/shell.h"
 
 #include <QCoreApplication>

@@ -1,3 +1,4 @@
+// One worker thread, for which the caller waits, but only so long.
 #include "qt/sound_thread.h"
 
 #include <condition_variable>

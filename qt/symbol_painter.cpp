@@ -1,3 +1,4 @@
+// Every symbol as paths in the unit square.
 #include "qt/symbol_painter.h"
 
 #include <QPainterPath>

@@ -1,3 +1,4 @@
+// A QTimer for each timer, set anew after every event.
 #include "qt/timer_set.h"
 
 namespace quillor {

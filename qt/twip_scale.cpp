@@ -1,3 +1,4 @@
+// Edges are rounded, not sizes.
 #include "qt/twip_scale.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// PCM is copied; MPEG Layer 3 goes through mpg123.
 #include "qt/wave_decoder.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// No length in an image is believed before it is checked.
 #include "qt/wave_image.h"
 
 #include <algorithm>

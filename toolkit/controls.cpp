@@ -1,3 +1,4 @@
+// Fields and lists keep caret and selection within what they hold.
 #include "toolkit/controls.h"
 
 #include <algorithm>

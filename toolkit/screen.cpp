@@ -1,3 +1,4 @@
+// Each event: does the screen take it, is there a handler, and the guard around it.
 #include "toolkit/screen.h"
 
 #include <algorithm>

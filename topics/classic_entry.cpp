@@ -1,3 +1,4 @@
+// What is typed is filtered key by key; what was pasted is checked at the end.
 #include "topics/classic_entry.h"
 
 #include <algorithm>

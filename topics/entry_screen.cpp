@@ -1,3 +1,4 @@
+// Looks, wiring and texts of what both screens have.
 #include "topics/entry_screen.h"
 
 namespace quillor {

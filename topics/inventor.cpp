@@ -1,3 +1,4 @@
+// From typed phrases to a topic file whose name every system takes.
 #include "topics/inventor.h"
 
 #include <algorithm>

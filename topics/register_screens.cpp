@@ -1,3 +1,4 @@
+// The only place that knows all of this folder's screens.
 #include "topics/register_screens.h"
 
 #include <memory>

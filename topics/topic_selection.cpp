@@ -1,3 +1,4 @@
+// Dealing: a topic with enough phrases, then one of them, never the last one again.
 #include "topics/topic_selection.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The colours of each key, and the drift that keeps white text readable.
 #include "ui/colors.h"
 
 #include <cmath>

@@ -1,3 +1,4 @@
+// The pieces' places at rest, and the one drop away from them.
 #include "ui/figure.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// The tree of entries with its shortcuts, and what the plain commands do.
 #include "ui/game_menu.h"
 
 #include <utility>
@@ -8,7 +9,6 @@
 namespace quillor {
 
 namespace {
-constexpr TextView kCompany = u"Quillor developers";
 constexpr TextView kVersionNumber = u"" QUILLOR_VERSION;
 }  // namespace
 
@@ -112,7 +112,7 @@ void GameMenu::mReboot_Click() {
 }
 
 void GameMenu::mAbout_Click() {
-    const Text further = Text(kCompany) + u"\r\n" + Text(texts::kProgramName) +
+    const Text further = Text(texts::kMakers) + u"\r\n" + Text(texts::kProgramName) +
                          program_.lang(texts::kVersion) + Text(kVersionNumber);
     program_.desktop.aboutBox(texts::kProgramName, further);
 }

@@ -1,3 +1,4 @@
+// An odd design inks in colour; from 2 on, the ink fills the cell.
 #include "ui/letter_design.h"
 
 namespace quillor {

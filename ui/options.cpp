@@ -1,3 +1,4 @@
+// What is ticked goes through the record into the file; loading goes the other way.
 #include "ui/options.h"
 
 #include <memory>

@@ -1,3 +1,4 @@
+// A sound waits 20 ms, so that what it belongs to is on the display before it plays.
 #include "ui/sounds.h"
 
 #include <stdexcept>

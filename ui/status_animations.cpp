@@ -1,3 +1,4 @@
+// Each tick takes one small step from what is on show.
 #include "ui/status_animations.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The addresses that an answer is looked up at.
 #include "ui/web_search.h"
 
 #include "core/text_rules.h"

@@ -1,3 +1,4 @@
+// What is on show is compared with the record and with a model of the guesses.
 #include "tests/game/game_invariants.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Addresses for the browser: what is encoded, and what stays as it is.
 #include "qt/address.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Options, their values, and what is refused.
 #include "qt/command_line.h"
 
 #include <gtest/gtest.h>

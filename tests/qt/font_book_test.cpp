@@ -1,3 +1,4 @@
+// Which fonts count as present, and what a face is drawn in.
 #include "qt/font_book.h"
 
 #include <QFontInfo>

@@ -1,3 +1,4 @@
+// Qt's keys as virtual key codes and as characters.
 #include "qt/key_mapping.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Pictures of any size and kind, and files that are none.
 #include "qt/picture_loader.h"
 
 #include <QImage>

@@ -1,3 +1,4 @@
+// Where the program keeps its files, and where it cannot.
 #include "qt/program_folder.h"
 
 #include <stdexcept>

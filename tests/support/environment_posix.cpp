@@ -1,3 +1,4 @@
+// Systems whose C library has setenv.
 #include <cstdlib>
 
 #include "tests/support/environment.h"

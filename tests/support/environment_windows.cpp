@@ -1,3 +1,4 @@
+// Windows, whose C library has names of its own for this.
 #include <cstdlib>
 
 #include "tests/support/environment.h"

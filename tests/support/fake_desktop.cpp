@@ -1,3 +1,4 @@
+// Boxes are answered in the order they were scripted; focus goes as in a window.
 #include "tests/support/fake_desktop.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Every action first checks that a person could do it.
 #include "tests/support/player.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// A timer that stays as it is keeps its rhythm from look to look.
 #include "tests/support/virtual_time.h"
 
 #include <algorithm>
