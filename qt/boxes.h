@@ -1,18 +1,12 @@
 // The small boxes that stand over a window until they are answered.
 #pragma once
 
-#include <QFont>
 #include <QMessageBox>
 #include <QString>
 
-namespace quillor {
+#include "qt/box_style.h"
 
-/// Over which window a box stands (null: none), and the font of its texts.
-struct BoxStyle {
-    QWidget* parent = nullptr;
-    QFont font;
-    bool low = false;  // in the lower part of that window, so that what is above can be read
-};
+namespace quillor {
 
 void showMessage(const BoxStyle& style, QMessageBox::Icon icon, const QString& text,
                  const QString& accept);

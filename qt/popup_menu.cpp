@@ -8,9 +8,9 @@ namespace quillor {
 
 namespace {
 
-void fill(QMenu& menu, const MenuItem& source);
+void fill(QMenu& menu, const MenuItem& source, NotebookStyle& look);
 
-void addItem(QMenu& menu, MenuItem& item) {
+void addItem(QMenu& menu, MenuItem& item, NotebookStyle& look) {
     const QString caption = toQt(item.caption);
     if (caption.isEmpty()) {
         menu.addSeparator();
@@ -20,7 +20,7 @@ void addItem(QMenu& menu, MenuItem& item) {
         QMenu* inner = menu.addMenu(caption);
         inner->setFont(menu.font());
         inner->setEnabled(item.enabled);
-        fill(*inner, item);
+        fill(*inner, item, look);
         return;
     }
     // What stands behind a tab is shown at the entry's right edge.
@@ -33,18 +33,20 @@ void addItem(QMenu& menu, MenuItem& item) {
     action->setData(QVariant::fromValue(static_cast<void*>(&item)));
 }
 
-void fill(QMenu& menu, const MenuItem& source) {
+void fill(QMenu& menu, const MenuItem& source, NotebookStyle& look) {
+    look.dress(menu);
     for (MenuItem* item : source.children)
-        addItem(menu, *item);
+        addItem(menu, *item, look);
 }
 
 }  // namespace
 
-MenuItem* choosePopUp(QWidget* parent, const MenuItem& menu, const QFont& font, QPoint at) {
-    QMenu popup(toQt(menu.caption), parent);
+MenuItem* choosePopUp(const BoxStyle& style, const MenuItem& menu, QPoint at) {
+    NotebookStyle look(style);
+    QMenu popup(toQt(menu.caption), style.parent);
     popup.setAccessibleName(toQt(menu.caption));
-    popup.setFont(font);
-    fill(popup, menu);
+    popup.setFont(style.font);
+    fill(popup, menu, look);
     const QAction* chosen = popup.exec(at);
     return chosen ? static_cast<MenuItem*>(chosen->data().value<void*>()) : nullptr;
 }

@@ -24,6 +24,7 @@ namespace quillor {
 namespace {
 
 constexpr Font kBoxFont{Face::Plain, 12, false};
+constexpr Font kButtonFont{Face::Display, 12, true};
 
 std::uint64_t clockReading() {
     return static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
@@ -55,7 +56,11 @@ BoxStyle QtDesktop::boxStyle() const {
     style.parent = shell_.front();
     const ScreenWindow* window = shell_.front();
     style.low = window && window->isLarge();
-    style.font = shell_.fonts.font(kBoxFont, window ? window->scale().pixels : TwipScale().pixels);
+    const double scale = window ? window->scale().pixels : TwipScale().pixels;
+    style.font = shell_.fonts.font(kBoxFont, scale);
+    style.buttonFont = shell_.fonts.font(kButtonFont, scale);
+    style.accent = program_->settings.glTheme;
+    style.ringShown = shell_.showsFocus;
     return style;
 }
 
@@ -147,8 +152,9 @@ void QtDesktop::popUp(Screen& screen, MenuItem& menu) {
     if (!window)
         return;
     const QPoint at = shell_.isKeyEvent() ? focusPoint(*window) : QCursor::pos();
-    const QFont font = boxStyle().font;
-    MenuItem* chosen = shell_.modally([&] { return choosePopUp(window, menu, font, at); });
+    BoxStyle style = boxStyle();
+    style.parent = window;
+    MenuItem* chosen = shell_.modally([&] { return choosePopUp(style, menu, at); });
     if (chosen && shell_.isOpen(screen))
         screen.choose(*chosen);
 }

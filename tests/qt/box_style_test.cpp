@@ -1,0 +1,119 @@
+// The colours and shapes of boxes and menus.
+#include "qt/box_style.h"
+
+#include <QMenu>
+#include <QPainter>
+#include <QScreen>
+
+#include <gtest/gtest.h>
+
+#include "qt/popup_menu.h"
+#include "qt/qt_values.h"
+#include "ui/colors.h"
+
+namespace quillor {
+
+namespace {
+
+BoxStyle styleOf(int fontSize) {
+    BoxStyle style;
+    style.font.setPixelSize(fontSize);
+    style.buttonFont.setPixelSize(fontSize);
+    return style;
+}
+
+QStyleOptionMenuItem entry(bool checked, QStyle::State state) {
+    QStyleOptionMenuItem item;
+    item.rect = QRect(0, 0, 300, 38);
+    item.state = state;
+    item.text = "Entry\tF2";
+    item.checkType = QStyleOptionMenuItem::NonExclusive;
+    item.checked = checked;
+    return item;
+}
+
+QImage painted(const QStyleOptionMenuItem& item) {
+    const NotebookStyle look(styleOf(20));
+    QImage image(item.rect.size(), QImage::Format_ARGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    look.drawControl(QStyle::CE_MenuItem, &item, &painter, nullptr);
+    return image;
+}
+
+// Where an entry's check mark is.
+QImage checkOf(const QImage& image) {
+    return image.copy(0, 0, 40, image.height());
+}
+
+TEST(BoxIcon, IsSharpAtTheDisplaysDensity) {
+    const QPixmap icon = boxIcon(QMessageBox::Question, Qt::blue, 30, 1.5);
+    EXPECT_EQ(icon.size(), QSize(45, 45));
+    EXPECT_EQ(icon.deviceIndependentSize(), QSizeF(30, 30));
+}
+
+TEST(BoxIcon, IsACircleInTheAccentOrInRed) {
+    const QColor accent(20, 140, 220);
+    const QImage calm = boxIcon(QMessageBox::Information, accent, 100, 1).toImage();
+    EXPECT_EQ(calm.pixelColor(15, 50), accent);
+    EXPECT_EQ(calm.pixelColor(50, 60), QColor(Qt::white));
+    EXPECT_EQ(calm.pixelColor(2, 2).alpha(), 0);
+    const QImage alarm = boxIcon(QMessageBox::Critical, accent, 100, 1).toImage();
+    EXPECT_GT(alarm.pixelColor(15, 50).red(), 200);
+    EXPECT_LT(alarm.pixelColor(15, 50).blue(), 60);
+}
+
+TEST(BoxStyle, DarkensAnAccentThatWhiteCannotBeReadOn) {
+    BoxStyle style = styleOf(20);
+    for (const Color color : {rgb(255, 255, 255), rgb(240, 210, 30), rgb(20, 140, 220)}) {
+        style.accent = color;
+        const QColor used = NotebookStyle(style).accent();
+        EXPECT_GE(whiteTextContrast(rgb(used.red(), used.green(), used.blue())), 3);
+    }
+    EXPECT_EQ(NotebookStyle(style).accent(), toQt(style.accent));
+}
+
+TEST(MenuEntry, ShowsItsCheckMarkInEveryState) {
+    for (const QStyle::State state :
+         {QStyle::State(QStyle::State_Enabled), QStyle::State_Enabled | QStyle::State_Selected,
+          QStyle::State(QStyle::State_None)}) {
+        const QImage on = painted(entry(true, state));
+        const QImage off = painted(entry(false, state));
+        EXPECT_NE(checkOf(on), checkOf(off));
+    }
+}
+
+TEST(MenuEntry, FadesWhenItIsDisabledAndIgnoresTheMouse) {
+    const QImage disabled = painted(entry(true, QStyle::State_None));
+    EXPECT_NE(disabled, painted(entry(true, QStyle::State_Enabled)));
+    EXPECT_EQ(disabled, painted(entry(true, QStyle::State_Selected)));
+}
+
+TEST(MenuEntry, IsInTheAccentUnderTheMouse) {
+    const QImage hovered = painted(entry(false, QStyle::State_Enabled | QStyle::State_Selected));
+    EXPECT_EQ(hovered.pixelColor(150, 2), NotebookStyle(styleOf(20)).accent());
+    EXPECT_EQ(painted(entry(false, QStyle::State_Enabled)).pixelColor(150, 2), QColor(Qt::white));
+}
+
+TEST(MenuEntry, HasItsShortcutAtTheRightEdge) {
+    const QImage image = painted(entry(false, QStyle::State_Enabled));
+    const QImage edge = image.copy(266, 0, 20, image.height());
+    QImage blank = edge;
+    blank.fill(Qt::white);
+    EXPECT_NE(edge, blank);
+    EXPECT_EQ(image.copy(150, 0, 100, 38), QImage(blank.scaled(100, 38)));
+}
+
+TEST(PopUpMenu, FitsTheScreenHoweverLongItIs) {
+    NotebookStyle look(styleOf(20));
+    QMenu menu;
+    look.dress(menu);
+    for (int i = 0; i < 100; ++i)
+        menu.addAction("entry");
+    menu.popup({0, 0});
+    EXPECT_LE(menu.height(), menu.screen()->availableGeometry().height());
+}
+
+}  // namespace
+
+}  // namespace quillor

@@ -1,0 +1,165 @@
+// What the boxes say, give back and look like.
+#include "qt/boxes.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+
+#include <gtest/gtest.h>
+
+namespace quillor {
+
+namespace {
+
+class Boxes : public ::testing::Test {
+  protected:
+    Boxes() {
+        style.font.setPixelSize(20);
+        style.buttonFont.setPixelSize(22);
+    }
+    /// Once the next box is open; it is closed after that.
+    void whenOpen(std::function<void(QDialog&)> look) {
+        QTimer::singleShot(0, [this, look = std::move(look)] {
+            auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            opened = box && QTest::qWaitForWindowActive(box);
+            if (opened)
+                look(*box);
+            if (opened && box->isVisible())
+                box->close();
+        });
+    }
+    static QPushButton* button(QDialog& box, const QString& caption) {
+        for (QPushButton* each : box.findChildren<QPushButton*>())
+            if (each->text() == caption)
+                return each;
+        return nullptr;
+    }
+    static void type(QDialog& box, Qt::Key key) { QTest::keyClick(box.focusWidget(), key); }
+
+    BoxStyle style;
+    bool opened = false;
+};
+
+TEST_F(Boxes, KeepTheirIconUnderASignOfTheFontsSize) {
+    whenOpen([](QDialog& box) {
+        EXPECT_EQ(dynamic_cast<QMessageBox&>(box).icon(), QMessageBox::Critical);
+        const auto* sign = box.findChild<QLabel*>("qt_msgboxex_icon_label");
+        ASSERT_TRUE(sign);
+        EXPECT_EQ(sign->pixmap().deviceIndependentSize(), QSizeF(60, 60));
+    });
+    showMessage(style, QMessageBox::Critical, "text", "Accept");
+    EXPECT_TRUE(opened);
+}
+
+TEST_F(Boxes, NameTheButtonsOfAQuestion) {
+    whenOpen([](QDialog& box) {
+        EXPECT_EQ(box.windowTitle(), "Quillor");
+        ASSERT_TRUE(button(box, "&Yes") && button(box, "&No"));
+        EXPECT_TRUE(button(box, "&Yes")->isDefault());
+        EXPECT_TRUE(button(box, "&Yes")->icon().isNull());
+    });
+    askQuestion(style, "text", "&Yes", "&No");
+    EXPECT_TRUE(opened);
+}
+
+TEST_F(Boxes, TakeReturnForYesAndEscapeForNo) {
+    whenOpen([](QDialog& box) { type(box, Qt::Key_Return); });
+    EXPECT_TRUE(askQuestion(style, "text", "&Yes", "&No"));
+    whenOpen([](QDialog& box) { type(box, Qt::Key_Escape); });
+    EXPECT_FALSE(askQuestion(style, "text", "&Yes", "&No"));
+}
+
+TEST_F(Boxes, LetReturnPressTheButtonThatHasTheFocus) {
+    whenOpen([](QDialog& box) {
+        type(box, Qt::Key_Tab);
+        EXPECT_TRUE(button(box, "&No")->hasFocus());
+        type(box, Qt::Key_Return);
+    });
+    EXPECT_FALSE(askQuestion(style, "text", "&Yes", "&No"));
+    EXPECT_TRUE(opened);
+}
+
+TEST_F(Boxes, ShowTheFocusOnceItIsMovedByKey) {
+    QImage before;
+    QImage after;
+    whenOpen([&](QDialog& box) {
+        before = button(box, "&Yes")->grab().toImage();
+        type(box, Qt::Key_Tab);
+        type(box, Qt::Key_Tab);
+        after = button(box, "&Yes")->grab().toImage();
+    });
+    askQuestion(style, "text", "&Yes", "&No");
+    ASSERT_FALSE(before.isNull());
+    EXPECT_NE(before, after);
+    EXPECT_GT(before.pixelColor(before.rect().center().x(), 1).lightness(), 240);
+    EXPECT_LT(after.pixelColor(after.rect().center().x(), 1).lightness(), 100);
+}
+
+TEST_F(Boxes, GiveBackWhatWasTypedUnlessCancelled) {
+    const auto answer = [](Qt::Key last) {
+        return [last](QDialog& box) {
+            QTest::keyClicks(box.focusWidget(), "hola");
+            type(box, last);
+        };
+    };
+    whenOpen(answer(Qt::Key_Return));
+    EXPECT_EQ(askText(style, "prompt", "Accept", "Cancel"), "hola");
+    whenOpen(answer(Qt::Key_Escape));
+    EXPECT_EQ(askText(style, "prompt", "Accept", "Cancel"), "");
+}
+
+TEST_F(Boxes, SpeakThePromptAsTheFieldsName) {
+    whenOpen([](QDialog& box) {
+        const auto* field = box.findChild<QLineEdit*>();
+        ASSERT_TRUE(field);
+        EXPECT_EQ(field->accessibleName(), "one\ntwo");
+        EXPECT_GE(field->height(), 2 * 20);
+    });
+    askText(style, "one\r\ntwo", "Accept", "Cancel");
+    EXPECT_TRUE(opened);
+}
+
+TEST_F(Boxes, GrowWithTheFont) {
+    QSize small;
+    QSize large;
+    whenOpen([&](QDialog& box) { small = button(box, "&Yes")->size(); });
+    askQuestion(style, "text", "&Yes", "&No");
+    style.font.setPixelSize(40);
+    style.buttonFont.setPixelSize(44);
+    whenOpen([&](QDialog& box) { large = button(box, "&Yes")->size(); });
+    askQuestion(style, "text", "&Yes", "&No");
+    EXPECT_NEAR(large.width(), 2 * small.width(), 4);
+    EXPECT_NEAR(large.height(), 2 * small.height(), 4);
+}
+
+TEST_F(Boxes, ShowAllOfALongTextInALargeFont) {
+    style.font.setPixelSize(44);
+    whenOpen([](QDialog& box) {
+        const auto* text = box.findChild<QLabel*>("qt_msgbox_label");
+        ASSERT_TRUE(text);
+        EXPECT_GE(text->height(), text->heightForWidth(text->width()));
+        EXPECT_TRUE(box.rect().contains(text->geometry()));
+    });
+    const QString text = QString("word ").repeated(40);
+    showMessage(style, QMessageBox::Information, text, "Accept");
+    EXPECT_TRUE(opened);
+}
+
+TEST_F(Boxes, ShowTheFocusFromTheStartWhenAskedTo) {
+    style.ringShown = true;
+    whenOpen([](QDialog& box) {
+        const QImage yes = button(box, "&Yes")->grab().toImage();
+        EXPECT_LT(yes.pixelColor(yes.rect().center().x(), 1).lightness(), 100);
+    });
+    askQuestion(style, "text", "&Yes", "&No");
+    EXPECT_TRUE(opened);
+}
+
+}  // namespace
+
+}  // namespace quillor
