@@ -1,8 +1,8 @@
-// The signs of the message boxes.
+#include "qt/box_icon.h"
+
 #include <QPainter>
 #include <cmath>
 
-#include "qt/box_style.h"
 #include "qt/symbol_painter.h"
 #include "toolkit/symbols.h"
 

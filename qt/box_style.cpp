@@ -79,6 +79,11 @@ Caption captionOf(const QString& text) {
     return tab < 0 ? Caption{text, {}} : Caption{text.left(tab), text.mid(tab + 1)};
 }
 
+// By the mouse or by the arrow keys; a disabled entry never is.
+bool isHovered(const QStyleOptionMenuItem& item) {
+    return (item.state & QStyle::State_Selected) && (item.state & QStyle::State_Enabled);
+}
+
 /// A painter's state comes back when its painting is done.
 class Painting {
   public:
@@ -158,9 +163,12 @@ void NotebookStyle::paintField(QPainter& painter, const QStyleOption& field) con
                  focused ? QPen(accent_, 2 * line()) : QPen(kEdge, line()));
 }
 
-void NotebookStyle::paintCheckBox(QPainter& painter, const QRectF& square,
-                                  const QStyleOptionMenuItem& item) const {
-    const bool hovered = (item.state & State_Selected) && (item.state & State_Enabled);
+void NotebookStyle::paintCheckBox(QPainter& painter, const QStyleOptionMenuItem& item) const {
+    const int side = px(kCheckBox);
+    const QRect box(item.rect.left() + px(kEntrySide), item.rect.center().y() - side / 2, side,
+                    side);
+    const QRectF square(box);
+    const bool hovered = isHovered(item);
     const double radius = square.width() / 4;
     if (!item.checked) {
         paintRounded(painter, square, radius, hovered ? Qt::transparent : Qt::white,
@@ -173,43 +181,35 @@ void NotebookStyle::paintCheckBox(QPainter& painter, const QRectF& square,
                symbols::kTick[0], hovered ? accent_ : QColor(Qt::white));
 }
 
+void NotebookStyle::paintArrow(QPainter& painter, const QRectF& text, const QColor& ink) const {
+    const double side = px(kArrow);
+    drawSymbol(painter, QRectF(text.right() - side, text.center().y() - side / 2, side, side),
+               Face::Webdings, symbols::kTriangleRight[0], ink);
+}
+
+void NotebookStyle::paintSeparator(QPainter& painter, const QRect& area) const {
+    const int thickness = static_cast<int>(std::lround(line()));
+    painter.fillRect(area.left(), area.center().y(), area.width(), thickness, kFineEdge);
+}
+
 void NotebookStyle::paintMenuItem(QPainter& painter, const QStyleOptionMenuItem& item) const {
     const Painting painting(painter);
-    const QRectF area(item.rect);
-    if (item.menuItemType == QStyleOptionMenuItem::Separator) {
-        const double thickness = std::max(1.0, std::round(line()));
-        painter.fillRect(
-            QRectF(area.left(), std::floor(area.center().y()), area.width(), thickness), kFineEdge);
-        return;
-    }
-    const bool enabled = item.state & State_Enabled;
-    const bool hovered = enabled && (item.state & State_Selected);
+    const bool hovered = isHovered(item);
     if (hovered)
-        paintRounded(painter, area, kRadius * em_ / 2, accent_, Qt::NoPen);
-    if (!enabled)
+        paintRounded(painter, QRectF(item.rect), kRadius * em_ / 2, accent_, Qt::NoPen);
+    if (!(item.state & State_Enabled))
         painter.setOpacity(kFaded);
+    if (item.checkType != QStyleOptionMenuItem::NotCheckable)
+        paintCheckBox(painter, item);
     const QColor ink = hovered ? QColor(Qt::white) : kInk;
-    const double middle = area.center().y();
-    if (item.checkType != QStyleOptionMenuItem::NotCheckable) {
-        const double side = px(kCheckBox);
-        paintCheckBox(painter,
-                      visualRect(item.direction, item.rect,
-                                 QRect(item.rect.left() + px(kEntrySide),
-                                       static_cast<int>(std::lround(middle - side / 2)),
-                                       px(kCheckBox), px(kCheckBox))),
-                      item);
-    }
     const QRect text = item.rect.adjusted(px(kCheckColumn), 0, -px(kEntrySide), 0);
     const auto [caption, shortcut] = captionOf(item.text);
     painter.setFont(item.font);
     painter.setPen(ink);
     painter.drawText(text, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextShowMnemonic, caption);
     painter.drawText(text, Qt::AlignVCenter | Qt::AlignRight, shortcut);
-    if (item.menuItemType == QStyleOptionMenuItem::SubMenu) {
-        const double side = px(kArrow);
-        drawSymbol(painter, QRectF(text.right() + 1 - side, middle - side / 2, side, side),
-                   Face::Webdings, symbols::kTriangleRight[0], ink);
-    }
+    if (item.menuItemType == QStyleOptionMenuItem::SubMenu)
+        paintArrow(painter, QRectF(text), ink);
 }
 
 void NotebookStyle::drawControl(ControlElement element, const QStyleOption* option,
@@ -218,7 +218,10 @@ void NotebookStyle::drawControl(ControlElement element, const QStyleOption* opti
         if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option))
             paintButton(*painter, *button, widget && widget == main_);
     } else if (element == CE_MenuItem) {
-        if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option))
+        const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+        if (item && item->menuItemType == QStyleOptionMenuItem::Separator)
+            paintSeparator(*painter, item->rect);
+        else if (item)
             paintMenuItem(*painter, *item);
     } else if (element != CE_MenuEmptyArea) {
         QProxyStyle::drawControl(element, option, painter, widget);

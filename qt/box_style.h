@@ -3,8 +3,6 @@
 #pragma once
 
 #include <QFont>
-#include <QMessageBox>
-#include <QPixmap>
 #include <QProxyStyle>
 #include <QStyleOption>
 
@@ -51,9 +49,10 @@ class NotebookStyle : public QProxyStyle {
     double line() const;
     void paintButton(QPainter& painter, const QStyleOptionButton& button, bool main) const;
     void paintField(QPainter& painter, const QStyleOption& field) const;
+    void paintSeparator(QPainter& painter, const QRect& area) const;
     void paintMenuItem(QPainter& painter, const QStyleOptionMenuItem& item) const;
-    void paintCheckBox(QPainter& painter, const QRectF& square,
-                       const QStyleOptionMenuItem& item) const;
+    void paintCheckBox(QPainter& painter, const QStyleOptionMenuItem& item) const;
+    void paintArrow(QPainter& painter, const QRectF& text, const QColor& ink) const;
 
     double em_;  // logical pixels of the texts' font
     QFont buttonFont_;
@@ -63,9 +62,5 @@ class NotebookStyle : public QProxyStyle {
 
 /// Draws the edge of a box that is in this style into the box.
 void paintBoxEdge(QWidget& box);
-
-/// The sign of a message box, a filled circle with a white mark, for a square of
-/// `size` logical pixels. Null for QMessageBox::NoIcon.
-QPixmap boxIcon(QMessageBox::Icon icon, const QColor& accent, int size, double density);
 
 }  // namespace quillor

@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "core/texts.h"
+#include "qt/box_icon.h"
 #include "qt/qt_values.h"
 
 namespace quillor {

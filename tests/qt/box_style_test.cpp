@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "qt/popup_menu.h"
+#include "qt/box_icon.h"
 #include "qt/qt_values.h"
 #include "ui/colors.h"
 
