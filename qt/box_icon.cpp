@@ -1,3 +1,4 @@
+// The marks are drawn, not written: no font is needed for them.
 #include "qt/box_icon.h"
 
 #include <QPainter>

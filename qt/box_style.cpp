@@ -1,3 +1,4 @@
+// Everything is measured in sizes of the texts' font, so that it scales with the window.
 #include "qt/box_style.h"
 
 #include <QPainter>

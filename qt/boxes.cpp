@@ -1,3 +1,4 @@
+// The toolkit's own boxes in the style of the notebook, sized by their font.
 #include "qt/boxes.h"
 
 #include <QDialogButtonBox>

@@ -1,3 +1,4 @@
+// Turns menu items into actions; the one that was chosen leads back to its item.
 #include "qt/popup_menu.h"
 
 #include <QMenu>
