@@ -6,11 +6,6 @@
 
 namespace quillor::style {
 
-/// Everything stands on multiples of this.
-inline constexpr Twips kGrid = 60;
-/// From a screen's edge to what stands on it.
-inline constexpr Twips kMargin = 360;
-
 /// The four large screens have one size, so that the window stays as it is
 /// when one follows the other.
 inline constexpr Twips kScreenWidth = 13200;
@@ -18,7 +13,6 @@ inline constexpr Twips kScreenHeight = 8100;
 
 inline constexpr Twips kButtonRadius = 150;
 
-inline constexpr Font kHeading{Face::Display, 30, true};
 inline constexpr Font kButton{Face::Display, 17, true};
 inline constexpr Font kSmallButton{Face::Display, 13, true};
 inline constexpr Font kBarText{Face::Display, 14, true};

@@ -65,7 +65,6 @@ class FakeDesktop : public Desktop {
     /// Called when no event is running any more.
     Callback onIdle;
 
-    const std::vector<Screen*>& openScreens() const { return openScreens_; }
     /// The last shown screen that is still open; null when there is none.
     Screen* front() const { return openScreens_.empty() ? nullptr : openScreens_.back(); }
     /// The control that has the focus in an open screen; null: none.
