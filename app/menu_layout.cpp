@@ -14,6 +14,7 @@ void frmMenu::layOut() {
     height = style::kScreenHeight;
 
     imgBack.id = "imgBack";
+    imgBack.drawing = style::kMenuDrawing;
     add(imgBack).place(0, 0, width, height);
 
     lblWelcome.id = "lblWelcome";

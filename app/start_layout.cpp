@@ -34,9 +34,9 @@ void frmStart::layOut() {
 void frmStart::layOutTitle() {
     lblSub.id = "lblSub";
     lblSub.caption = u"or";
-    lblSub.font = {Face::Display, 54, true};
+    lblSub.font = {Face::Display, 60, true};
     lblSub.align = Align::Left;
-    add(lblSub).place(3000, 1020, 1440, 1260);
+    add(lblSub).place(3000, 960, 1440, 1260);
     frmeTitle.id = "frmeTitle";
     add(frmeTitle).place(0, 900, 4470, 1680);
     add(imgBack(1), &frmeTitle).place(0, -900, kWidth, kHeight);
@@ -45,13 +45,13 @@ void frmStart::layOutTitle() {
     lblName.font = lblSub.font;
     lblName.textColor = rgb(40, 40, 40);
     lblName.align = Align::Right;
-    add(lblName, &frmeTitle).place(1050, 120, 3420, 1260);
+    add(lblName, &frmeTitle).place(1050, 60, 3420, 1260);
     lblMarca.id = "lblMarca";
     lblMarca.caption = texts::kMakers;
     lblMarca.font = {Face::Display, 9, true};
     lblMarca.textColor = rgb(110, 110, 110);
     lblMarca.align = Align::Left;
-    add(lblMarca, &frmeTitle).place(1920, 1380, 2520, 240);
+    add(lblMarca, &frmeTitle).place(1980, 1410, 2460, 240);
 }
 
 void frmStart::layOutFontPanel() {

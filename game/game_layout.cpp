@@ -125,6 +125,12 @@ void frmGame::layOutStrikes() {
     constexpr Twips kLeft = kLeftColumn + 60;
     constexpr Twips kTop = 5220;
     constexpr Twips kHeight = 540;
+    guesses.shpStrikes.id = "shpStrikes";
+    guesses.shpStrikes.backColor = rgb(255, 255, 255);
+    guesses.shpStrikes.borderColor = kEdge;
+    guesses.shpStrikes.borderWidth = 15;
+    guesses.shpStrikes.radius = 60;
+    add(guesses.shpStrikes).place(kLeft, kTop, kBox * Guesses::kStrikes, kHeight);
     for (int i = 0; i <= Guesses::kStrikes; ++i) {
         const Twips x = kLeft + kBox * static_cast<Twips>(i);
         Line& edge = guesses.lnStrike(i);
@@ -211,7 +217,7 @@ void frmGame::layOutBoard() {
         const Twips left = 120 + kAcross * static_cast<Twips>((i - 1) % kRowCells);
         const Twips top = kDown * static_cast<Twips>((i - 1) / kRowCells);
         cell.place(left, top, kCell, kCell);
-        cell.font = {Face::Display, 23, true};
+        cell.font = {Face::Display, 24, true};
         cell.visible = false;
         Line& underline = board.lnLetter(i);
         underline.span(left, top + 480, left + 480, top + 480);

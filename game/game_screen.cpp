@@ -3,6 +3,8 @@
 
 #include <memory>
 
+#include "toolkit/style.h"
+
 namespace quillor {
 
 frmGame::frmGame(Program& programToUse)
@@ -83,6 +85,11 @@ void frmGame::connect() {
 void frmGame::takePaper(const ImageRef& paper) {
     for (Picture& picture : imgBack)
         picture.image = paper;
+}
+
+void frmGame::showIdlePage(bool idle) {
+    for (Picture& picture : imgBack)
+        picture.drawing = idle ? style::kIdleDrawing : "";
 }
 
 void frmGame::alignPaper(Picture& picture, const Frame& frame) {

@@ -50,6 +50,8 @@ class frmGame : public Screen, public PhraseTaker {
     StatusAnimations animations;
 
     void takePaper(const ImageRef& paper) override;
+    /// Between two games something is drawn where the board and the keys will be.
+    void showIdlePage(bool idle);
     Control* initialFocus() override { return &lifeCycle.lblPlay(0); }
 
     void eDoWay(std::int16_t way) override { ways.eDoWay(way); }

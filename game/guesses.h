@@ -26,6 +26,7 @@ class Guesses {
     Frame frmeNumbers;
     ControlArray<Shape, 1, kWriteKey> shpKey{"shpKey"};
     ControlArray<Label, 1, kWriteKey> lblKey{"lblKey"};
+    Shape shpStrikes;  // the ground of the strike boxes
     ControlArray<Line, 0, kStrikes> lnStrike{"lnStrike"};
     ControlArray<Label, 0, kStrikes - 1> lblStrike{"lblStrike"};
 

@@ -98,6 +98,7 @@ void LifeCycle::eResetGame() {
     lblStatus.caption = game_.program.lang(texts::kNewGame);
     lblPlay(0).caption = game_.program.lang(texts::kPlay);
     game_.board.lblTopic.caption = game_.program.lang(texts::kNoTopicShown);
+    game_.showIdlePage(true);
     game_.guesses.frmeBoard.visible = false;
     game_.guesses.frmeNumbers.visible = false;
     game_.webSearch.offer(false);
@@ -122,6 +123,7 @@ void LifeCycle::ePlayNewGame() {
     game_.setUp.ePutSomeLucky();
     game_.setUp.eChangeTitle();
     lblPlay(0).caption = game_.program.lang(texts::kPlayAnother);
+    game_.showIdlePage(false);
     game_.guesses.frmeBoard.visible = true;
     // A phrase of one letter and blanks is won by its first-letter hint.
     if (settings.giGameState != kPlaying)

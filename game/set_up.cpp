@@ -26,6 +26,7 @@ void SetUp::Form_Load() {
     game_.board.frmeMagic.backColor = settings.glWhite;
     frmGame::alignPaper(game_.imgBack(1), game_.figure.frmeMan);
     frmGame::alignPaper(game_.imgBack(2), game_.board.frmeMagic);
+    game_.showIdlePage(true);
     showMode();
     eChangeTitle();
     ePutSomeLucky();

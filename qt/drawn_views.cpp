@@ -92,15 +92,18 @@ PictureView::PictureView(Picture& picture, ScreenLink& link, QWidget* parent)
 }
 
 void PictureView::syncLook() {
-    if (picture_.image == shown_)
+    const Look look{picture_.image, picture_.drawing};
+    if (look == shown_)
         return;
-    shown_ = picture_.image;
+    shown_ = look;
     update();
 }
 
 void PictureView::paintEvent(QPaintEvent* event) {
     const double density = devicePixelRatioF();
-    const QPixmap& pixmap = link().shell().papers.filling(shown_, size(), density, pixelsPerTwip());
+    const auto& [image, drawing] = shown_;
+    const QPixmap& pixmap =
+        link().shell().papers.filling({image, drawing, size(), density, pixelsPerTwip()});
     QPainter painter(this);
     const QRectF part = event->rect();
     painter.drawPixmap(part, pixmap, QRectF(part.topLeft() * density, part.size() * density));

@@ -54,8 +54,9 @@ class PictureView : public QWidget, public ControlView {
     void enterEvent(QEnterEvent* event) override;
 
   private:
+    using Look = std::tuple<ImageRef, std::string>;
     Picture& picture_;
-    ImageRef shown_;
+    Look shown_;
 };
 
 class FrameView : public QWidget, public ControlView {

@@ -2,10 +2,13 @@
 
 #include <QFontMetricsF>
 #include <algorithm>
+#include <cmath>
+#include <numbers>
 
 #include "core/text_rules.h"
 #include "qt/qt_values.h"
 #include "qt/symbol_painter.h"
+#include "toolkit/contrast.h"
 
 namespace quillor {
 
@@ -42,6 +45,33 @@ QFont fitted(QFont font, const QRectF& rect, int flags, const QString& text) {
     while (font.pixelSize() > kSmallestFont && !fits(font, rect, flags, text))
         font.setPixelSize(std::min(font.pixelSize() - 1, font.pixelSize() * 19 / 20));
     return font;
+}
+
+// How much of an outline a text needs on its own ground: 0 none to 1.
+double outlineNeed(const LabelLook& look) {
+    constexpr double kNone = 2.5;
+    constexpr double kFull = 1.9;
+    if (!look.opaque)
+        return 0;
+    return std::clamp((kNone - contrast(look.textColor, look.backColor)) / (kNone - kFull), 0.0,
+                      1.0);
+}
+
+// A dark edge around every letter, so that a text in a colour too close to its
+// ground can still be read.
+void paintOutline(QPainter& painter, const QRectF& rect, int flags, const QString& text,
+                  double need) {
+    constexpr int kDirections = 12;
+    const double reach = std::max(1.0, painter.font().pixelSize() / 14.0);
+    painter.save();
+    painter.setOpacity(painter.opacity() * need);
+    painter.setPen(QColor(40, 40, 40));
+    for (int i = 0; i < kDirections; ++i) {
+        const double angle = i * 2 * std::numbers::pi / kDirections;
+        painter.drawText(rect.translated(reach * std::cos(angle), reach * std::sin(angle)), flags,
+                         text);
+    }
+    painter.restore();
 }
 
 void paintSymbol(QPainter& painter, const QRectF& rect, const LabelLook& look, double size) {
@@ -103,6 +133,8 @@ void paintLabel(QPainter& painter, const QRectF& rect, const LabelLook& look, co
     const QString text = toQt(look.caption).replace("\r\n", "\n");
     const int flags = alignment(look);
     painter.setFont(fitted(std::move(font), rect, flags, text));
+    if (const double need = outlineNeed(look); need > 0)
+        paintOutline(painter, rect, flags, text, need);
     painter.setPen(toQt(look.textColor));
     painter.drawText(rect, flags, text);
 }

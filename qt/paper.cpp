@@ -13,7 +13,7 @@ constexpr std::size_t kKeptCopies = 4;
 constexpr double kPen = 15;
 constexpr double kRulePitch = 300;
 constexpr double kFirstRule = 180;
-constexpr double kMargin = 1185;  // from the left edge to the first of the two margin lines
+constexpr double kMargin = 150;  // from the left edge to the first of the two margin lines
 
 QPixmap cropped(const QImage& image, QSize size) {
     // Cut out first and scaled then: the other way round, a very narrow picture
@@ -24,10 +24,19 @@ QPixmap cropped(const QImage& image, QSize size) {
         image.copy(part).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
 
-QPixmap notebook(QSize size, double density, double pixelsPerTwip) {
-    QPixmap page(size);
+// A drawing that is not there is left out.
+void paintDrawing(QPainter& painter, const std::string& name, QSize pixels) {
+    const QImage drawing(":/pictures/" + QString::fromStdString(name) + ".png");
+    if (!drawing.isNull())
+        painter.drawImage(0, 0,
+                          drawing.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+}
+
+QPixmap notebook(QSize pixels, const PaperCache::Wish& wish) {
+    QPixmap page(pixels);
     QPainter painter(&page);
-    paintNotebook(painter, QRectF(QPointF(), QSizeF(size)), {}, pixelsPerTwip * density);
+    paintNotebook(painter, QRectF({0, 0}, QSizeF(pixels)), {}, wish.pixelsPerTwip * wish.density);
+    paintDrawing(painter, wish.drawing, pixels);
     return page;
 }
 
@@ -37,21 +46,17 @@ const QImage& pixelsOf(const ImageRef& image) {
 
 }  // namespace
 
-const QPixmap& PaperCache::filling(const ImageRef& image, QSize size, double density,
-                                   double pixelsPerTwip) {
-    const auto found = std::find_if(entries_.begin(), entries_.end(), [&](const Entry& entry) {
-        return entry.image == image && entry.size == size && entry.density == density &&
-               entry.pixelsPerTwip == pixelsPerTwip;
-    });
+const QPixmap& PaperCache::filling(const Wish& wish) {
+    const auto found = std::find_if(entries_.begin(), entries_.end(),
+                                    [&](const Entry& entry) { return entry.wish == wish; });
     if (found != entries_.end()) {
         entries_.splice(entries_.begin(), entries_, found);
         return entries_.front().pixmap;
     }
-    const QSize pixels = (QSizeF(size) * density).toSize().expandedTo(QSize(1, 1));
-    QPixmap pixmap =
-        image ? cropped(pixelsOf(image), pixels) : notebook(pixels, density, pixelsPerTwip);
-    pixmap.setDevicePixelRatio(density);
-    entries_.push_front({image, size, density, pixelsPerTwip, std::move(pixmap)});
+    const QSize pixels = (QSizeF(wish.size) * wish.density).toSize().expandedTo(QSize(1, 1));
+    QPixmap pixmap = wish.image ? cropped(pixelsOf(wish.image), pixels) : notebook(pixels, wish);
+    pixmap.setDevicePixelRatio(wish.density);
+    entries_.push_front({wish, std::move(pixmap)});
     if (entries_.size() > kKeptCopies)
         entries_.pop_back();
     return entries_.front().pixmap;

@@ -7,6 +7,7 @@
 #include <QPixmap>
 #include <QSize>
 #include <list>
+#include <string>
 
 #include "toolkit/controls.h"
 
@@ -22,16 +23,22 @@ class DecodedImage : public Image {
 /// Scaled copies of pictures. Several controls of one size share one copy.
 class PaperCache {
   public:
-    /// The image cropped to fill `size` (logical pixels), or the notebook page
-    /// for a null image.
-    const QPixmap& filling(const ImageRef& image, QSize size, double density, double pixelsPerTwip);
+    /// What decides how a picture looks.
+    struct Wish {
+        ImageRef image;       // null: the notebook page
+        std::string drawing;  // on the notebook page, as in Picture
+        QSize size;           // logical pixels
+        double density = 1;
+        double pixelsPerTwip = 1;
+
+        bool operator==(const Wish&) const = default;
+    };
+    /// The image cropped to fill its size, or the notebook page with its drawing.
+    const QPixmap& filling(const Wish& wish);
 
   private:
     struct Entry {
-        ImageRef image;
-        QSize size;
-        double density;
-        double pixelsPerTwip;
+        Wish wish;
         QPixmap pixmap;
     };
     std::list<Entry> entries_;  // the one used last is in front

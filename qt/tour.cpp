@@ -77,6 +77,15 @@ QList<QWidget*> windowsFromBack() {
     return shown;
 }
 
+// What a desktop does for a window in front of another one.
+void paintShadow(QPainter& painter, const QRect& window) {
+    constexpr int kReach = 9;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0, 0, 0, 12));
+    for (int reach = 1; reach <= kReach; ++reach)
+        painter.drawRoundedRect(window.adjusted(-reach, -reach, reach, reach), reach, reach);
+}
+
 // The windows in front of each other, as they stand on the display.
 QPixmap grabAll() {
     QRect extent;
@@ -90,8 +99,12 @@ QPixmap grabAll() {
     picture.setDevicePixelRatio(density);
     picture.fill(Qt::white);
     QPainter painter(&picture);
-    for (QWidget* window : windows)
-        painter.drawPixmap(window->geometry().topLeft() - extent.topLeft(), window->grab());
+    for (QWidget* window : windows) {
+        const QRect place = window->geometry().translated(-extent.topLeft());
+        if (window != windows.front())
+            paintShadow(painter, place);
+        painter.drawPixmap(place.topLeft(), window->grab());
+    }
     return picture;
 }
 
@@ -154,6 +167,13 @@ TourStep Tour::type(const QString& character) const {
 TourStep Tour::moveTo(const QString& id) const {
     return {"move to " + id, kPause, [id] { return control(id) != nullptr; },
             [id] { moveOnto(*control(id)); }};
+}
+
+TourStep Tour::moveAway() const {
+    return {"move away", kPause, [] { return front() != nullptr; },
+            [] {
+                postMouse(*front(), QEvent::MouseMove, {2, 2}, Qt::NoButton, Qt::NoButton);
+            }};
 }
 
 TourStep Tour::press(const QString& id) const {

@@ -37,6 +37,8 @@ class Tour : public QObject {
     TourStep key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
     TourStep type(const QString& character) const;
     TourStep moveTo(const QString& id) const;
+    /// To the window's corner, where nothing is.
+    TourStep moveAway() const;
     TourStep press(const QString& id) const;
     TourStep release(const QString& id) const;
     /// Waits until a label's caption contains the text.

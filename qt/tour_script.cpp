@@ -12,6 +12,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr const char* kAnswer = "la luna llena";
+constexpr int kDesignWithClock = 3;  // from this one on the games are against the clock
 
 /// Adds steps to a list, one part of the tour at a time.
 class Script {
@@ -53,6 +54,7 @@ class Script {
         add(tour_.waitFor("frmStart"));
         picture("start", 400);
         add(tour_.waitFor("frmMenu"));
+        add(tour_.moveAway());
         picture("menu");
         add(tour_.moveTo("lblOption(5)"));
         picture("menu-hover", 150);
@@ -140,6 +142,7 @@ class Script {
         add(tour_.waitFor("frmGame"));
         type("la");
         picture("game-hidden-letters", 600);
+        key(Qt::Key_O, Qt::ControlModifier);
         key(Qt::Key_F2);
         add(tour_.waitForBox());
         picture("leave-question");
@@ -162,25 +165,32 @@ class Script {
     }
 
     void settings() {
-        key(Qt::Key_S);
-        add(tour_.waitFor("frmOptions"));
-        picture("settings");
         for (const int design : {1, 2, 3, 4}) {
+            const QString name = "design-" + QString::number(design);
+            key(Qt::Key_S);
+            add(tour_.waitFor("frmOptions"));
             key(Qt::Key_0 + design);
-            picture("settings-design-" + QString::number(design));
-            if (design == 2)
+            if (design == kDesignWithClock)
                 key(Qt::Key_C);
+            picture("settings-" + name);
+            key(Qt::Key_Backspace);
+            add(tour_.waitFor("frmMenu"));
+            gameOf(name);
         }
-        key(Qt::Key_Backspace);
-        add(tour_.waitFor("frmMenu"));
+    }
+
+    void gameOf(const QString& design) {
         key(Qt::Key_A);
         add(tour_.waitFor("frmGame"));
         startArcadeGame();
         key(Qt::Key_Return);
         add(tour_.waitFor("frmGame"));
-        key(Qt::Key_O, Qt::ControlModifier);
         type("ln");
-        picture("game-filled-letters-and-clock", 600);
+        picture("game-" + design, 600);
+        key(Qt::Key_F2);
+        add(tour_.waitForBox());
+        key(Qt::Key_Return);
+        add(tour_.waitFor("frmMenu"));
     }
 
     Tour& tour_;

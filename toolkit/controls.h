@@ -122,9 +122,10 @@ class Image {
 using ImageRef = std::shared_ptr<const Image>;
 
 /// Shows its image cropped to fill, never distorted; without an image, the
-/// program's own notebook page.
+/// program's own notebook page and what is drawn on it.
 struct Picture : Control {
     ImageRef image;
+    std::string drawing;  // a file name in resources/pictures without its ending; may be empty
     std::function<void()> onRightClick;
     std::function<void()> onMouseMove;
 };

@@ -13,6 +13,11 @@ inline constexpr Twips kScreenHeight = 8100;
 
 inline constexpr Twips kButtonRadius = 150;
 
+/// What is drawn on the notebook page of a screen; see Picture.
+inline constexpr const char* kMenuDrawing = "menu";
+inline constexpr const char* kIdleDrawing = "idle";
+inline constexpr const char* kSettingsDrawing = "settings";
+
 inline constexpr Font kButton{Face::Display, 17, true};
 inline constexpr Font kSmallButton{Face::Display, 13, true};
 inline constexpr Font kBarText{Face::Display, 14, true};

@@ -1,10 +1,9 @@
 // The colours of each key, and the drift that keeps white text readable.
 #include "ui/colors.h"
 
-#include <cmath>
-
 #include "core/numbers.h"
 #include "core/settings_file.h"
+#include "toolkit/contrast.h"
 #include "ui/letter_design.h"
 
 namespace quillor {
@@ -24,20 +23,10 @@ bool isCommandKey(int key) {
     return key >= 38;
 }
 
-double linear(int component) {
-    const double share = component / 255.0;
-    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
-}
-
-double luminance(Color color) {
-    return 0.2126 * linear(redOf(color)) + 0.7152 * linear(greenOf(color)) +
-           0.0722 * linear(blueOf(color));
-}
-
 }  // namespace
 
 double whiteTextContrast(Color background) {
-    return (luminance(rgb(250, 250, 250)) + 0.05) / (luminance(background) + 0.05);
+    return contrast(rgb(250, 250, 250), background);
 }
 
 Colors::Colors(Program& program, ColoredControls controls)

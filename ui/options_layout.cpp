@@ -24,6 +24,7 @@ void frmOptions::layOut() {
     width = style::kScreenWidth;
     height = style::kScreenHeight;
     imgBack.id = "imgBack";
+    imgBack.drawing = style::kSettingsDrawing;
     add(imgBack).place(0, 0, width, height);
 
     add(lnLetter);

@@ -1,11 +1,11 @@
 #!/usr/bin/python3
-"""Makes the pictures from their drawings: the icon in its sizes and the notebook page.
+"""Makes the pictures from their drawings: the icon in its sizes and what is drawn on the pages.
 
   ./make_pictures.py           writes them to ../icon and beside this file
   ./make_pictures.py --check   makes them in a temporary folder and compares byte for byte
 
 Needs Python 3 and `rsvg-convert` (made with 2.54.7; another version may round
-other pixels differently). The drawings: ../icon/*.svg and notebook.svg.
+other pixels differently). The drawings: ../icon/*.svg and the *.svg beside this file.
 """
 import argparse
 import pathlib
@@ -23,7 +23,9 @@ LARGEST_SMALL_ICON = 32
 ICON_SIZES = (16, 24, 32, 48, 64, 128, 256, 512)
 # What the Windows shell asks for; 256 pixels are stored as PNG, the others as bitmaps.
 ICO_SIZES = (16, 24, 32, 48, 64, 128, 256)
-NOTEBOOK_SIZE = (2640, 1620)
+# What is drawn on the ruled page of a screen; everything else is see-through.
+PAGES = ("menu", "idle", "settings")
+PAGE_SIZE = (1980, 1215)
 
 
 def draw(svg, size, png):
@@ -66,8 +68,9 @@ def make(icon_folder, picture_folder):
     pngs = {size: (icon_folder / f"quillor-{size}.png").read_bytes() for size in ICO_SIZES}
     made.append(icon_folder / "quillor.ico")
     made[-1].write_bytes(ico(pngs))
-    made.append(picture_folder / "notebook.png")
-    draw(PICTURES / "notebook.svg", NOTEBOOK_SIZE, made[-1])
+    for page in PAGES:
+        made.append(picture_folder / f"{page}.png")
+        draw(PICTURES / f"{page}.svg", PAGE_SIZE, made[-1])
     return made
 
 
@@ -77,7 +80,7 @@ def check():
         fresh = pathlib.Path(name)
         changed = [file.name for file in make(fresh, fresh)
                    if file.read_bytes() != (
-                       (PICTURES if file.stem == "notebook" else ICON) / file.name).read_bytes()]
+                       (PICTURES if file.stem in PAGES else ICON) / file.name).read_bytes()]
     for file in changed:
         print(f"{file} is not what make_pictures.py makes", file=sys.stderr)
     return not changed

@@ -8,6 +8,7 @@
 
 #include "core/numbers.h"
 #include "core/settings_file.h"
+#include "toolkit/style.h"
 
 namespace quillor::testing {
 
@@ -148,6 +149,7 @@ void GameInvariants::checkIdle(const frmGame& game) {
         require(!timer->enabled, "a game's timer runs while idle");
     require(program_.settings.giStrikes == 0, "mistakes while idle");
     require(game.countDown.secondsLeft() == 0, "time is left while idle");
+    require(game.imgBack(0).drawing == style::kIdleDrawing, "the idle page is empty");
     require(!game.guesses.frmeBoard.visible && !game.board.lblCont.visible &&
                 !game.countDown.lblTime.visible && !game.webSearch.lblFinder(0).visible,
             "something of a game shows while idle");
@@ -158,6 +160,8 @@ void GameInvariants::checkPlaying(const frmGame& game) {
     checkKeys(game);
     require(game.menu.mWrite.enabled, "no answer can be written");
     require(!game.webSearch.lblFinder(0).visible, "the search is offered while playing");
+    for (const Picture& page : game.imgBack)
+        require(page.drawing.empty(), "a drawing behind the board or the keys");
     const bool clock = program_.settings.gbAgainstClock;
     require(game.countDown.tmrTime.enabled == clock && game.countDown.lblTime.visible == clock,
             "the clock does not run as wished");

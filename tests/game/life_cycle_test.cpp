@@ -1,5 +1,6 @@
 // The play button, and the states that a game passes through.
 #include "tests/support/game_test.h"
+#include "toolkit/style.h"
 
 namespace quillor::testing {
 namespace {
@@ -28,6 +29,16 @@ TEST_F(LifeCycleTest, PlaysThePhraseThatWasDealt) {
     EXPECT_TRUE(game().guesses.frmeBoard.visible);
     EXPECT_TRUE(game().menu.mWrite.enabled);
     EXPECT_EQ(player.screen().name, "frmGame");
+}
+
+TEST_F(LifeCycleTest, DrawsOnThePageOnlyBetweenTwoGames) {
+    play(u"WORLD");
+    EXPECT_EQ(game().imgBack(0).drawing, "");
+    player.type(u"WORLD");
+    waitForScore();
+    EXPECT_EQ(game().imgBack(0).drawing, "");
+    player.press(key::kReturn);
+    EXPECT_EQ(game().imgBack(0).drawing, style::kIdleDrawing);
 }
 
 TEST_F(LifeCycleTest, SpeaksSpanish) {

@@ -1,6 +1,7 @@
 #include "qt/label_painter.h"
 
 #include <QImage>
+#include <algorithm>
 #include <map>
 
 #include <gtest/gtest.h>
@@ -84,6 +85,36 @@ TEST(LabelPainter, FillsItsRectangleWhenOpaque) {
     EXPECT_EQ(inkOf(look, QRectF(100, 50, 120, 40)), QRect(100, 50, 120, 40));
     look.opaque = false;
     EXPECT_TRUE(inkOf(look, QRectF(100, 50, 120, 40)).isEmpty());
+}
+
+// The darkest pixel of a text on its own ground, 0 to 255.
+int darkest(Color text, Color ground) {
+    LabelLook look = captioned(u"SCORE/ 454", 17);
+    look.textColor = text;
+    look.backColor = ground;
+    look.opaque = true;
+    QImage image = blank(400, 200);
+    QPainter painter(&image);
+    paintLabel(painter, QRectF(0, 0, 400, 200), look, FontBook({}), 0.1);
+    painter.end();
+    int darkest = 255;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            darkest = std::min(darkest, qGray(image.pixel(x, y)));
+    return darkest;
+}
+
+TEST(LabelPainter, EdgesATextThatIsTooCloseToItsGround) {
+    const Color red = rgb(250, 30, 30);
+    EXPECT_LT(darkest(red, rgb(20, 140, 220)), 50);
+    EXPECT_LT(darkest(red, red), 50);
+}
+
+TEST(LabelPainter, LeavesATextThatCanBeReadWithoutAnEdge) {
+    const Color theme = rgb(20, 140, 220);
+    const Color green = rgb(30, 180, 30);
+    EXPECT_EQ(darkest(rgb(250, 250, 250), theme), qGray(20, 140, 220));
+    EXPECT_EQ(darkest(rgb(250, 250, 250), green), qGray(30, 180, 30));
 }
 
 TEST(SymbolPainter, DrawsADifferentPictureForEachSymbol) {
