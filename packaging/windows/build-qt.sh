@@ -40,7 +40,9 @@ fetch_source() {
 [ -f source/CMakeLists.txt ] || fetch_source >&2
 
 # Only Core, Gui and Widgets, and of these what a game needs. The source package
-# lacks wintab.h, hence no tablets. Images: PNG, JPEG and ICO, all bundled.
+# lacks wintab.h, hence no tablets. Images: PNG, JPEG and ICO, all bundled. Of
+# Direct2D only the newer part is left out, and with it a second platform plugin:
+# the fonts need the older one.
 configure() {
     cmake -S source -B build -G Ninja \
         -DCMAKE_TOOLCHAIN_FILE="$here/mingw64.cmake" \
@@ -60,8 +62,7 @@ configure() {
         -DFEATURE_system_zlib=OFF -DFEATURE_system_pcre2=OFF -DFEATURE_system_doubleconversion=OFF \
         -DFEATURE_system_png=OFF -DFEATURE_system_jpeg=OFF -DFEATURE_system_freetype=OFF \
         -DFEATURE_system_harfbuzz=OFF -DFEATURE_graphicsview=OFF -DFEATURE_wizard=OFF \
-        -DFEATURE_pdf=OFF -DFEATURE_textodfwriter=OFF -DFEATURE_direct2d=OFF \
-        -DFEATURE_direct2d1_1=OFF
+        -DFEATURE_pdf=OFF -DFEATURE_textodfwriter=OFF -DFEATURE_direct2d1_1=OFF
 }
 
 configure >&2
