@@ -1,5 +1,6 @@
 #include "qt/tour_script.h"
 
+#include <array>
 #include <system_error>
 
 #include "core/files.h"
@@ -11,13 +12,37 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* kAnswer = "la luna llena";
+/// What is typed on the way.
+struct Words {
+    const char* phrase;    // of the classic game: several Rs, and digits
+    const char* restOfIt;  // its other letters
+    const char* topic;     // of the classic game
+    const char* answer;    // of the arcade games; has an L, but none of XYZWVK
+    const char* letters;   // two of the answer's
+    const char* ownTopic;
+    std::array<const char*, 3> ownPhrases;
+};
+constexpr Words kSpanishWords{"ruta 66 al sur",
+                              "arutls6",
+                              "viajes",
+                              "la luna llena",
+                              "ln",
+                              "frutas",
+                              {"pera", "uva verde", "durazno"}};
+constexpr Words kEnglishWords{"route 66 tour",
+                              "oute6",
+                              "journeys",
+                              "the full moon",
+                              "ln",
+                              "fruits",
+                              {"pear", "green grape", "peach"}};
 constexpr int kDesignWithClock = 3;  // from this one on the games are against the clock
 
 /// Adds steps to a list, one part of the tour at a time.
 class Script {
   public:
-    Script(Tour& tour, bool english) : tour_(tour), english_(english) {}
+    Script(Tour& tour, bool english)
+        : tour_(tour), english_(english), words_(english ? kEnglishWords : kSpanishWords) {}
 
     std::vector<TourStep> write() {
         startAndMenu();
@@ -71,9 +96,9 @@ class Script {
         picture("game-idle");
         key(Qt::Key_Return);
         add(tour_.waitFor("frmWord1"));
-        type("ruta 66 al sur");
+        type(words_.phrase);
         key(Qt::Key_Return);
-        type(english_ ? "journeys" : "viajes");
+        type(words_.topic);
         picture("classic-entry");
         key(Qt::Key_Return);
         add(tour_.waitFor("frmGame"));
@@ -85,7 +110,7 @@ class Script {
         add(tour_.release("lblKey(19)"));
         click("lblKey(38)");
         picture("game-digits");
-        type("arutls6");
+        type(words_.restOfIt);
         expect("lblStatus", texts::kVictory);
         picture("classic-victory");
         key(Qt::Key_F2);
@@ -128,7 +153,7 @@ class Script {
         type("!");
         add(tour_.waitForBox());
         picture("answer-box");
-        type(kAnswer);
+        type(words_.answer);
         key(Qt::Key_Return);
         expect("lblStatus", texts::kVictory);
         picture("victory-with-bonus", 250);
@@ -140,7 +165,7 @@ class Script {
         startArcadeGame();
         key(Qt::Key_Return);
         add(tour_.waitFor("frmGame"));
-        type("la");
+        type(words_.letters);
         picture("game-hidden-letters", 600);
         key(Qt::Key_O, Qt::ControlModifier);
         key(Qt::Key_F2);
@@ -153,9 +178,9 @@ class Script {
     void inventor() {
         key(Qt::Key_I);
         add(tour_.waitFor("frmInventor"));
-        type(english_ ? "fruits" : "frutas");
+        type(words_.ownTopic);
         key(Qt::Key_Return);
-        for (const char* phrase : {"pera", "uva verde", "durazno"}) {
+        for (const char* phrase : words_.ownPhrases) {
             type(phrase);
             key(Qt::Key_Return);
         }
@@ -185,7 +210,7 @@ class Script {
         startArcadeGame();
         key(Qt::Key_Return);
         add(tour_.waitFor("frmGame"));
-        type("ln");
+        type(words_.letters);
         picture("game-" + design, 600);
         key(Qt::Key_F2);
         add(tour_.waitForBox());
@@ -195,6 +220,7 @@ class Script {
 
     Tour& tour_;
     bool english_;
+    const Words& words_;
     std::vector<TourStep> steps_;
 };
 
@@ -209,8 +235,11 @@ void prepareTourFolder(const fs::path& folder, const fs::path& model) {
     const fs::path topics = folder / (english ? "Topics" : "Temas");
     fs::create_directories(topics);
     // One answer, however it is dealt: the two phrases differ by an accent.
-    writeLines(topics / "LUNA.txt", {english ? u"UP IN THE SKY" : u"EN EL CIELO [español]",
-                                     u"la luna llena", u"la lúna llena"});
+    if (english)
+        writeLines(topics / "MOON.txt", {u"UP IN THE SKY", u"the full moon", u"the full móon"});
+    else
+        writeLines(topics / "LUNA.txt",
+                   {u"EN EL CIELO [español]", u"la luna llena", u"la lúna llena"});
 }
 
 std::vector<TourStep> tourScript(Tour& tour, bool english) {

@@ -25,6 +25,7 @@ stop_wine
 # The system's own Python, because that is the one with the bindings.
 export QUILLOR_PACKED="$build/packed/Quillor-$version"
 export QUILLOR_PICTURES="$root/build/windows-pictures"
+rm -rf "$QUILLOR_PICTURES"
 export PYTHONPATH="$root/tests/window:$here/play" PYTHONDONTWRITEBYTECODE=1
 cd "$here/play"
 /usr/bin/python3 -m unittest --verbose "${@:-test_windows}"
