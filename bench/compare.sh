@@ -29,11 +29,17 @@ for ((round = 0; round < rounds; round++)); do
     done
 done
 
-# The best round of each benchmark: what the machine can do undisturbed.
-# Its lines are: name, time, unit, processor time, unit, iterations.
+# The best round of each benchmark: what the machine can do undisturbed. Its
+# lines are: name, time, unit, processor time, unit, iterations, perhaps a rate.
 best() {
-    awk '$5 ~ /^[num]?s$/ { if (!($1 in b) || $4 < b[$1]) b[$1] = $4; unit[$1] = $5 }
-         END { for (n in b) print n, b[n], unit[n] }' "$1" | sort
+    awk '$5 ~ /^[num]?s$/ {
+             if (!($1 in time) || $4 < time[$1]) {
+                 time[$1] = $4; unit[$1] = $5; rate[$1] = NF > 6 ? $7 : "-"
+             }
+         }
+         END { for (name in time) print name, time[name], unit[name], rate[name] }' "$1" | sort
 }
-join <(best "$work/before.txt") <(best "$work/now.txt") |
-    awk '{ printf "%-20s %10.4g %s -> %10.4g %s  %+6.1f %%\n", $1, $2, $3, $4, $5, ($4 / $2 - 1) * 100 }'
+join <(best "$work/before.txt") <(best "$work/now.txt") | awk '{
+    printf "%-20s %10.4g %s -> %10.4g %s  %+6.1f %%", $1, $2, $3, $5, $6, ($5 / $2 - 1) * 100
+    print $7 == "-" ? "" : "   " $7
+}'

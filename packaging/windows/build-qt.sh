@@ -23,15 +23,24 @@ work=$qt.work
 mkdir -p "$work/lists/partial"
 cd "$work"
 
-# A sources list of its own: the machine's lists stay as they are.
+# The machine's own sources with deb-src switched on, in lists that stay here: the
+# machine's lists stay as they are.
+list_sources() {
+    mkdir -p apt
+    for list in /etc/apt/sources.list /etc/apt/sources.list.d/*.list; do
+        [ ! -f "$list" ] || sed -n 's/^deb /deb-src /p' "$list" >"apt/$(basename "$list")"
+    done
+    for list in /etc/apt/sources.list.d/*.sources; do
+        [ ! -f "$list" ] || sed 's/^Types:.*/Types: deb-src/' "$list" >"apt/$(basename "$list")"
+    done
+}
+
 fetch_source() {
-    # shellcheck source=/dev/null
-    . /etc/os-release
-    echo "deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg]" \
-        "http://deb.debian.org/debian $VERSION_CODENAME main" >deb-src.list
-    set -- -o "Dir::Etc::sourcelist=$work/deb-src.list" -o Dir::Etc::sourceparts=/dev/null \
+    list_sources
+    set -- -o Dir::Etc::sourcelist=/dev/null -o "Dir::Etc::sourceparts=$work/apt" \
         -o "Dir::State::Lists=$work/lists" -o APT::Sandbox::User=root
-    apt-get "$@" update
+    # Others' lists may have no sources; only Debian's matter.
+    apt-get "$@" update || true
     apt-get "$@" source --download-only "qt6-base=$qt_version"
     rm -rf source
     dpkg-source -x "qt6-base_$qt_version.dsc" source
