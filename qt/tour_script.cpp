@@ -25,15 +25,15 @@ struct Words {
 constexpr Words kSpanishWords{"ruta 66 al sur",
                               "arutls6",
                               "viajes",
-                              "la luna llena",
+                              "solo la luna",
                               "ln",
                               "frutas",
                               {"pera", "uva verde", "durazno"}};
 constexpr Words kEnglishWords{"route 66 tour",
                               "oute6",
                               "journeys",
-                              "the full moon",
-                              "ln",
+                              "a small cafe",
+                              "lm",
                               "fruits",
                               {"pear", "green grape", "peach"}};
 constexpr int kDesignWithClock = 3;  // from this one on the games are against the clock
@@ -234,12 +234,12 @@ void prepareTourFolder(const fs::path& folder, const fs::path& model) {
     const bool english = eFileExists(folder / "English.txt");
     const fs::path topics = folder / (english ? "Topics" : "Temas");
     fs::create_directories(topics);
-    // One answer, however it is dealt: the two phrases differ by an accent.
+    // One answer, however it is dealt: the two spellings differ by an accent.
     if (english)
-        writeLines(topics / "MOON.txt", {u"UP IN THE SKY", u"the full moon", u"the full móon"});
+        writeLines(topics / "CORNER.txt", {u"ROUND THE CORNER", u"a small cafe", u"a small café"});
     else
         writeLines(topics / "LUNA.txt",
-                   {u"EN EL CIELO [español]", u"la luna llena", u"la lúna llena"});
+                   {u"EN EL CIELO [español]", u"solo la luna", u"sólo la luna"});
 }
 
 std::vector<TourStep> tourScript(Tour& tour, bool english) {
