@@ -54,6 +54,9 @@ class Placed : public Box {
     void showEvent(QShowEvent* event) override {
         Box::showEvent(event);
         this->setAttribute(Qt::WA_KeyboardFocusChange, ringShown_);
+        putInPlace();
+    }
+    void putInPlace() {
         const QWidget* owner = this->parentWidget();
         if (!low_ || !owner)
             return;
@@ -84,7 +87,12 @@ class MessageWindow : public Placed<QMessageBox> {
         fit();
         return QDialog::event(event);
     }
-    void resizeEvent(QResizeEvent* event) override { QDialog::resizeEvent(event); }
+    // Its size is settled only after it was shown.
+    void resizeEvent(QResizeEvent* event) override {
+        QDialog::resizeEvent(event);
+        if (isVisible())
+            putInPlace();
+    }
     void showEvent(QShowEvent* event) override {
         QMessageBox::showEvent(event);
         fit();

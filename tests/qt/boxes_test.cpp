@@ -74,6 +74,24 @@ TEST_F(Boxes, TakeReturnForYesAndEscapeForNo) {
     EXPECT_FALSE(askQuestion(style, "text", "&Yes", "&No"));
 }
 
+TEST_F(Boxes, StayBelowTheMiddleOfTheirWindowWhenTheyGrow) {
+    QWidget window;
+    window.setGeometry(0, 0, 700, 600);
+    window.show();
+    style.parent = &window;
+    style.low = true;
+    whenOpen([&](QDialog& box) {
+        const int width = box.width();
+        box.findChild<QLabel*>("qt_msgbox_label")->setMinimumWidth(width + 100);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return box.width() > width; }));
+        const QPoint middle = box.frameGeometry().center();
+        EXPECT_NEAR(middle.x(), window.geometry().center().x(), 2);
+        EXPECT_GT(middle.y(), window.geometry().center().y());
+    });
+    askQuestion(style, "Leave?", "&Yes", "&No");
+    EXPECT_TRUE(opened);
+}
+
 TEST_F(Boxes, LetReturnPressTheButtonThatHasTheFocus) {
     whenOpen([](QDialog& box) {
         type(box, Qt::Key_Tab);
