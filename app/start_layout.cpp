@@ -51,7 +51,7 @@ void frmStart::layOutTitle() {
     lblMarca.font = {Face::Display, 9, true};
     lblMarca.textColor = rgb(110, 110, 110);
     lblMarca.align = Align::Left;
-    add(lblMarca, &frmeTitle).place(1980, 1410, 2460, 240);
+    add(lblMarca, &frmeTitle).place(1980, 1380, 2460, 240);
 }
 
 void frmStart::layOutFontPanel() {
