@@ -28,8 +28,8 @@ tour() {
     install_packages "${packages_virtual_display[@]}"
     rm -rf "$pictures"
     mkdir -p "$pictures"
+    # It names each picture that it leaves.
     "$root/scripts/virtual-display.sh" "$program" --tour "$pictures" "$@"
-    find "$pictures" -name '*.png' | sort
 }
 
 build_program
