@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "core/text_rules.h"
+#include "qt/paper.h"
 #include "qt/qt_values.h"
 #include "qt/symbol_painter.h"
 #include "toolkit/symbols.h"
@@ -17,7 +18,6 @@ namespace quillor {
 
 namespace {
 
-const QColor kPaper(252, 251, 247);
 const QColor kInk(40, 40, 40);
 const QColor kEdge(135, 135, 142);  // contrast 3.5:1 on white
 const QColor kFineEdge(205, 204, 198);
@@ -52,7 +52,7 @@ QColor readableAccent(Color color) {
 }
 
 QPalette notebookColors(const QColor& accent, const QColor& ground) {
-    QPalette colors(kInk, kPaper);
+    QPalette colors(kInk, kPaperColor);
     colors.setColor(QPalette::Window, ground);
     colors.setColor(QPalette::Base, Qt::white);
     colors.setColor(QPalette::Highlight, accent);
@@ -116,7 +116,7 @@ void NotebookStyle::dress(QWidget& widget, const QWidget* main) {
     widget.setStyle(this);
     for (QWidget* part : parts)
         part->setStyle(this);
-    widget.setPalette(notebookColors(accent_, menu ? Qt::white : kPaper));
+    widget.setPalette(notebookColors(accent_, menu ? Qt::white : kPaperColor));
     for (QWidget* part : parts)
         if (auto* button = qobject_cast<QPushButton*>(part)) {
             button->setFont(buttonFont_);

@@ -63,7 +63,7 @@ const QPixmap& PaperCache::filling(const Wish& wish) {
 }
 
 void paintNotebook(QPainter& painter, const QRectF& area, QPointF origin, double pixelsPerTwip) {
-    painter.fillRect(area, QColor(252, 251, 247));
+    painter.fillRect(area, kPaperColor);
     const double pen = std::max(1.0, std::round(kPen * pixelsPerTwip));
     const double pitch = kRulePitch * pixelsPerTwip;
     const double first = origin.y() + kFirstRule * pixelsPerTwip;

@@ -13,6 +13,9 @@
 
 namespace quillor {
 
+/// Of the notebook page, where nothing is ruled.
+inline const QColor kPaperColor(252, 251, 247);
+
 /// What is inside an Image.
 class DecodedImage : public Image {
   public:
