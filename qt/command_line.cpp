@@ -1,6 +1,8 @@
 // Read by hand: help and errors are needed before there is a display.
 #include "qt/command_line.h"
 
+#include "config/version.h"
+
 namespace quillor {
 
 namespace {

@@ -11,13 +11,13 @@
 #include <utility>
 
 #include "core/texts.h"
-#include "qt/address.h"
-#include "qt/carried_sounds.h"
-#include "qt/picture_loader.h"
-#include "qt/platform.h"
-#include "qt/popup_menu.h"
-#include "qt/qt_values.h"
-#include "qt/screen_window.h"
+#include "qt/boxes/popup_menu.h"
+#include "qt/paint/picture_loader.h"
+#include "qt/system/address.h"
+#include "qt/system/carried_sounds.h"
+#include "qt/system/platform.h"
+#include "qt/windows/qt_values.h"
+#include "qt/windows/screen_window.h"
 
 namespace quillor {
 

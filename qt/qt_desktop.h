@@ -5,9 +5,9 @@
 
 #include "app/program.h"
 #include "core/random.h"
-#include "qt/boxes.h"
-#include "qt/shell.h"
-#include "qt/sound_player.h"
+#include "qt/boxes/boxes.h"
+#include "qt/windows/shell.h"
+#include "sound/player.h"
 #include "toolkit/desktop.h"
 
 namespace quillor {

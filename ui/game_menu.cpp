@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "app/shared_operations.h"
+#include "config/version.h"
 #include "core/files.h"
 
 namespace quillor {

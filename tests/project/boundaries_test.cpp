@@ -23,6 +23,9 @@ const std::map<std::string, Folders> kMayInclude{
     {"game", {"core", "toolkit", "app", "ui", "topics"}},
 };
 
+// What CMake makes; anyone may ask for the version.
+const std::string kMadeHeader = "config/version.h";
+
 // The standard library's headers have neither a folder nor an ending; of C's,
 // only the forms of C++ are used.
 const std::regex kInclude{R"re(^\s*#\s*include\s*([<"])([^>"]+)[>"])re"};
@@ -43,6 +46,8 @@ std::optional<Include> includeOf(const std::string& line) {
 bool allowed(const std::string& folder, const Include& include) {
     if (include.standardForm)
         return std::regex_match(include.name, kStandardHeader);
+    if (include.name == kMadeHeader)
+        return true;
     const std::string from = include.name.substr(0, include.name.find('/'));
     return from == folder || kMayInclude.at(folder).count(from) > 0;
 }
@@ -59,7 +64,7 @@ TEST_P(Boundaries, HoldForEveryInclude) {
 TEST_P(Boundaries, HoldForEveryIncludedFile) {
     for (const SourceLine& line : sourceLines(GetParam())) {
         const std::optional<Include> include = includeOf(line.text);
-        EXPECT_TRUE(!include || include->standardForm ||
+        EXPECT_TRUE(!include || include->standardForm || include->name == kMadeHeader ||
                     std::filesystem::exists(kSourceRoot / include->name))
             << line.place() << ": " << line.text;
     }
@@ -85,7 +90,7 @@ TEST(BoundaryRules, RefuseSystemsAndToolkits) {
 TEST(BoundaryRules, RefuseTheFoldersAbove) {
     EXPECT_FALSE(allowed("core", {false, "toolkit/screen.h"}));
     EXPECT_FALSE(allowed("ui", {false, "game/phrase_board.h"}));
-    EXPECT_FALSE(allowed("game", {false, "qt/window.h"}));
+    EXPECT_FALSE(allowed("game", {false, "qt/windows/shell.h"}));
     EXPECT_FALSE(allowed("game", {false, "windows.h"}));
     EXPECT_TRUE(allowed("game", {false, "topics/inventor.h"}));
 }

@@ -31,7 +31,8 @@ TEST_P(NamesOfTheVersion, AreThoseOfTheProject) {
 }
 
 INSTANTIATE_TEST_SUITE_P(In, NamesOfTheVersion,
-                         ::testing::Values("qt/quillor.manifest", "packaging/windows/vcpkg.json",
+                         ::testing::Values("qt/system/quillor.manifest",
+                                           "packaging/windows/vcpkg.json",
                                            "packaging/windows/README.md",
                                            "resources/Quillor-Manual.txt"));
 

@@ -1,5 +1,5 @@
 // Addresses for the browser: what is encoded, and what stays as it is.
-#include "qt/address.h"
+#include "qt/system/address.h"
 
 #include <gtest/gtest.h>
 

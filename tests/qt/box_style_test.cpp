@@ -1,5 +1,5 @@
 // The colours and shapes of boxes and menus.
-#include "qt/box_style.h"
+#include "qt/boxes/box_style.h"
 
 #include <QMenu>
 #include <QPainter>
@@ -7,8 +7,8 @@
 
 #include <gtest/gtest.h>
 
-#include "qt/box_icon.h"
-#include "qt/qt_values.h"
+#include "qt/boxes/box_icon.h"
+#include "qt/windows/qt_values.h"
 #include "ui/colors.h"
 
 namespace quillor {

@@ -1,5 +1,5 @@
 // What the boxes say, give back and look like.
-#include "qt/boxes.h"
+#include "qt/boxes/boxes.h"
 
 #include <QApplication>
 #include <QDialog>

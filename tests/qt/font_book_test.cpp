@@ -1,5 +1,5 @@
 // Which fonts count as present, and what a face is drawn in.
-#include "qt/font_book.h"
+#include "qt/paint/font_book.h"
 
 #include <QFontInfo>
 

@@ -1,5 +1,5 @@
 // Qt's keys as virtual key codes and as characters.
-#include "qt/key_mapping.h"
+#include "qt/windows/key_mapping.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "qt/label_painter.h"
+#include "qt/paint/label_painter.h"
 
 #include <QImage>
 #include <algorithm>
@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "qt/symbol_painter.h"
+#include "qt/paint/symbol_painter.h"
 #include "toolkit/symbols.h"
 
 namespace quillor {

@@ -1,5 +1,5 @@
 // The pages behind the screens: ruled paper, what is drawn on it, a player's picture.
-#include "qt/paper.h"
+#include "qt/paint/paper.h"
 
 #include <memory>
 

@@ -1,5 +1,5 @@
 // Pictures of any size and kind, and files that are none.
-#include "qt/picture_loader.h"
+#include "qt/paint/picture_loader.h"
 
 #include <QImage>
 #include <algorithm>
@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "qt/paper.h"
+#include "qt/paint/paper.h"
 #include "tests/support/temp_folder.h"
 
 namespace quillor {

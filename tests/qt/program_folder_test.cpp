@@ -1,5 +1,5 @@
 // Where the program keeps its files, and where it cannot.
-#include "qt/program_folder.h"
+#include "qt/system/program_folder.h"
 
 #include <stdexcept>
 

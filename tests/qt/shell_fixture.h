@@ -8,8 +8,8 @@
 
 #include <gtest/gtest.h>
 
-#include "qt/screen_window.h"
-#include "qt/shell.h"
+#include "qt/windows/screen_window.h"
+#include "qt/windows/shell.h"
 #include "toolkit/screen.h"
 
 namespace quillor {

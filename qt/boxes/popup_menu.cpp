@@ -1,0 +1,55 @@
+// Turns menu items into actions; the one that was chosen leads back to its item.
+#include "qt/boxes/popup_menu.h"
+
+#include <QMenu>
+
+#include "qt/windows/qt_values.h"
+
+namespace quillor {
+
+namespace {
+
+void fill(QMenu& menu, const MenuItem& source, NotebookStyle& look);
+
+void addItem(QMenu& menu, MenuItem& item, NotebookStyle& look) {
+    const QString caption = toQt(item.caption);
+    if (caption.isEmpty()) {
+        menu.addSeparator();
+        return;
+    }
+    if (!item.children.empty()) {
+        QMenu* inner = menu.addMenu(caption);
+        inner->setFont(menu.font());
+        inner->setEnabled(item.enabled);
+        fill(*inner, item, look);
+        return;
+    }
+    // What stands behind a tab is shown at the entry's right edge.
+    QAction* action =
+        menu.addAction(item.shortcut.empty() ? caption : caption + '\t' + toQt(item.shortcut));
+    action->setObjectName(QString::fromStdString(item.id));
+    action->setCheckable(item.checkable);
+    action->setChecked(item.checked);
+    action->setEnabled(item.enabled);
+    action->setData(QVariant::fromValue(static_cast<void*>(&item)));
+}
+
+void fill(QMenu& menu, const MenuItem& source, NotebookStyle& look) {
+    look.dress(menu);
+    for (MenuItem* item : source.children)
+        addItem(menu, *item, look);
+}
+
+}  // namespace
+
+MenuItem* choosePopUp(const BoxStyle& style, const MenuItem& menu, QPoint at) {
+    NotebookStyle look(style);
+    QMenu popup(toQt(menu.caption), style.parent);
+    popup.setAccessibleName(toQt(menu.caption));
+    popup.setFont(style.font);
+    fill(popup, menu, look);
+    const QAction* chosen = popup.exec(at);
+    return chosen ? static_cast<MenuItem*>(chosen->data().value<void*>()) : nullptr;
+}
+
+}  // namespace quillor

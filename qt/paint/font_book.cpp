@@ -1,0 +1,71 @@
+// Installed fonts go before those that are carried along.
+#include "qt/paint/font_book.h"
+
+#include <QDir>
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <algorithm>
+#include <cmath>
+
+#include "core/files.h"
+#include "core/texts.h"
+#include "qt/windows/qt_values.h"
+
+namespace quillor {
+
+namespace {
+
+const QString kComicName = QStringLiteral("Comic Sans MS");
+constexpr double kTwipsPerPoint = 20;
+
+QString displayName() {
+    return toQt(texts::kDisplayFont);
+}
+
+}  // namespace
+
+FontBook::FontBook(const std::vector<std::filesystem::path>& folders) {
+    for (const std::filesystem::path& folder : folders) {
+        const QDir directory(toQt(fromPath(folder)));
+        for (const QString& name : directory.entryList({"*.ttf", "*.otf"}, QDir::Files, QDir::Name))
+            load(directory.filePath(name));
+    }
+}
+
+// The comic face tells itself by its name; any other font is the rounded one.
+void FontBook::load(const QString& file) {
+    const int font = QFontDatabase::addApplicationFont(file);
+    for (const QString& name : QFontDatabase::applicationFontFamilies(font)) {
+        QString& known = name.contains("comic", Qt::CaseInsensitive) ? comic_ : rounded_;
+        if (known.isEmpty())
+            known = name;
+    }
+}
+
+bool FontBook::present(TextView name) const {
+    if (QFontDatabase::hasFamily(toQt(name)))
+        return true;
+    return name == texts::kDisplayFont && !rounded_.isEmpty();
+}
+
+QString FontBook::family(Face face) const {
+    if (face == Face::Display)
+        return QFontDatabase::hasFamily(displayName()) ? displayName() : rounded_;
+    if (face == Face::Comic)
+        return QFontDatabase::hasFamily(kComicName) ? kComicName : comic_;
+    return {};
+}
+
+QFont FontBook::font(const Font& font, double pixelsPerTwip) const {
+    QFont result;
+    const QString name = family(font.face);
+    if (!name.isEmpty())
+        result.setFamily(name);
+    // That font has one weight, which is bold already: bolder would smear it.
+    result.setBold(font.bold && name != displayName());
+    const double size = static_cast<double>(font.size) * kTwipsPerPoint * pixelsPerTwip;
+    result.setPixelSize(std::max(1, static_cast<int>(std::lround(size))));
+    return result;
+}
+
+}  // namespace quillor

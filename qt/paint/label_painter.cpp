@@ -1,0 +1,154 @@
+#include "qt/paint/label_painter.h"
+
+#include <QFontMetricsF>
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "core/text_rules.h"
+#include "qt/paint/symbol_painter.h"
+#include "qt/windows/qt_values.h"
+#include "toolkit/contrast.h"
+
+namespace quillor {
+
+namespace {
+
+constexpr int kSmallestFont = 6;  // pixels: smaller text is clipped instead
+constexpr double kDisabledOpacity = 0.45;
+
+int alignment(const LabelLook& look) {
+    int flags = Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextDontClip;
+    if (look.wordWrap)
+        flags |= Qt::TextWordWrap;
+    switch (look.align) {
+        case Align::Left:
+            return flags | Qt::AlignLeft;
+        case Align::Right:
+            return flags | Qt::AlignRight;
+        case Align::Center:
+            break;
+    }
+    return flags | Qt::AlignHCenter;
+}
+
+// One line may be taller than its label: what lies outside is empty.
+bool fits(const QFont& font, const QRectF& rect, int flags, const QString& text) {
+    const QRectF needed = QFontMetricsF(font).boundingRect(rect, flags, text);
+    if (needed.width() > rect.width() + 0.5)
+        return false;
+    const bool oneLine = !(flags & Qt::TextWordWrap) && !text.contains('\n');
+    return needed.height() <= rect.height() * (oneLine ? 1.35 : 1.0) + 0.5;
+}
+
+QFont fitted(QFont font, const QRectF& rect, int flags, const QString& text) {
+    while (font.pixelSize() > kSmallestFont && !fits(font, rect, flags, text))
+        font.setPixelSize(std::min(font.pixelSize() - 1, font.pixelSize() * 19 / 20));
+    return font;
+}
+
+// How much of an outline a text needs on its own ground: 0 none to 1.
+double outlineNeed(const LabelLook& look) {
+    constexpr double kNone = 2.5;
+    constexpr double kFull = 1.9;
+    if (!look.opaque)
+        return 0;
+    return std::clamp((kNone - contrast(look.textColor, look.backColor)) / (kNone - kFull), 0.0,
+                      1.0);
+}
+
+// A dark edge around every letter, so that a text in a colour too close to its
+// ground can still be read.
+void paintOutline(QPainter& painter, const QRectF& rect, int flags, const QString& text,
+                  double need) {
+    constexpr int kDirections = 12;
+    const double reach = std::max(1.0, painter.font().pixelSize() / 14.0);
+    painter.save();
+    painter.setOpacity(painter.opacity() * need);
+    painter.setPen(QColor(40, 40, 40));
+    for (int i = 0; i < kDirections; ++i) {
+        const double angle = i * 2 * std::numbers::pi / kDirections;
+        painter.drawText(rect.translated(reach * std::cos(angle), reach * std::sin(angle)), flags,
+                         text);
+    }
+    painter.restore();
+}
+
+void paintSymbol(QPainter& painter, const QRectF& rect, const LabelLook& look, double size) {
+    size = std::min({size, rect.width(), rect.height()});
+    QRectF box(0, 0, size, size);
+    box.moveCenter(rect.center());
+    if (look.align == Align::Left)
+        box.moveLeft(rect.left());
+    if (look.align == Align::Right)
+        box.moveRight(rect.right());
+    drawSymbol(painter, box, look.font.face, look.caption.front(), toQt(look.textColor));
+}
+
+}  // namespace
+
+LabelLook lookOf(const Label& label) {
+    return {label.caption,      label.font,  label.textColor, label.backColor, label.opaque,
+            label.cornerRadius, label.align, label.wordWrap,  label.enabled};
+}
+
+char16_t accessKey(TextView caption) {
+    for (std::size_t i = 0; i + 1 < caption.size(); ++i) {
+        if (caption[i] != u'&')
+            continue;
+        if (caption[i + 1] != u'&')
+            return upperCase(caption[i + 1]);
+        ++i;
+    }
+    return 0;
+}
+
+Text plainCaption(TextView caption) {
+    Text plain;
+    for (std::size_t i = 0; i < caption.size(); ++i) {
+        if (caption[i] == u'&' && ++i == caption.size())
+            break;
+        plain += caption[i];
+    }
+    return plain;
+}
+
+void paintLabel(QPainter& painter, const QRectF& rect, const LabelLook& look, const FontBook& fonts,
+                double pixelsPerTwip) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (look.opaque) {
+        const double radius = static_cast<double>(look.cornerRadius) * pixelsPerTwip;
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(toQt(look.backColor));
+        painter.drawRoundedRect(rect, radius, radius);
+    }
+    if (look.caption.empty())
+        return;
+    painter.setOpacity(look.enabled ? 1.0 : kDisabledOpacity);
+    QFont font = fonts.font(look.font, pixelsPerTwip);
+    if (isSymbolFace(look.font.face)) {
+        paintSymbol(painter, rect, look, font.pixelSize());
+        return;
+    }
+    const QString text = toQt(look.caption).replace("\r\n", "\n");
+    const int flags = alignment(look);
+    painter.setFont(fitted(std::move(font), rect, flags, text));
+    if (const double need = outlineNeed(look); need > 0)
+        paintOutline(painter, rect, flags, text, need);
+    painter.setPen(toQt(look.textColor));
+    painter.drawText(rect, flags, text);
+}
+
+void paintFocusRing(QPainter& painter, const QRectF& rect, double radius) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setOpacity(1);
+    painter.setBrush(Qt::NoBrush);
+    const auto ring = [&](double inset, double width, const QColor& color) {
+        painter.setPen(QPen(color, width));
+        painter.drawRoundedRect(rect.adjusted(inset, inset, -inset, -inset), radius, radius);
+    };
+    ring(2, 4, QColor(255, 255, 255));
+    ring(2, 2, QColor(20, 20, 40));
+}
+
+}  // namespace quillor

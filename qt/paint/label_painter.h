@@ -1,0 +1,42 @@
+// How labels are drawn: background, caption with its access key, symbol, focus.
+#pragma once
+
+#include <QPainter>
+#include <QRectF>
+
+#include "qt/paint/font_book.h"
+#include "toolkit/controls.h"
+
+namespace quillor {
+
+/// Everything of a label that is seen. It is painted from this copy, never
+/// from the label, which may be gone by then.
+struct LabelLook {
+    Text caption;
+    Font font;
+    Color textColor = 0;
+    Color backColor = 0;
+    bool opaque = false;
+    Twips cornerRadius = 0;
+    Align align = Align::Center;
+    bool wordWrap = false;
+    bool enabled = true;
+
+    bool operator==(const LabelLook&) const = default;
+};
+
+LabelLook lookOf(const Label& label);
+
+/// The character behind the caption's single "&", in capitals; 0: none.
+char16_t accessKey(TextView caption);
+/// The caption as it is read: without the marks of access keys.
+Text plainCaption(TextView caption);
+
+/// Text that does not fit the rectangle is drawn smaller.
+void paintLabel(QPainter& painter, const QRectF& rect, const LabelLook& look, const FontBook& fonts,
+                double pixelsPerTwip);
+
+/// A ring inside the rectangle that shows on light and on dark ground.
+void paintFocusRing(QPainter& painter, const QRectF& rect, double radius);
+
+}  // namespace quillor

@@ -1,0 +1,51 @@
+// Linux and the other systems of the free desktops.
+#include <QDesktopServices>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QUrl>
+
+#include "core/files.h"
+#include "qt/system/platform.h"
+#include "qt/windows/qt_values.h"
+
+namespace quillor::platform {
+
+namespace {
+
+void handOver(const QString& target, const QUrl& url) {
+    if (!QProcess::startDetached("xdg-open", {target}))
+        QDesktopServices::openUrl(url);
+}
+
+}  // namespace
+
+QStringList arguments(int argc, char** argv) {
+    QStringList result;
+    for (int i = 1; i < argc; ++i)
+        result << QString::fromLocal8Bit(argv[i]);
+    return result;
+}
+
+bool altTypesCharacters() {
+    return false;
+}
+
+void openFile(const std::filesystem::path& file) {
+    const QString name = toQt(fromPath(std::filesystem::absolute(file)));
+    handOver(name, QUrl::fromLocalFile(name));
+}
+
+void openEncodedAddress(const QString& address) {
+    handOver(address, QUrl::fromEncoded(address.toLatin1()));
+}
+
+std::filesystem::path userDataFolder() {
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    return toPath(fromQt(data)) / "quillor";
+}
+
+bool showSystemAbout(QWidget*, const QString&, const QString&) {
+    return false;
+}
+
+}  // namespace quillor::platform

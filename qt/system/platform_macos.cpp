@@ -1,0 +1,40 @@
+// macOS.
+#include <QDesktopServices>
+#include <QStandardPaths>
+#include <QUrl>
+
+#include "core/files.h"
+#include "qt/system/platform.h"
+#include "qt/windows/qt_values.h"
+
+namespace quillor::platform {
+
+QStringList arguments(int argc, char** argv) {
+    QStringList result;
+    for (int i = 1; i < argc; ++i)
+        result << QString::fromUtf8(argv[i]);
+    return result;
+}
+
+bool altTypesCharacters() {
+    return true;
+}
+
+void openFile(const std::filesystem::path& file) {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(toQt(fromPath(std::filesystem::absolute(file)))));
+}
+
+void openEncodedAddress(const QString& address) {
+    QDesktopServices::openUrl(QUrl::fromEncoded(address.toLatin1()));
+}
+
+std::filesystem::path userDataFolder() {
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    return toPath(fromQt(data)) / "Quillor";
+}
+
+bool showSystemAbout(QWidget*, const QString&, const QString&) {
+    return false;
+}
+
+}  // namespace quillor::platform

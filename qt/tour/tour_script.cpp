@@ -1,0 +1,249 @@
+#include "qt/tour/tour_script.h"
+
+#include <array>
+#include <system_error>
+
+#include "core/files.h"
+#include "qt/windows/qt_values.h"
+
+namespace quillor {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// What is typed on the way.
+struct Words {
+    const char* phrase;    // of the classic game: several Rs, and digits
+    const char* restOfIt;  // its other letters
+    const char* topic;     // of the classic game
+    const char* answer;    // of the arcade games; has an L, but none of XYZWVK
+    const char* letters;   // two of the answer's
+    const char* ownTopic;
+    std::array<const char*, 3> ownPhrases;
+};
+constexpr Words kSpanishWords{"ruta 66 al sur",
+                              "arutls6",
+                              "viajes",
+                              "solo la luna",
+                              "ln",
+                              "frutas",
+                              {"pera", "uva verde", "durazno"}};
+constexpr Words kEnglishWords{"route 66 tour",
+                              "oute6",
+                              "journeys",
+                              "a small cafe",
+                              "lm",
+                              "fruits",
+                              {"pear", "green grape", "peach"}};
+constexpr int kDesignWithClock = 3;  // from this one on the games are against the clock
+
+/// Adds steps to a list, one part of the tour at a time.
+class Script {
+  public:
+    Script(Tour& tour, bool english)
+        : tour_(tour), english_(english), words_(english ? kEnglishWords : kSpanishWords) {}
+
+    std::vector<TourStep> write() {
+        startAndMenu();
+        classicGame();
+        lostGame();
+        wonGame();
+        hiddenLetters();
+        inventor();
+        settings();
+        add(tour_.closeWindow());
+        return std::move(steps_);
+    }
+
+  private:
+    void add(TourStep step) { steps_.push_back(std::move(step)); }
+    void picture(const QString& name, int pause = 350) { add(tour_.picture(name, pause)); }
+    void key(int code, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        add(tour_.key(code, modifiers));
+    }
+    void type(const QString& text) {
+        for (const QChar character : text)
+            add(tour_.type(character));
+    }
+    void click(const QString& id) {
+        add(tour_.press(id));
+        add(tour_.release(id));
+    }
+    void expect(const QString& id, const TextPair& pair) {
+        const TextView text = english_ ? pair.english : pair.spanish;
+        add(tour_.expect(id, toQt(text)));
+    }
+
+    void startAndMenu() {
+        add(tour_.waitFor("frmStart"));
+        picture("start", 400);
+        add(tour_.waitFor("frmMenu"));
+        add(tour_.moveAway());
+        picture("menu");
+        add(tour_.moveTo("lblOption(5)"));
+        picture("menu-hover", 150);
+        add(tour_.press("lblOption(5)"));
+        picture("menu-pressed", 150);
+        add(tour_.moveTo("imgBack"));
+        add(tour_.release("imgBack"));
+    }
+
+    void classicGame() {
+        key(Qt::Key_C);
+        add(tour_.waitFor("frmGame"));
+        expect("lblMode", texts::kClassicMode);
+        picture("game-idle");
+        key(Qt::Key_Return);
+        add(tour_.waitFor("frmWord1"));
+        type(words_.phrase);
+        key(Qt::Key_Return);
+        type(words_.topic);
+        picture("classic-entry");
+        key(Qt::Key_Return);
+        add(tour_.waitFor("frmGame"));
+        picture("game-with-first-letter", 600);
+        add(tour_.moveTo("lblKey(19)"));
+        picture("key-hover", 150);
+        add(tour_.press("lblKey(19)"));
+        picture("key-pressed", 150);
+        add(tour_.release("lblKey(19)"));
+        click("lblKey(38)");
+        picture("game-digits");
+        type(words_.restOfIt);
+        expect("lblStatus", texts::kVictory);
+        picture("classic-victory");
+        key(Qt::Key_F2);
+        add(tour_.waitFor("frmMenu"));
+    }
+
+    void startArcadeGame() {
+        key(Qt::Key_Return);
+        add(tour_.waitFor("frmWord2"));
+        key(Qt::Key_Up);
+    }
+
+    void lostGame() {
+        key(Qt::Key_A);
+        add(tour_.waitFor("frmGame"));
+        // Without sounds there is time to see the points.
+        key(Qt::Key_S, Qt::ControlModifier);
+        startArcadeGame();
+        picture("topic-selection");
+        key(Qt::Key_Return);
+        add(tour_.waitFor("frmGame"));
+        type("lxyz");
+        picture("game-three-mistakes", 700);
+        key(Qt::Key_Menu);
+        add(tour_.waitForBox());
+        picture("game-menu");
+        key(Qt::Key_Escape);
+        add(tour_.waitFor("frmGame"));
+        type("wvk");
+        expect("lblStatus", texts::kDead);
+        picture("dead", 250);
+        // The score has been counted down and pulses.
+        add(tour_.picture("low-score", 4600));
+    }
+
+    void wonGame() {
+        startArcadeGame();
+        key(Qt::Key_Return);
+        add(tour_.waitFor("frmGame"));
+        type("!");
+        add(tour_.waitForBox());
+        picture("answer-box");
+        type(words_.answer);
+        key(Qt::Key_Return);
+        expect("lblStatus", texts::kVictory);
+        picture("victory-with-bonus", 250);
+        picture("victory", 4500);
+    }
+
+    void hiddenLetters() {
+        key(Qt::Key_O, Qt::ControlModifier);
+        startArcadeGame();
+        key(Qt::Key_Return);
+        add(tour_.waitFor("frmGame"));
+        type(words_.letters);
+        picture("game-hidden-letters", 600);
+        key(Qt::Key_O, Qt::ControlModifier);
+        key(Qt::Key_F2);
+        add(tour_.waitForBox());
+        picture("leave-question");
+        key(Qt::Key_Return);
+        add(tour_.waitFor("frmMenu"));
+    }
+
+    void inventor() {
+        key(Qt::Key_I);
+        add(tour_.waitFor("frmInventor"));
+        type(words_.ownTopic);
+        key(Qt::Key_Return);
+        for (const char* phrase : words_.ownPhrases) {
+            type(phrase);
+            key(Qt::Key_Return);
+        }
+        picture("inventor");
+        click("lblBack");
+        add(tour_.waitFor("frmMenu"));
+    }
+
+    void settings() {
+        for (const int design : {1, 2, 3, 4}) {
+            const QString name = "design-" + QString::number(design);
+            key(Qt::Key_S);
+            add(tour_.waitFor("frmOptions"));
+            key(Qt::Key_0 + design);
+            if (design == kDesignWithClock)
+                key(Qt::Key_C);
+            picture("settings-" + name);
+            key(Qt::Key_Backspace);
+            add(tour_.waitFor("frmMenu"));
+            gameOf(name);
+        }
+    }
+
+    void gameOf(const QString& design) {
+        key(Qt::Key_A);
+        add(tour_.waitFor("frmGame"));
+        startArcadeGame();
+        key(Qt::Key_Return);
+        add(tour_.waitFor("frmGame"));
+        type(words_.letters);
+        picture("game-" + design, 600);
+        key(Qt::Key_F2);
+        add(tour_.waitForBox());
+        key(Qt::Key_Return);
+        add(tour_.waitFor("frmMenu"));
+    }
+
+    Tour& tour_;
+    bool english_;
+    const Words& words_;
+    std::vector<TourStep> steps_;
+};
+
+}  // namespace
+
+void prepareTourFolder(const fs::path& folder, const fs::path& model) {
+    std::error_code ignored;
+    if (!model.empty())
+        for (const char* name : {"English.txt", "Color.txt", "Pic.jpg"})
+            fs::copy_file(model / name, folder / name, ignored);
+    const bool english = eFileExists(folder / "English.txt");
+    const fs::path topics = folder / (english ? "Topics" : "Temas");
+    fs::create_directories(topics);
+    // One answer, however it is dealt: the two spellings differ by an accent.
+    if (english)
+        writeLines(topics / "CORNER.txt", {u"ROUND THE CORNER", u"a small cafe", u"a small café"});
+    else
+        writeLines(topics / "LUNA.txt",
+                   {u"EN EL CIELO [español]", u"solo la luna", u"sólo la luna"});
+}
+
+std::vector<TourStep> tourScript(Tour& tour, bool english) {
+    return Script(tour, english).write();
+}
+
+}  // namespace quillor

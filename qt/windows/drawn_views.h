@@ -1,0 +1,79 @@
+// Controls that are only painted: shapes, lines, pictures and frames.
+#pragma once
+
+#include <QWidget>
+#include <tuple>
+
+#include "qt/windows/control_view.h"
+
+namespace quillor {
+
+/// Neither the mouse nor a screen reader takes note of it.
+class ShapeView : public QWidget, public ControlView {
+  public:
+    ShapeView(Shape& shape, ScreenLink& link, QWidget* parent);
+    QWidget& widget() override { return *this; }
+
+  protected:
+    void syncLook() override;
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    using Look = std::tuple<ShapeKind, Color, bool, Color, Twips, Twips>;
+    Shape& shape_;
+    Look shown_;
+};
+
+class LineView : public QWidget, public ControlView {
+  public:
+    LineView(Line& line, ScreenLink& link, QWidget* parent);
+    QWidget& widget() override { return *this; }
+
+  protected:
+    void syncLook() override;
+    QRectF extent() const override;
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    using Look = std::tuple<Twips, Twips, Twips, Twips, Color, Twips>;
+    Line& line_;
+    Look shown_;
+};
+
+class PictureView : public QWidget, public ControlView {
+  public:
+    PictureView(Picture& picture, ScreenLink& link, QWidget* parent);
+    QWidget& widget() override { return *this; }
+
+  protected:
+    void syncLook() override;
+    void paintEvent(QPaintEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+
+  private:
+    using Look = std::tuple<ImageRef, std::string>;
+    Picture& picture_;
+    Look shown_;
+};
+
+class FrameView : public QWidget, public ControlView {
+  public:
+    FrameView(Frame& frame, ScreenLink& link, QWidget* parent);
+    QWidget& widget() override { return *this; }
+
+  protected:
+    void syncLook() override;
+    void paintEvent(QPaintEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+
+  private:
+    Frame& frame_;
+    std::tuple<Color, bool> shown_{0, false};
+};
+
+}  // namespace quillor

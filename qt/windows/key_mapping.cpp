@@ -1,0 +1,84 @@
+// A table for keys with names; letters, digits and F keys are counted.
+#include "qt/windows/key_mapping.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "qt/system/platform.h"
+
+namespace quillor {
+
+namespace {
+
+constexpr std::pair<int, int> kNamedKeys[] = {
+    {Qt::Key_Backspace, key::kBackspace},
+    {Qt::Key_Tab, 9},
+    {Qt::Key_Backtab, 9},
+    {Qt::Key_Return, key::kReturn},
+    {Qt::Key_Enter, key::kReturn},
+    {Qt::Key_Shift, 16},
+    {Qt::Key_Control, 17},
+    {Qt::Key_Alt, 18},
+    {Qt::Key_Escape, key::kEscape},
+    {Qt::Key_Space, 32},
+    {Qt::Key_PageUp, 33},
+    {Qt::Key_PageDown, 34},
+    {Qt::Key_End, 35},
+    {Qt::Key_Home, 36},
+    {Qt::Key_Left, key::kLeft},
+    {Qt::Key_Up, 38},
+    {Qt::Key_Right, key::kRight},
+    {Qt::Key_Down, 40},
+    {Qt::Key_Insert, 45},
+    {Qt::Key_Delete, key::kDelete},
+    {Qt::Key_Menu, key::kContextMenu},
+};
+
+bool isPrintable(const QString& text) {
+    return !text.isEmpty() && std::all_of(text.begin(), text.end(),
+                                          [](QChar c) { return c.isPrint() || c.isSurrogate(); });
+}
+
+}  // namespace
+
+int virtualKeyCode(const QKeyEvent& event) {
+    const int key = event.key();
+    if (key >= Qt::Key_0 && key <= Qt::Key_9) {
+        const bool keypad = event.modifiers().testFlag(Qt::KeypadModifier);
+        return (keypad ? key::kKeypad0 : '0') + key - Qt::Key_0;
+    }
+    if (key >= Qt::Key_A && key <= Qt::Key_Z)
+        return 'A' + key - Qt::Key_A;
+    if (key >= Qt::Key_F1 && key <= Qt::Key_F24)
+        return key::kF2 - 1 + key - Qt::Key_F1;
+    for (const auto& [qtKey, code] : kNamedKeys)
+        if (key == qtKey)
+            return code;
+    return 0;
+}
+
+KeyEvent toKeyEvent(const QKeyEvent& event) {
+    KeyEvent result;
+    result.code = virtualKeyCode(event);
+    result.shift = event.modifiers().testFlag(Qt::ShiftModifier);
+    result.control = event.modifiers().testFlag(Qt::ControlModifier);
+    result.alt = event.modifiers().testFlag(Qt::AltModifier);
+    result.autoRepeat = event.isAutoRepeat();
+    return result;
+}
+
+QString typedText(const QKeyEvent& event) {
+    const bool control = event.modifiers().testFlag(Qt::ControlModifier);
+    const bool alt = event.modifiers().testFlag(Qt::AltModifier);
+    // Both together are the right-hand Alt key of many keyboards.
+    const bool shortcut = control != alt && !(alt && platform::altTypesCharacters());
+    if (shortcut)
+        return {};
+    if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
+        return QString(QChar(kCharReturn));
+    if (event.key() == Qt::Key_Backspace)
+        return QString(QChar(kCharBackspace));
+    return isPrintable(event.text()) ? event.text() : QString();
+}
+
+}  // namespace quillor

@@ -1,0 +1,149 @@
+// The mouse and the keys become events of the screen; what changes is announced.
+#include "qt/windows/label_views.h"
+
+#include <QAccessible>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "qt/windows/qt_values.h"
+
+namespace quillor {
+
+void LabelView::syncLook() {
+    LabelLook look = lookOf(label_);
+    if (look == look_ && label_.checked == checked_)
+        return;
+    const bool spoken = look.caption != look_.caption || label_.checked != checked_;
+    look_ = std::move(look);
+    checked_ = label_.checked;
+    widget().update();
+    if (spoken)
+        announce();
+}
+
+QString LabelView::spokenName() const {
+    return toQt(label_.spokenName.empty() ? plainCaption(label_.caption) : label_.spokenName);
+}
+
+void LabelView::paint(QPainter& painter) {
+    paintLabel(painter, QRectF(widget().rect()), look_, link().shell().fonts, pixelsPerTwip());
+}
+
+ButtonView::ButtonView(Label& label, ScreenLink& link, QWidget* parent)
+    : QAbstractButton(parent), LabelView(label, link) {
+    setFocusPolicy(Qt::TabFocus);
+    setMouseTracking(true);
+    setCursor(Qt::PointingHandCursor);
+    setAttribute(Qt::WA_InputMethodEnabled);
+    connect(this, &QAbstractButton::pressed,
+            [this] { this->link().event([&](Screen& s) { s.mouseDown(this->label()); }); });
+    connect(this, &QAbstractButton::released,
+            [this] { this->link().event([&](Screen& s) { s.mouseUp(this->label()); }); });
+    connect(this, &QAbstractButton::clicked,
+            [this] { this->link().event([&](Screen& s) { s.click(this->label()); }); });
+}
+
+void ButtonView::spaceDown(QKeyEvent& event) {
+    if (!event.isAutoRepeat())
+        QAbstractButton::keyPressEvent(&event);
+}
+
+void ButtonView::assistivePress() {
+    if (isEnabled() && !link().shell().isModal())
+        click();
+}
+
+void ButtonView::announce() {
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
+void ButtonView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    paint(painter);
+    if (hasFocus() && link().shell().showsFocus)
+        paintFocusRing(painter, rect(), static_cast<double>(look().cornerRadius) * pixelsPerTwip());
+}
+
+void ButtonView::mouseMoveEvent(QMouseEvent* event) {
+    QAbstractButton::mouseMoveEvent(event);
+    event->accept();  // the frame behind it is not what the mouse moves over
+    if (rect().contains(event->position().toPoint()))
+        link().event([&](Screen& screen) { screen.mouseMove(label()); });
+}
+
+void ButtonView::mousePressEvent(QMouseEvent* event) {
+    link().shell().showsFocus = false;
+    QAbstractButton::mousePressEvent(event);
+    event->accept();  // the right button's release is ours too
+}
+
+void ButtonView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::RightButton)
+        link().event([&](Screen& screen) { screen.rightClick(label()); });
+    else
+        QAbstractButton::mouseReleaseEvent(event);
+}
+
+void ButtonView::enterEvent(QEnterEvent*) {
+    link().event([&](Screen& screen) { screen.mouseMove(label()); });
+}
+
+CaptionView::CaptionView(Label& label, ScreenLink& link, QWidget* parent)
+    : QLabel(parent), LabelView(label, link) {
+    setMouseTracking(true);
+}
+
+void CaptionView::press() {
+    link().event([&](Screen& screen) { screen.click(label()); });
+}
+
+void CaptionView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    paint(painter);
+}
+
+void CaptionView::mouseMoveEvent(QMouseEvent*) {
+    link().event([&](Screen& screen) { screen.mouseMove(label()); });
+}
+
+void CaptionView::enterEvent(QEnterEvent*) {
+    link().event([&](Screen& screen) { screen.mouseMove(label()); });
+}
+
+void CaptionView::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+    if (event->button() != Qt::LeftButton)
+        return;
+    pressed_ = true;
+    link().event([&](Screen& screen) { screen.mouseDown(label()); });
+}
+
+void CaptionView::mouseReleaseEvent(QMouseEvent* event) {
+    const bool inside = rect().contains(event->position().toPoint());
+    if (event->button() == Qt::RightButton && inside)
+        link().event([&](Screen& screen) { screen.rightClick(label()); });
+    if (event->button() != Qt::LeftButton || !std::exchange(pressed_, false))
+        return;
+    link().event([&](Screen& screen) { screen.mouseUp(label()); });
+    if (inside)
+        press();
+}
+
+NotificationView::NotificationView(Label& label, ScreenLink& link, QWidget* parent)
+    : QLabel(parent), LabelView(label, link) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+// Screen readers speak a notification when it comes into view.
+void NotificationView::announce() {
+    if (!isVisible())
+        return;
+    setAccessibleName(LabelView::spokenName());
+    QAccessibleEvent event(this, QAccessible::ObjectShow);
+    QAccessible::updateAccessibility(&event);
+}
+
+}  // namespace quillor

@@ -1,0 +1,176 @@
+// Rows drawn by hand; entries and selection follow those of the screen.
+#include "qt/windows/list_view.h"
+
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+#include "qt/paint/label_painter.h"
+#include "qt/windows/qt_values.h"
+
+namespace quillor {
+
+namespace {
+
+constexpr double kRadius = 120;      // twips, of the box's corners
+constexpr double kInset = 60;        // twips, from the box to its entries
+constexpr double kRowHeight = 1.75;  // in font sizes
+
+// Flat rows with a rounded selection.
+class RowDelegate : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override {
+        return {0, static_cast<int>(option.font.pixelSize() * kRowHeight)};
+    }
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        const bool selected = option.state.testFlag(QStyle::State_Selected);
+        const bool hovered = option.state.testFlag(QStyle::State_MouseOver);
+        const QRectF row = QRectF(option.rect).adjusted(1, 1, -1, -1);
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(Qt::NoPen);
+        if (selected || hovered) {
+            painter->setBrush(selected ? option.palette.highlight() : QColor(230, 236, 244));
+            painter->drawRoundedRect(row, 5, 5);
+        }
+        const double padding = option.font.pixelSize() * 0.5;
+        const QRectF space = row.adjusted(padding, 0, -padding, 0);
+        painter->setFont(option.font);
+        painter->setPen(selected ? QColor(Qt::white) : QColor(30, 30, 30));
+        const QString text =
+            QFontMetricsF(option.font)
+                .elidedText(index.data().toString(), Qt::ElideRight, space.width());
+        painter->drawText(space, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text);
+        painter->restore();
+    }
+};
+
+}  // namespace
+
+ListView::ListView(ListBox& list, ScreenLink& link, QWidget* parent)
+    : QListWidget(parent), ControlView(list, link), list_(list) {
+    setFrameShape(QFrame::NoFrame);
+    setItemDelegate(new RowDelegate(this));
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setSelectionMode(SingleSelection);
+    setAttribute(Qt::WA_InputMethodEnabled);
+    viewport()->setAutoFillBackground(false);
+    viewport()->setMouseTracking(true);
+    viewport()->setAttribute(Qt::WA_Hover);
+    connect(this, &QListWidget::itemSelectionChanged, [this] { selectionMade(); });
+    connect(this, &QListWidget::itemDoubleClicked,
+            [this] { this->link().event([&](Screen& screen) { screen.doubleClick(list_); }); });
+}
+
+void ListView::syncLook() {
+    syncFont();
+    writing_ = true;
+    syncItems();
+    syncSelection();
+    writing_ = false;
+}
+
+void ListView::syncFont() {
+    if (shownFont_ == list_.font && shownScale_ == pixelsPerTwip())
+        return;
+    shownFont_ = list_.font;
+    shownScale_ = pixelsPerTwip();
+    setFont(link().shell().fonts.font(shownFont_, shownScale_));
+    const int inset = static_cast<int>(kInset * shownScale_) + 2;
+    setViewportMargins(inset, inset, inset, inset);
+    scheduleDelayedItemsLayout();
+}
+
+void ListView::syncItems() {
+    if (shownItems_ == list_.items)
+        return;
+    // Entries at the front that stay keep their place on the display.
+    std::size_t same = 0;
+    while (same < shownItems_.size() && same < list_.items.size() &&
+           shownItems_[same] == list_.items[same])
+        ++same;
+    while (count() > static_cast<int>(same))
+        delete takeItem(count() - 1);
+    for (std::size_t i = same; i < list_.items.size(); ++i)
+        addItem(toQt(list_.items[i]));
+    shownItems_ = list_.items;
+}
+
+void ListView::syncSelection() {
+    const int wanted = list_.listIndex();
+    if (wanted == selectedRow())
+        return;
+    if (wanted < 0) {
+        clearSelection();
+        return;
+    }
+    setCurrentRow(wanted);
+    scrollToItem(item(wanted));
+}
+
+int ListView::selectedRow() const {
+    const QModelIndexList rows = selectedIndexes();
+    return rows.isEmpty() ? -1 : rows.front().row();
+}
+
+void ListView::selectionMade() {
+    const int row = selectedRow();
+    if (writing_ || row == list_.listIndex())
+        return;
+    link().event([&](Screen& screen) {
+        // A player selects another entry, never none: Control with a click is
+        // undone by the sync after this event.
+        if (row >= 0)
+            screen.selectItem(list_, row);
+    });
+}
+
+// With nothing selected, a key that moves the selection begins with an entry
+// at the end that it comes from.
+void ListView::press(QKeyEvent& event) {
+    const bool down = event.key() == Qt::Key_Down || event.key() == Qt::Key_Home;
+    const bool up = event.key() == Qt::Key_Up || event.key() == Qt::Key_End;
+    if (selectedRow() < 0 && count() > 0 && (down || up))
+        setCurrentRow(down ? 0 : count() - 1);
+    else
+        QListWidget::keyPressEvent(&event);
+}
+
+// The box around the entries; these are painted on the viewport inside it.
+bool ListView::event(QEvent* event) {
+    if (event->type() != QEvent::Paint)
+        return QListWidget::event(event);
+    paintBox();
+    return true;
+}
+
+void ListView::paintBox() {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double radius = kRadius * pixelsPerTwip();
+    painter.setPen(QPen(QColor(150, 150, 160), 1));
+    painter.setBrush(QColor(255, 255, 255));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    if (hasFocus())
+        paintFocusRing(painter, rect(), radius);
+}
+
+void ListView::enterEvent(QEnterEvent*) {
+    link().event([&](Screen& screen) { screen.mouseMove(list_); });
+}
+
+void ListView::focusInEvent(QFocusEvent* event) {
+    QListWidget::focusInEvent(event);
+    update();
+}
+
+void ListView::focusOutEvent(QFocusEvent* event) {
+    QListWidget::focusOutEvent(event);
+    update();
+}
+
+}  // namespace quillor

@@ -1,0 +1,44 @@
+// A list box as a native list.
+#pragma once
+
+#include <QKeyEvent>
+#include <QListWidget>
+
+#include "qt/windows/control_view.h"
+
+namespace quillor {
+
+class ListView : public QListWidget, public ControlView {
+  public:
+    ListView(ListBox& list, ScreenLink& link, QWidget* parent);
+
+    QWidget& widget() override { return *this; }
+    ListBox& list() const { return list_; }
+    bool takesTab() const override { return isUsable(); }
+
+    /// A key that the screen has left to the list.
+    void press(QKeyEvent& event);
+
+  protected:
+    void syncLook() override;
+    bool event(QEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+  private:
+    void paintBox();
+    void syncFont();
+    void syncItems();
+    void syncSelection();
+    int selectedRow() const;
+    void selectionMade();
+
+    ListBox& list_;
+    Font shownFont_;
+    double shownScale_ = 0;
+    std::vector<Text> shownItems_;
+    bool writing_ = false;  // it is the screen that changes the list
+};
+
+}  // namespace quillor

@@ -1,0 +1,109 @@
+// All open windows, and the rule by which events run: one at a time, and after
+// each the windows show what has become of their screens.
+#pragma once
+
+#include <QColor>
+#include <functional>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "qt/paint/font_book.h"
+#include "qt/paint/paper.h"
+#include "qt/windows/window_place.h"
+#include "toolkit/screen.h"
+
+namespace quillor {
+
+class ScreenWindow;
+
+class Shell {
+  public:
+    explicit Shell(const FontBook& fontBook) : fonts(fontBook) {}
+    ~Shell();
+    Shell(const Shell&) = delete;
+    Shell& operator=(const Shell&) = delete;
+
+    const FontBook& fonts;
+    PaperCache papers;
+    /// Called when no handler of any screen is running any more.
+    std::function<void()> onIdle;
+
+    /// Runs one event's handlers. Events may nest: a timer ticks while a box
+    /// is open. After `end` it does nothing.
+    template <typename Body>
+    void event(Body&& body) {
+        if (ended_)
+            return;
+        ++depth_;
+        std::forward<Body>(body)();
+        --depth_;
+        settle();
+    }
+
+    /// The same for the press of a key.
+    template <typename Body>
+    void keyEvent(Body&& body) {
+        const bool outer = std::exchange(byKey_, true);
+        event(std::forward<Body>(body));
+        byKey_ = outer;
+    }
+    bool isKeyEvent() const { return byKey_; }
+
+    /// Whether a button shows that it has the focus: once Tab has been used,
+    /// until the mouse is.
+    bool showsFocus = false;
+
+    /// The windows appear, and disappear, at the end of the event.
+    void show(Screen& screen);
+    void close(Screen& screen);
+    ScreenWindow* find(const Screen* screen) const;
+    /// The window of the screen that stands over the given one; null: none.
+    ScreenWindow* findOver(const Screen& screen) const;
+    bool isOpen(const Screen& screen) const { return find(&screen) != nullptr; }
+
+    /// The window that a box stands over: the active one, or the one opened last.
+    ScreenWindow* front() const;
+
+    /// Brings all windows in step with their screens, and onto the display.
+    void showNow();
+
+    /// Something that runs an event loop of its own inside a handler: a box or
+    /// a menu. Events inside it count as outermost ones.
+    template <typename Body>
+    auto modally(Body&& body) {
+        showNow();
+        const Nesting nesting(*this);
+        return std::forward<Body>(body)();
+    }
+    bool isModal() const { return base_ > 0; }
+
+    /// No event is delivered any more; every event loop ends.
+    void end();
+    bool hasEnded() const { return ended_; }
+
+  private:
+    struct Nesting {
+        explicit Nesting(Shell& owner)
+            : shell(owner), outer(std::exchange(owner.base_, owner.depth_)) {}
+        ~Nesting() { shell.base_ = outer; }
+        Shell& shell;
+        int outer;
+    };
+
+    void settle();
+    void syncWindows();
+    void presentWindows();
+
+    std::vector<ScreenWindow*> windows_;  // in the order of their opening
+    std::vector<ScreenWindow*> closed_;   // until no handler is running
+    std::optional<WindowPlace> place_;    // of the large window that was shown last
+    int depth_ = 0;
+    int base_ = 0;  // the depth at which the innermost box or menu was opened
+    bool byKey_ = false;
+    bool syncing_ = false;
+    bool again_ = false;
+    bool ended_ = false;
+};
+
+}  // namespace quillor

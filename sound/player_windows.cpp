@@ -1,0 +1,28 @@
+// The sound player of Windows, whose own player takes a whole WAVE image,
+// MPEG Layer 3 included, and blocks until its end.
+#include <windows.h>
+// After windows.h, which it builds on.
+#include <mmsystem.h>
+
+#include "sound/player.h"
+#include "sound/wave_image.h"
+
+namespace quillor {
+namespace {
+
+class WindowsSoundPlayer final : public SoundPlayer {
+  public:
+    void play(std::span<const std::byte> image) override {
+        // It would trust the sizes in a broken image, and beep where it finds none.
+        if (readWaveImage(image))
+            sndPlaySoundA(reinterpret_cast<LPCSTR>(image.data()), SND_MEMORY);
+    }
+};
+
+}  // namespace
+
+std::unique_ptr<SoundPlayer> makeSoundPlayer() {
+    return std::make_unique<WindowsSoundPlayer>();
+}
+
+}  // namespace quillor
