@@ -36,7 +36,7 @@ enum class Align { Left, Center, Right };
 
 /// What every control has. Lengths are twips, relative to the parent.
 struct Control {
-    std::string id;           // its name in the code, e.g. "lblKey(5)"; unique in the program
+    std::string id;           // its name in the code, e.g. "lblKey(5)"; unique on its screen
     Frame* parent = nullptr;  // null: stands on the screen itself
     Twips left = 0;
     Twips top = 0;
@@ -67,7 +67,8 @@ enum class LabelRole {
 };
 
 struct Label : Control {
-    Text caption;
+    Text caption;          // a single "&" marks the access key behind it, "&&" is the sign
+    bool literal = false;  // the caption is data: each "&" is the sign, and there is no access key
     Font font;
     Color textColor = 0;
     Color backColor = 0;
@@ -86,7 +87,7 @@ struct Label : Control {
     std::function<void()> onMouseMove;  // also when the mouse enters it
 };
 
-enum class ShapeKind { Rectangle, RoundedRectangle, Oval };
+enum class ShapeKind { RoundedRectangle, Oval };
 
 struct Shape : Control {
     ShapeKind kind = ShapeKind::RoundedRectangle;

@@ -1,11 +1,36 @@
 // Each event: does the screen take it, is there a handler, and the guard around it.
 #include "toolkit/screen.h"
 
-#include <algorithm>
-
 #include "core/guard.h"
 
 namespace quillor {
+
+namespace {
+
+// Empty where the control is of a kind that has none.
+std::function<void()> mouseMoveHandler(const ControlRef& ref) {
+    return std::visit(
+        [](const auto* control) -> std::function<void()> {
+            if constexpr (requires { control->onMouseMove; })
+                return control->onMouseMove;
+            else
+                return {};
+        },
+        ref);
+}
+
+std::function<void()> rightClickHandler(const ControlRef& ref) {
+    return std::visit(
+        [](const auto* control) -> std::function<void()> {
+            if constexpr (requires { control->onRightClick; })
+                return control->onRightClick;
+            else
+                return {};
+        },
+        ref);
+}
+
+}  // namespace
 
 void Screen::load() {
     quietly(name + "_Load", [&] { onLoad(); });
@@ -41,12 +66,6 @@ void Screen::input(const Control& control, const char* event,
 void Screen::click(Label& label) {
     input(label, "_Click", label.onClick);
 }
-void Screen::rightClick(Label& label) {
-    input(label, "_RightClick", label.onRightClick);
-}
-void Screen::rightClick(Picture& picture) {
-    input(picture, "_RightClick", picture.onRightClick);
-}
 void Screen::mouseDown(Label& label) {
     input(label, "_MouseDown", label.onMouseDown);
 }
@@ -54,23 +73,39 @@ void Screen::mouseUp(Label& label) {
     input(label, "_MouseUp", label.onMouseUp);
 }
 
+const ControlRef* Screen::find(const Control& control) const {
+    for (const ControlRef& ref : controls_)
+        if (&controlOf(ref) == &control)
+            return &ref;
+    return nullptr;
+}
+
 void Screen::mouseMove(Control& control) {
-    const auto found = std::find_if(controls_.begin(), controls_.end(), [&](const ControlRef& ref) {
-        return &controlOf(ref) == &control;
-    });
-    if (found == controls_.end())
+    const ControlRef* ref = find(control);
+    if (!ref)
         return;
-    std::function<void()> handler;
-    if (auto* const* label = std::get_if<Label*>(&*found))
-        handler = (*label)->onMouseMove;
-    else if (auto* const* picture = std::get_if<Picture*>(&*found))
-        handler = (*picture)->onMouseMove;
-    else if (auto* const* frame = std::get_if<Frame*>(&*found))
-        handler = (*frame)->onMouseMove;
-    if (handler)
+    if (const std::function<void()> handler = mouseMoveHandler(*ref))
         input(control, "_MouseMove", handler);
     else if (control.parent)
         mouseMove(*control.parent);
+}
+
+void Screen::rightClick(Control& control) {
+    const ControlRef* ref = find(control);
+    if (!ref || std::holds_alternative<TextField*>(*ref) || std::holds_alternative<ListBox*>(*ref))
+        return;
+    const std::function<void()> handler = rightClickHandler(*ref);
+    if (handler && control.enabled)
+        input(control, "_RightClick", handler);
+    else if (control.parent)
+        rightClick(*control.parent);
+    else
+        rightClickBeside();
+}
+
+void Screen::rightClickBeside() {
+    if (enabled)
+        quietly(name + "_ContextMenu", [&] { onContextMenu(); });
 }
 
 void Screen::choose(MenuItem& item) {

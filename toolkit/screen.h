@@ -42,15 +42,18 @@ class Screen {
 
     // What happens to a screen. Each runs the screen's own handler under the
     // guard: an unexpected error ends the handler, not the program. A screen
-    // that is not enabled, and a control that is not, take no input.
+    // that is not enabled takes no input but its timers', and a control that is not, none.
+    // That its frames are enabled and visible is for the shell to see to.
     void load();
     void unload();
     void keyDown(KeyEvent& event);
     void keyPress(char16_t character);
     void closeRequest();  // the title bar's close button
     void click(Label& label);
-    void rightClick(Label& label);
-    void rightClick(Picture& picture);
+    /// Ends at the first handler from the control to its frames, and failing that at the
+    /// screen's menu; fields and lists keep it to themselves.
+    void rightClick(Control& control);
+    void rightClickBeside();  // where there is no control
     void mouseDown(Label& label);
     void mouseUp(Label& label);
     void mouseMove(Control& control);  // ends at the first handler from the control to its frames
@@ -70,6 +73,8 @@ class Screen {
     virtual void onUnload() {}
     virtual void onKeyDown(KeyEvent&) {}
     virtual void onKeyPress(char16_t) {}
+    /// A right click that no control has taken.
+    virtual void onContextMenu() {}
     virtual void onCloseRequest() = 0;
 
     /// Puts a control in front of those added before it.
@@ -88,6 +93,7 @@ class Screen {
 
   private:
     void input(const Control& control, const char* event, const std::function<void()>& handler);
+    const ControlRef* find(const Control& control) const;
 
     std::vector<ControlRef> controls_;
     std::vector<Timer*> timers_;

@@ -18,7 +18,9 @@ constexpr int kSmallestFont = 6;  // pixels: smaller text is clipped instead
 constexpr double kDisabledOpacity = 0.45;
 
 int alignment(const LabelLook& look) {
-    int flags = Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextDontClip;
+    int flags = Qt::AlignVCenter | Qt::TextDontClip;
+    if (!look.literal)
+        flags |= Qt::TextShowMnemonic;
     if (look.wordWrap)
         flags |= Qt::TextWordWrap;
     switch (look.align) {
@@ -88,29 +90,8 @@ void paintSymbol(QPainter& painter, const QRectF& rect, const LabelLook& look, d
 }  // namespace
 
 LabelLook lookOf(const Label& label) {
-    return {label.caption,      label.font,  label.textColor, label.backColor, label.opaque,
-            label.cornerRadius, label.align, label.wordWrap,  label.enabled};
-}
-
-char16_t accessKey(TextView caption) {
-    for (std::size_t i = 0; i + 1 < caption.size(); ++i) {
-        if (caption[i] != u'&')
-            continue;
-        if (caption[i + 1] != u'&')
-            return upperCase(caption[i + 1]);
-        ++i;
-    }
-    return 0;
-}
-
-Text plainCaption(TextView caption) {
-    Text plain;
-    for (std::size_t i = 0; i < caption.size(); ++i) {
-        if (caption[i] == u'&' && ++i == caption.size())
-            break;
-        plain += caption[i];
-    }
-    return plain;
+    return {label.caption, label.literal,      label.font,  label.textColor, label.backColor,
+            label.opaque,  label.cornerRadius, label.align, label.wordWrap,  label.enabled};
 }
 
 void paintLabel(QPainter& painter, const QRectF& rect, const LabelLook& look, const FontBook& fonts,

@@ -13,6 +13,7 @@ namespace quillor {
 /// from the label, which may be gone by then.
 struct LabelLook {
     Text caption;
+    bool literal = false;
     Font font;
     Color textColor = 0;
     Color backColor = 0;
@@ -26,11 +27,6 @@ struct LabelLook {
 };
 
 LabelLook lookOf(const Label& label);
-
-/// The character behind the caption's single "&", in capitals; 0: none.
-char16_t accessKey(TextView caption);
-/// The caption as it is read: without the marks of access keys.
-Text plainCaption(TextView caption);
 
 /// Text that does not fit the rectangle is drawn smaller.
 void paintLabel(QPainter& painter, const QRectF& rect, const LabelLook& look, const FontBook& fonts,

@@ -35,8 +35,6 @@ void ShapeView::paintEvent(QPaintEvent*) {
         {static_cast<double>(radiusTwips) * pixelsPerTwip(), area.width() / 2, area.height() / 2});
     if (kind == ShapeKind::Oval)
         painter.drawEllipse(area);
-    else if (kind == ShapeKind::Rectangle)
-        painter.drawRect(area);
     else
         painter.drawRoundedRect(area, radius, radius);
 }
@@ -155,6 +153,11 @@ void FrameView::enterEvent(QEnterEvent*) {
 
 void FrameView::mousePressEvent(QMouseEvent* event) {
     event->accept();
+}
+
+void FrameView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::RightButton && rect().contains(event->position().toPoint()))
+        link().event([&](Screen& screen) { screen.rightClick(frame_); });
 }
 
 }  // namespace quillor

@@ -8,6 +8,7 @@
 #include "qt/windows/list_view.h"
 #include "qt/windows/qt_values.h"
 #include "qt/windows/screen_window.h"
+#include "toolkit/caption.h"
 
 namespace quillor {
 
@@ -72,7 +73,7 @@ bool KeyRouter::pressAccessKey(const QKeyEvent& event) {
         auto* label = dynamic_cast<LabelView*>(view);
         if (!label || !label->isPressable())
             continue;
-        if (accessKey(label->label().caption) == upperCase(typed[0].unicode())) {
+        if (accessKey(label->label()) == upperCase(typed[0].unicode())) {
             label->press();
             return true;
         }

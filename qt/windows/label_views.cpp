@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include "qt/windows/qt_values.h"
+#include "toolkit/caption.h"
 
 namespace quillor {
 
@@ -22,7 +23,7 @@ void LabelView::syncLook() {
 }
 
 QString LabelView::spokenName() const {
-    return toQt(label_.spokenName.empty() ? plainCaption(label_.caption) : label_.spokenName);
+    return toQt(label_.spokenName.empty() ? plainCaption(label_) : label_.spokenName);
 }
 
 void LabelView::paint(QPainter& painter) {

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
 #include <QWindow>
@@ -78,6 +79,13 @@ class Canvas : public QWidget {
 
   protected:
     void resizeEvent(QResizeEvent* event) override { window_.layOut(event->size()); }
+
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        if (event->button() == Qt::RightButton && rect().contains(event->position().toPoint()))
+            window_.link_.event([](Screen& screen) { screen.rightClickBeside(); });
+    }
+
+    void mousePressEvent(QMouseEvent* event) override { event->accept(); }
 
     void paintEvent(QPaintEvent* event) override {
         QPainter painter(this);

@@ -9,6 +9,7 @@
 #include "core/text_rules.h"
 #include "game/game_screen.h"
 #include "tests/support/open_program.h"
+#include "toolkit/caption.h"
 #include "topics/register_screens.h"
 #include "ui/options.h"
 
@@ -64,14 +65,6 @@ class EveryScreen : public ::testing::TestWithParam<Place>, public OpenProgram {
 
 bool isSymbol(const Label& label) {
     return label.font.face == Face::Webdings || label.font.face == Face::Wingdings;
-}
-
-// The character behind a single "&", in capitals; 0 when there is none.
-char16_t accessKey(TextView caption) {
-    for (std::size_t i = 0; i + 1 < caption.size(); ++i)
-        if (caption[i] == u'&' && caption[++i] != u'&')
-            return upperCase(caption[i]);
-    return 0;
 }
 
 // Where a control stands on the screen.
@@ -168,7 +161,7 @@ TEST_P(EveryScreen, SaysNoAccessMarkAloud) {
 TEST_P(EveryScreen, GivesEachAccessKeyToOneButton) {
     std::map<char16_t, std::string> owners;
     for (const Label* label : all<Label>()) {
-        const char16_t accessed = accessKey(label->caption);
+        const char16_t accessed = accessKey(*label);
         EXPECT_TRUE(!accessed || owners.emplace(accessed, label->id).second)
             << label->id << " and " << owners[accessed];
     }

@@ -24,6 +24,15 @@ TEST_F(Accessibility, NamesAButtonByItsCaption) {
     EXPECT_EQ(spoken(button).text(QAccessible::Description), "Save it [#lblSave(1)]");
 }
 
+TEST_F(Accessibility, NamesACaptionThatIsDataAsItStands) {
+    Label title;
+    addButton(title, "lblTopic", 0, 0).caption = u"R&B && 100%S";
+    title.role = LabelRole::Plain;
+    title.literal = true;
+    open();
+    EXPECT_EQ(spoken(title).text(QAccessible::Name), "R&B && 100%S");
+}
+
 TEST_F(Accessibility, NeverSpeaksASymbolsLetter) {
     Label box;
     addButton(box, "lblTick", 0, 0).caption = u"a";

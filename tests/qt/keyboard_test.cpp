@@ -153,6 +153,16 @@ TEST_F(Keyboard, ClicksByAccessKeyWhatIsVisibleAndEnabled) {
     EXPECT_EQ(log, Log{"second"});
 }
 
+TEST_F(Keyboard, FindsNoAccessKeyInACaptionThatIsData) {
+    Label title;
+    addButton(title, "lbl", 0, 0).caption = u"R&B";
+    title.literal = true;
+    title.onClick = [this] { log.push_back("click"); };
+    open();
+    press(Qt::Key_B, Qt::AltModifier, "b");
+    EXPECT_EQ(log, Log{});
+}
+
 TEST_F(Keyboard, SurvivesAScreenThatClosesItselfInTheMiddle) {
     TextField field;
     screen.firstFocus = &addField(field, "txt", 0, 0);

@@ -45,20 +45,12 @@ LabelLook captioned(const Text& caption, float points) {
     return look;
 }
 
-TEST(Caption, NamesTheAccessKey) {
-    EXPECT_EQ(accessKey(u"AJU&STES"), u'S');
-    EXPECT_EQ(accessKey(u"&ábaco"), u'Á');
-    EXPECT_EQ(accessKey(u"¿QUÉ ES ESO&?"), u'?');
-    EXPECT_EQ(accessKey(u"SAVE && CREATE"), 0);
-    EXPECT_EQ(accessKey(u"A && &B"), u'B');
-    EXPECT_EQ(accessKey(u"END&"), 0);
-}
-
-TEST(Caption, IsReadWithoutItsMarks) {
-    EXPECT_EQ(plainCaption(u"MODO &ARCADE"), u"MODO ARCADE");
-    EXPECT_EQ(plainCaption(u"SAVE && CREATE"), u"SAVE & CREATE");
-    EXPECT_EQ(plainCaption(u"END&"), u"END");
-    EXPECT_EQ(plainCaption(u""), u"");
+TEST(LabelPainter, DrawsEverySignOfACaptionThatIsData) {
+    const QRectF space(100, 50, 200, 40);
+    LabelLook look = captioned(u"R&B", 14);
+    look.literal = true;
+    EXPECT_EQ(inkOf(look, space).width(), inkOf(captioned(u"R&&B", 14), space).width());
+    EXPECT_GT(inkOf(look, space).width(), inkOf(captioned(u"R&B", 14), space).width());
 }
 
 TEST(LabelPainter, ShrinksACaptionThatIsTooWide) {

@@ -25,6 +25,7 @@ class PlainScreen : public Screen {
     std::function<void(KeyEvent&)> keyDownHandler;
     std::function<void(char16_t)> keyPressHandler;
     std::function<void()> closeHandler;
+    std::function<void()> menuHandler;
     Control* firstFocus = nullptr;
 
     Control* initialFocus() override { return firstFocus; }
@@ -39,6 +40,10 @@ class PlainScreen : public Screen {
     void onKeyPress(char16_t character) override {
         if (keyPressHandler)
             keyPressHandler(character);
+    }
+    void onContextMenu() override {
+        if (menuHandler)
+            menuHandler();
     }
     void onCloseRequest() override {
         if (closeHandler)

@@ -56,6 +56,35 @@ TEST_F(Windows, ReportTheMouseInItsOrder) {
     EXPECT_EQ(seen, "down up click right ");
 }
 
+TEST_F(Windows, OpenTheScreensMenuWhereNothingElseTakesARightClick) {
+    Frame frame;
+    Shape shape;
+    Label button;
+    TextField field;
+    int menus = 0;
+    screen.menuHandler = [&] { ++menus; };
+    screen.add(frame).place(0, 0, 3000, 3000);
+    screen.add(shape, &frame).place(0, 0, 900, 900);
+    addButton(button, "lbl", 4000, 0);
+    addField(field, "txt", 4000, 1500);
+    open();
+    QWidget& canvas = *widgetOf(frame).parentWidget();
+    const auto rightClickAt = [&](Twips x, Twips y) {
+        const TwipScale& scale = shell.find(&screen)->scale();
+        const QPoint at = scale.place({x, y, 1, 1}).topLeft();
+        QWidget* target = canvas.childAt(at);
+        QTest::mouseClick(target ? target : &canvas, Qt::RightButton, {},
+                          target ? target->mapFrom(&canvas, at) : at);
+    };
+    rightClickAt(300, 300);    // the shape
+    rightClickAt(300, 2000);   // the frame
+    rightClickAt(4200, 100);   // the button
+    rightClickAt(4200, 2500);  // nothing
+    EXPECT_EQ(menus, 4);
+    rightClickAt(4200, 1600);  // the field
+    EXPECT_EQ(menus, 4);
+}
+
 TEST_F(Windows, TakeNoMouseWhileTheScreenIsDisabled) {
     Label button;
     addButton(button, "lbl", 0, 0);

@@ -102,12 +102,7 @@ void Player::click(const std::string& id) {
 void Player::rightClick(const std::string& id) {
     Screen& where = screen();
     Control& target = usable<Control>(id, "right click");
-    desktop_.deliver([&] {
-        if (auto* label = controlAs<Label>(where, &target))
-            where.rightClick(*label);
-        else if (auto* picture = controlAs<Picture>(where, &target))
-            where.rightClick(*picture);
-    });
+    desktop_.deliver([&] { where.rightClick(target); });
 }
 
 void Player::hover(const std::string& id) {

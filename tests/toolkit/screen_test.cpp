@@ -34,12 +34,13 @@ class TestScreen : public Screen {
     ListBox list;
     Timer timer;
     MenuItem item;
-    int clicks = 0, panelMoves = 0, ticks = 0, keys = 0, characters = 0, closings = 0;
+    int clicks = 0, panelMoves = 0, menus = 0, ticks = 0, keys = 0, characters = 0, closings = 0;
 
   protected:
     void onLoad() override { throw std::runtime_error("cannot load"); }
     void onKeyDown(KeyEvent&) override { ++keys; }
     void onKeyPress(char16_t) override { ++characters; }
+    void onContextMenu() override { ++menus; }
     void onCloseRequest() override { ++closings; }
 };
 
@@ -113,6 +114,33 @@ TEST_F(ScreenEvents, MoveTheMouseOverTheFirstFrameThatListens) {
     screen.mouseMove(screen.bare);
     EXPECT_EQ(labelMoves, 1);
     EXPECT_EQ(screen.panelMoves, 1);
+}
+
+TEST_F(ScreenEvents, OpenTheScreensMenuByARightClickThatNothingTakes) {
+    screen.rightClick(screen.bare);
+    screen.rightClick(screen.panel);
+    screen.rightClickBeside();
+    EXPECT_EQ(screen.menus, 3);
+    screen.bare.enabled = false;
+    screen.rightClick(screen.bare);
+    EXPECT_EQ(screen.menus, 4);
+}
+
+TEST_F(ScreenEvents, LeaveARightClickToTheControlThatTakesIt) {
+    int taken = 0;
+    screen.label.onRightClick = [&] { ++taken; };
+    screen.rightClick(screen.label);
+    screen.rightClick(screen.field);
+    screen.rightClick(screen.list);
+    EXPECT_EQ(taken, 1);
+    EXPECT_EQ(screen.menus, 0);
+}
+
+TEST_F(ScreenEvents, OpenNoMenuOnAScreenThatIsNotEnabled) {
+    screen.enabled = false;
+    screen.rightClick(screen.bare);
+    screen.rightClickBeside();
+    EXPECT_EQ(screen.menus, 0);
 }
 
 TEST_F(ScreenEvents, AllowAHandlerToWireItselfAnew) {
