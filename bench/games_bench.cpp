@@ -34,7 +34,7 @@ class SilentDesktop : public Desktop {
     void seedRandom() override { random_.reseed(1); }
     void show(Screen&) override {}
     void close(Screen&) override {}
-    void popUp(Screen&, MenuItem&) override {}
+    void popUp(Screen&, MenuItem&, const Control*) override {}
     void startProgram() override {}
     void end() override {}
 

@@ -30,6 +30,12 @@ std::uint64_t clockReading() {
     return static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
 }
 
+// The bottom left corner of a control's widget.
+QPoint below(const ScreenWindow& window, const Control& control) {
+    QWidget& place = window.view(control)->widget();
+    return place.mapToGlobal(QPoint(0, place.height()));
+}
+
 // The middle of the focused control, for a menu that was asked for by key.
 QPoint focusPoint(const ScreenWindow& window) {
     const QWidget* focus = window.focusWidget();
@@ -147,11 +153,13 @@ void QtDesktop::close(Screen& screen) {
     shell_.close(screen);
 }
 
-void QtDesktop::popUp(Screen& screen, MenuItem& menu) {
+void QtDesktop::popUp(Screen& screen, MenuItem& menu, const Control* under) {
     ScreenWindow* window = shell_.find(&screen);
     if (!window)
         return;
-    const QPoint at = shell_.isKeyEvent() ? focusPoint(*window) : QCursor::pos();
+    const QPoint at = under                 ? below(*window, *under)
+                      : shell_.isKeyEvent() ? focusPoint(*window)
+                                            : QCursor::pos();
     BoxStyle style = boxStyle();
     style.parent = window;
     MenuItem* chosen = shell_.modally([&] { return choosePopUp(style, menu, at); });

@@ -37,7 +37,7 @@ class QtDesktop : public Desktop {
     void seedRandom() override;
     void show(Screen& screen) override;
     void close(Screen& screen) override;
-    void popUp(Screen& screen, MenuItem& menu) override;
+    void popUp(Screen& screen, MenuItem& menu, const Control* under) override;
     void startProgram() override;
     void end() override;
 

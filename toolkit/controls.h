@@ -202,6 +202,7 @@ struct MenuItem {
     Text caption;   // empty: a separator
     Text shortcut;  // as shown beside the caption, e.g. "Ctrl+E"; the screen handles the key
     bool checkable = false;
+    bool radio = false;  // checkable; of those in one menu at most one is checked
     bool checked = false;
     bool enabled = true;
     std::vector<MenuItem*> children;

@@ -63,9 +63,10 @@ class Desktop {
     virtual void show(Screen& screen) = 0;
     /// Hides a screen for good; it is destroyed after the current event.
     virtual void close(Screen& screen) = 0;
-    /// Pops up the menu at the mouse, or at the focused control when it was
-    /// asked for by key; returns after an entry was chosen and has run.
-    virtual void popUp(Screen& screen, MenuItem& menu) = 0;
+    /// Pops up the menu below the given control of the screen; without one, at
+    /// the mouse, or at the focused control when it was asked for by key.
+    /// Returns after an entry was chosen and has run.
+    virtual void popUp(Screen& screen, MenuItem& menu, const Control* under = nullptr) = 0;
 
     /// Starts the program's own executable anew.
     virtual void startProgram() = 0;

@@ -170,16 +170,21 @@ void NotebookStyle::paintCheckBox(QPainter& painter, const QStyleOptionMenuItem&
                     side);
     const QRectF square(box);
     const bool hovered = isHovered(item);
-    const double radius = square.width() / 4;
+    const bool radio = item.checkType == QStyleOptionMenuItem::Exclusive;
+    const double radius = square.width() / (radio ? 2 : 4);
     if (!item.checked) {
         paintRounded(painter, square, radius, hovered ? Qt::transparent : Qt::white,
                      QPen(hovered ? QColor(Qt::white) : kEdge, line()));
         return;
     }
     paintRounded(painter, square, radius, hovered ? QColor(Qt::white) : accent_, Qt::NoPen);
-    const double inset = square.width() / 8;
-    drawSymbol(painter, square.adjusted(inset, inset, -inset, -inset), Face::Webdings,
-               symbols::kTick[0], hovered ? accent_ : QColor(Qt::white));
+    const QColor mark = hovered ? accent_ : QColor(Qt::white);
+    const double inset = square.width() / (radio ? 3.2 : 8);
+    const QRectF inner = square.adjusted(inset, inset, -inset, -inset);
+    if (radio)
+        paintRounded(painter, inner, inner.width() / 2, mark, Qt::NoPen);
+    else
+        drawSymbol(painter, inner, Face::Webdings, symbols::kTick[0], mark);
 }
 
 void NotebookStyle::paintArrow(QPainter& painter, const QRectF& text, const QColor& ink) const {

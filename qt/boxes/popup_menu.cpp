@@ -1,6 +1,7 @@
 // Turns menu items into actions; the one that was chosen leads back to its item.
 #include "qt/boxes/popup_menu.h"
 
+#include <QActionGroup>
 #include <QMenu>
 
 #include "qt/windows/qt_values.h"
@@ -10,6 +11,12 @@ namespace quillor {
 namespace {
 
 void fill(QMenu& menu, const MenuItem& source, NotebookStyle& look);
+
+// The menu's one group of entries of which one is checked.
+QActionGroup* radioGroup(QMenu& menu) {
+    auto* group = menu.findChild<QActionGroup*>({}, Qt::FindDirectChildrenOnly);
+    return group ? group : new QActionGroup(&menu);
+}
 
 void addItem(QMenu& menu, MenuItem& item, NotebookStyle& look) {
     const QString caption = toQt(item.caption);
@@ -28,7 +35,9 @@ void addItem(QMenu& menu, MenuItem& item, NotebookStyle& look) {
     QAction* action =
         menu.addAction(item.shortcut.empty() ? caption : caption + '\t' + toQt(item.shortcut));
     action->setObjectName(QString::fromStdString(item.id));
-    action->setCheckable(item.checkable);
+    action->setCheckable(item.checkable || item.radio);
+    if (item.radio)
+        action->setActionGroup(radioGroup(menu));
     action->setChecked(item.checked);
     action->setEnabled(item.enabled);
     action->setData(QVariant::fromValue(static_cast<void*>(&item)));

@@ -213,8 +213,9 @@ void FakeDesktop::close(Screen& screen) {
     focus_.erase(&screen);
 }
 
-void FakeDesktop::popUp(Screen& screen, MenuItem& menu) {
+void FakeDesktop::popUp(Screen& screen, MenuItem& menu, const Control* under) {
     popUps.push_back(menu.id);
+    popUpUnder = under;
     if (menuChoice_.empty())
         return;
     const std::string wanted = std::exchange(menuChoice_, {});

@@ -80,10 +80,11 @@ class FakeDesktop : public Desktop {
     // What has been asked of it.
     std::vector<std::filesystem::path> openedFiles;
     std::vector<Text> openedAddresses;
-    std::vector<int> playedSounds;    // ids
-    std::vector<std::string> shown;   // screens' names
-    std::vector<std::string> closed;  // the same
-    std::vector<std::string> popUps;  // menus' ids
+    std::vector<int> playedSounds;        // ids
+    std::vector<std::string> shown;       // screens' names
+    std::vector<std::string> closed;      // the same
+    std::vector<std::string> popUps;      // menus' ids
+    const Control* popUpUnder = nullptr;  // what the last of them opened below
     int programStarts = 0;
     int seedings = 0;
     bool ended = false;
@@ -106,7 +107,7 @@ class FakeDesktop : public Desktop {
     void seedRandom() override;
     void show(Screen& screen) override;
     void close(Screen& screen) override;
-    void popUp(Screen& screen, MenuItem& menu) override;
+    void popUp(Screen& screen, MenuItem& menu, const Control* under) override;
     void startProgram() override { ++programStarts; }
     void end() override { ended = true; }
 

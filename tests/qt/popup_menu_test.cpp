@@ -1,0 +1,81 @@
+// How a screen's menu pops up: where, and what its entries are.
+#include "qt/boxes/popup_menu.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QMenu>
+#include <QTimer>
+
+#include "app/program.h"
+#include "qt/qt_desktop.h"
+#include "tests/qt/shell_fixture.h"
+#include "tests/support/temp_folder.h"
+
+namespace quillor {
+
+namespace {
+
+class PopUp : public ShellTest {
+  protected:
+    PopUp() {
+        menu.caption = u"Menu";
+        way.caption = u"Way";
+        menu.children = {&way};
+    }
+    /// Once the menu is open; it is left after that.
+    void whenOpen(std::function<void(QMenu&)> look) {
+        QTimer::singleShot(0, [this, look = std::move(look)] {
+            auto* popup = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            opened = popup != nullptr;
+            if (!opened)
+                return;
+            look(*popup);
+            popup->close();
+        });
+    }
+
+    MenuItem menu;
+    MenuItem way;
+    bool opened = false;
+};
+
+TEST_F(PopUp, OpensBelowTheControlThatItIsAskedFor) {
+    Label button;
+    addButton(button, "lblMenu", 600, 300);
+    ScreenWindow& window = open();
+    QtDesktop desktop(shell, nullptr);
+    testing::TempFolder folder;
+    Program program(desktop, folder.path());
+    desktop.attach(program);
+    whenOpen([&](QMenu& popup) {
+        const QWidget& place = widgetOf(button);
+        EXPECT_EQ(popup.pos(), place.mapToGlobal(QPoint(0, place.height())));
+    });
+    desktop.popUp(screen, menu, &button);
+    EXPECT_TRUE(opened);
+    EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(PopUp, HoldsItsRadioEntriesTogether) {
+    MenuItem other;
+    other.caption = u"Other";
+    way.radio = other.radio = true;
+    other.checked = true;
+    menu.children.push_back(&other);
+    BoxStyle style;
+    style.font.setPixelSize(20);
+    whenOpen([](QMenu& popup) {
+        const QList<QAction*> entries = popup.actions();
+        ASSERT_TRUE(entries[0]->actionGroup());
+        EXPECT_TRUE(entries[0]->actionGroup()->isExclusive());
+        EXPECT_EQ(entries[1]->actionGroup(), entries[0]->actionGroup());
+        EXPECT_FALSE(entries[0]->isChecked());
+        EXPECT_TRUE(entries[1]->isChecked());
+    });
+    choosePopUp(style, menu, {});
+    EXPECT_TRUE(opened);
+}
+
+}  // namespace
+
+}  // namespace quillor
