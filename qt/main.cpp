@@ -71,7 +71,7 @@ class Session {
     /// Plays by itself and leaves pictures in `pictures`.
     int runTour(const QString& pictures) {
         QString failure;
-        Tour tour(pictures, [&](const QString& howItWent) {
+        Tour tour(shell_, pictures, [&](const QString& howItWent) {
             failure = howItWent;
             shell_.end();
         });

@@ -16,8 +16,8 @@
 #include "qt/system/address.h"
 #include "qt/system/carried_sounds.h"
 #include "qt/system/platform.h"
+#include "qt/windows/page_window.h"
 #include "qt/windows/qt_values.h"
-#include "qt/windows/screen_window.h"
 
 namespace quillor {
 
@@ -31,15 +31,15 @@ std::uint64_t clockReading() {
 }
 
 // The bottom left corner of a control's widget.
-QPoint below(const ScreenWindow& window, const Control& control) {
-    QWidget& place = window.view(control)->widget();
+QPoint below(const Page& page, const Control& control) {
+    QWidget& place = page.view(control)->widget();
     return place.mapToGlobal(QPoint(0, place.height()));
 }
 
 // The middle of the focused control, for a menu that was asked for by key.
-QPoint focusPoint(const ScreenWindow& window) {
-    const QWidget* focus = window.focusWidget();
-    const QWidget& place = focus ? *focus : window;
+QPoint focusPoint(const Page& page) {
+    const QWidget* focus = page.focusWidget();
+    const QWidget& place = focus ? *focus : page;
     return place.mapToGlobal(place.rect().center());
 }
 
@@ -59,10 +59,10 @@ QString QtDesktop::lang(const TextPair& pair) const {
 
 BoxStyle QtDesktop::boxStyle() const {
     BoxStyle style;
-    style.parent = shell_.front();
-    const ScreenWindow* window = shell_.front();
-    style.low = window && window->isLarge();
-    const double scale = window ? window->scale().pixels : TwipScale().pixels;
+    Page* page = shell_.front();
+    style.parent = page ? &page->pageWindow() : nullptr;
+    style.low = page && !page->pageWindow().isDialog();
+    const double scale = page ? page->scale().pixels : TwipScale().pixels;
     style.font = shell_.fonts.font(kBoxFont, scale);
     style.buttonFont = shell_.fonts.font(kButtonFont, scale);
     style.accent = program_->settings.glTheme;
@@ -154,14 +154,14 @@ void QtDesktop::close(Screen& screen) {
 }
 
 void QtDesktop::popUp(Screen& screen, MenuItem& menu, const Control* under) {
-    ScreenWindow* window = shell_.find(&screen);
-    if (!window)
+    Page* page = shell_.find(&screen);
+    if (!page)
         return;
-    const QPoint at = under                 ? below(*window, *under)
-                      : shell_.isKeyEvent() ? focusPoint(*window)
+    const QPoint at = under                 ? below(*page, *under)
+                      : shell_.isKeyEvent() ? focusPoint(*page)
                                             : QCursor::pos();
     BoxStyle style = boxStyle();
-    style.parent = window;
+    style.parent = &page->pageWindow();
     MenuItem* chosen = shell_.modally([&] { return choosePopUp(style, menu, at); });
     if (chosen && shell_.isOpen(screen))
         screen.choose(*chosen);

@@ -25,18 +25,19 @@ QPixmap cropped(const QImage& image, QSize size) {
 }
 
 // A drawing that is not there is left out.
-void paintDrawing(QPainter& painter, const std::string& name, QSize pixels) {
+void paintDrawing(QPainter& painter, const std::string& name, const QRect& place) {
     const QImage drawing(":/pictures/" + QString::fromStdString(name) + ".png");
     if (!drawing.isNull())
-        painter.drawImage(0, 0,
-                          drawing.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        painter.drawImage(place.topLeft(), drawing.scaled(place.size(), Qt::IgnoreAspectRatio,
+                                                          Qt::SmoothTransformation));
 }
 
 QPixmap notebook(QSize pixels, const PaperCache::Wish& wish) {
     QPixmap page(pixels);
+    const QRectF drawn(wish.drawn.topLeft() * wish.density, wish.drawn.size() * wish.density);
     QPainter painter(&page);
-    paintNotebook(painter, QRectF({0, 0}, QSizeF(pixels)), {}, wish.pixelsPerTwip * wish.density);
-    paintDrawing(painter, wish.drawing, pixels);
+    paintNotebook(painter, page.rect(), drawn.top(), wish.pixelsPerTwip * wish.density);
+    paintDrawing(painter, wish.drawing, drawn.isNull() ? page.rect() : drawn.toRect());
     return page;
 }
 
@@ -62,27 +63,21 @@ const QPixmap& PaperCache::filling(const Wish& wish) {
     return entries_.front().pixmap;
 }
 
-void paintNotebook(QPainter& painter, const QRectF& area, QPointF origin, double pixelsPerTwip) {
+void paintNotebook(QPainter& painter, const QRectF& area, double top, double pixelsPerTwip) {
     painter.fillRect(area, kPaperColor);
     const double pen = std::max(1.0, std::round(kPen * pixelsPerTwip));
     const double pitch = kRulePitch * pixelsPerTwip;
-    const double first = origin.y() + kFirstRule * pixelsPerTwip;
+    const double first = top + kFirstRule * pixelsPerTwip;
     const double start = first + std::ceil((area.top() - pen - first) / pitch) * pitch;
     for (double y = start; y < area.bottom(); y += pitch)
         painter.fillRect(QRectF(area.left(), std::round(y), area.width(), pen),
                          QColor(223, 233, 244));
     const auto margin = [&](double twips, const QColor& color) {
-        const double x = std::round(origin.x() + twips * pixelsPerTwip);
+        const double x = std::round(area.left() + twips * pixelsPerTwip);
         painter.fillRect(QRectF(x, area.top(), pen, area.height()), color);
     };
     margin(kMargin, QColor(245, 207, 207));
     margin(kMargin + 3 * kPen, QColor(248, 224, 223));
-}
-
-QColor averageColor(const ImageRef& image) {
-    return pixelsOf(image)
-        .scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-        .pixelColor(0, 0);
 }
 
 }  // namespace quillor

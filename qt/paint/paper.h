@@ -5,6 +5,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QPixmap>
+#include <QRectF>
 #include <QSize>
 #include <list>
 #include <string>
@@ -33,6 +34,7 @@ class PaperCache {
         QSize size;           // logical pixels
         double density = 1;
         double pixelsPerTwip = 1;
+        QRectF drawn;  // where the drawing lies, logical pixels; null: all over
 
         bool operator==(const Wish&) const = default;
     };
@@ -47,10 +49,8 @@ class PaperCache {
     std::list<Entry> entries_;  // the one used last is in front
 };
 
-/// Paints the notebook page over `area`; its top left corner is `origin`.
-void paintNotebook(QPainter& painter, const QRectF& area, QPointF origin, double pixelsPerTwip);
-
-/// The colour that an image has on average.
-QColor averageColor(const ImageRef& image);
+/// Paints the notebook page over `area`. Its rules lie as on a page that begins at
+/// `top`; the margin's lines keep to the left edge of `area`.
+void paintNotebook(QPainter& painter, const QRectF& area, double top, double pixelsPerTwip);
 
 }  // namespace quillor

@@ -11,30 +11,34 @@
 #include <cstdio>
 #include <utility>
 
-#include "qt/windows/label_views.h"
+#include "qt/windows/page_window.h"
 #include "qt/windows/qt_values.h"
+#include "qt/windows/shell.h"
 
 namespace quillor {
 
 namespace {
 
-constexpr int kLookAgain = 30;   // ms
-constexpr int kPatience = 8000;  // ms, until a step counts as failed
-constexpr int kPause = 90;       // ms between two steps, about as a quick player's
+constexpr int kLookAgain = 15;    // ms
+constexpr int kPatience = 30000;  // ms, until a step counts as failed
 
-// What takes keys and mouse now: an open menu, a box, or the window in front.
-QWidget* front() {
+// What stands over the program's own windows: an open menu or a box.
+QWidget* openBox() {
     if (QWidget* popup = QApplication::activePopupWidget())
         return popup;
-    if (QWidget* modal = QApplication::activeModalWidget())
-        return modal;
-    return QApplication::activeWindow();
+    QWidget* modal = QApplication::activeModalWidget();
+    return dynamic_cast<PageWindow*>(modal) ? nullptr : modal;
 }
 
-QWidget* control(const QString& id) {
-    QWidget* window = front();
-    QWidget* found = window ? window->findChild<QWidget*>(id) : nullptr;
-    return found && found->isVisible() ? found : nullptr;
+template <typename Kind>
+const Kind* find(const Screen* screen, const QString& id) {
+    if (!screen)
+        return nullptr;
+    for (const ControlRef& ref : screen->controls())
+        if (auto* const* control = std::get_if<Kind*>(&ref))
+            if ((*control)->id == id.toStdString())
+                return *control;
+    return nullptr;
 }
 
 // To the native window, as if they came from the desktop.
@@ -64,7 +68,164 @@ void moveOnto(QWidget& widget) {
         postMouse(widget, QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton);
 }
 
-QList<QWidget*> windowsFromBack() {
+// What a desktop does for a window in front of another one.
+void paintShadow(QPainter& painter, const QRect& window) {
+    constexpr int kReach = 9;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0, 0, 0, 12));
+    for (int reach = 1; reach <= kReach; ++reach)
+        painter.drawRoundedRect(window.adjusted(-reach, -reach, reach, reach), reach, reach);
+}
+
+}  // namespace
+
+Tour::Tour(const Shell& shell, QString folder, std::function<void(QString)> finished)
+    : shell_(shell), folder_(std::move(folder)), finished_(std::move(finished)) {}
+
+void Tour::start(std::vector<TourStep> steps) {
+    steps_ = std::move(steps);
+    waiting_.start();
+    QTimer::singleShot(0, this, [this] { next(); });
+}
+
+// Steps only post events, so that a box which an event opens does not hold the
+// tour up. They have been delivered when the next step has its turn.
+void Tour::next() {
+    if (at_ == steps_.size()) {
+        finished_({});
+        return;
+    }
+    const TourStep& step = steps_.at(at_);
+    if (step.ready()) {
+        step.act();
+        ++at_;
+        waiting_.restart();
+        QTimer::singleShot(0, this, [this] { next(); });
+    } else if (waiting_.elapsed() > kPatience) {
+        finished_("step " + QString::number(at_ + 1) + " could not be done: " + step.name);
+    } else {
+        QTimer::singleShot(kLookAgain, this, [this] { next(); });
+    }
+}
+
+// What takes keys and mouse now.
+QWidget* Tour::front() const {
+    if (QWidget* box = openBox())
+        return box;
+    const Page* page = shell_.front();
+    return page && page->isVisible() ? &page->pageWindow() : nullptr;
+}
+
+// Null while a box is open.
+const Screen* Tour::screen() const {
+    const Page* page = shell_.front();
+    return page && page->isVisible() && !openBox() ? page->screen() : nullptr;
+}
+
+QWidget* Tour::control(const QString& id) const {
+    const Page* page = screen() ? shell_.front() : nullptr;
+    QWidget* found = page ? page->findChild<QWidget*>(id) : nullptr;
+    return found && found->isVisible() ? found : nullptr;
+}
+
+TourStep Tour::waitFor(const QString& name) const {
+    return {"wait for " + name,
+            [this, name] { return screen() && screen()->name == name.toStdString(); }, [] {}};
+}
+
+TourStep Tour::waitForBox() const {
+    return {"wait for a box", [] { return openBox() != nullptr; }, [] {}};
+}
+
+TourStep Tour::waitForLine(const QString& id, Twips reach) const {
+    const auto reaches = [this, id, reach] {
+        const Line* line = find<Line>(screen(), id);
+        return line && line->x2 >= reach;
+    };
+    return {id + " grows", reaches, [] {}};
+}
+
+TourStep Tour::waitUntilShown(const QString& id) const {
+    return {"wait until " + id + " is shown", [this, id] { return control(id) != nullptr; }, [] {}};
+}
+
+TourStep Tour::waitForRest(const QStringList& ids) const {
+    const auto rests = [this, ids] {
+        const Screen* front = screen();
+        return front && std::ranges::none_of(front->timers(), [&](const Timer* timer) {
+                   return timer->enabled && ids.contains(QString::fromStdString(timer->id));
+               });
+    };
+    return {"wait for the rest of " + ids.join(", "), rests, [] {}};
+}
+
+TourStep Tour::expect(const QString& id, const QString& text) const {
+    const auto shows = [this, id, text] {
+        const Label* label = find<Label>(screen(), id);
+        return label && toQt(label->caption).contains(text);
+    };
+    return {id + " shows \"" + text + "\"", shows, [] {}};
+}
+
+TourStep Tour::key(int key, Qt::KeyboardModifiers modifiers) const {
+    return {"press a key", [this] { return front() != nullptr; },
+            [this, key, modifiers] { postKey(*front(), key, modifiers, {}); }};
+}
+
+TourStep Tour::type(const QString& character) const {
+    return {"type " + character, [this] { return front() != nullptr; },
+            [this, character] {
+                const int code = character.at(0).toUpper().unicode();
+                postKey(*front(), code, Qt::NoModifier, character);
+            }};
+}
+
+TourStep Tour::moveTo(const QString& id) const {
+    return {"move to " + id, [this, id] { return control(id) != nullptr; },
+            [this, id] { moveOnto(*control(id)); }};
+}
+
+TourStep Tour::moveAway() const {
+    return {"move away", [this] { return front() != nullptr; },
+            [this] {
+                postMouse(*front(), QEvent::MouseMove, {2, 2}, Qt::NoButton, Qt::NoButton);
+            }};
+}
+
+TourStep Tour::press(const QString& id) const {
+    return {"press " + id, [this, id] { return control(id) != nullptr; },
+            [this, id] {
+                QWidget& widget = *control(id);
+                moveOnto(widget);
+                postMouse(widget, QEvent::MouseButtonPress, widget.rect().center(), Qt::LeftButton,
+                          Qt::LeftButton);
+            }};
+}
+
+TourStep Tour::release(const QString& id) const {
+    return {"release " + id, [this, id] { return control(id) != nullptr; },
+            [this, id] {
+                QWidget& widget = *control(id);
+                postMouse(widget, QEvent::MouseButtonRelease, widget.rect().center(),
+                          Qt::LeftButton, Qt::NoButton);
+            }};
+}
+
+TourStep Tour::closeWindow() const {
+    return {"close the window", [this] { return front() != nullptr; },
+            [this] { QMetaObject::invokeMethod(front(), &QWidget::close, Qt::QueuedConnection); }};
+}
+
+TourStep Tour::picture(const QString& name) {
+    return {"picture " + name, [this] { return front() != nullptr; }, [this, name] { save(name); }};
+}
+
+QString Tour::pictureFile(const QString& name) {
+    const QString number = QString::number(++pictures_).rightJustified(2, '0');
+    return QDir(folder_).absoluteFilePath(number + '-' + name + ".png");
+}
+
+QList<QWidget*> Tour::windowsFromBack() const {
     QList<QWidget*> shown;
     for (QWidget* window : QApplication::topLevelWidgets())
         if (window->isVisible() && window->windowType() != Qt::ToolTip)
@@ -77,17 +238,8 @@ QList<QWidget*> windowsFromBack() {
     return shown;
 }
 
-// What a desktop does for a window in front of another one.
-void paintShadow(QPainter& painter, const QRect& window) {
-    constexpr int kReach = 9;
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0, 0, 0, 12));
-    for (int reach = 1; reach <= kReach; ++reach)
-        painter.drawRoundedRect(window.adjusted(-reach, -reach, reach, reach), reach, reach);
-}
-
 // The windows in front of each other, as they stand on the display.
-QPixmap grabAll() {
+QPixmap Tour::grabAll() const {
     QRect extent;
     const QList<QWidget*> windows = windowsFromBack();
     for (const QWidget* window : windows)
@@ -108,122 +260,12 @@ QPixmap grabAll() {
     return picture;
 }
 
-}  // namespace
-
-Tour::Tour(QString folder, std::function<void(QString)> finished)
-    : folder_(std::move(folder)), finished_(std::move(finished)) {}
-
-void Tour::start(std::vector<TourStep> steps) {
-    steps_ = std::move(steps);
-    waiting_.start();
-    QTimer::singleShot(kPause, this, [this] { next(); });
-}
-
-// Steps only post events, so that a box which an event opens does not hold the
-// tour up.
-void Tour::next() {
-    if (at_ == steps_.size()) {
-        finished_({});
-        return;
-    }
-    const TourStep& step = steps_.at(at_);
-    if (step.ready()) {
-        step.act();
-        ++at_;
-        waiting_.restart();
-        const int pause = at_ < steps_.size() ? steps_.at(at_).pause : 0;
-        QTimer::singleShot(pause, this, [this] { next(); });
-    } else if (waiting_.elapsed() > kPatience) {
-        finished_("step " + QString::number(at_ + 1) + " could not be done: " + step.name);
-    } else {
-        QTimer::singleShot(kLookAgain, this, [this] { next(); });
-    }
-}
-
-TourStep Tour::waitFor(const QString& window) const {
-    return {"wait for " + window, kPause,
-            [window] { return front() && front()->objectName() == window; }, [] {}};
-}
-
-TourStep Tour::waitForBox() const {
-    return {"wait for a box", kPause,
-            [] { return QApplication::activeModalWidget() || QApplication::activePopupWidget(); },
-            [] {}};
-}
-
-TourStep Tour::key(int key, Qt::KeyboardModifiers modifiers) const {
-    return {"press a key", kPause, [] { return front() != nullptr; },
-            [key, modifiers] { postKey(*front(), key, modifiers, {}); }};
-}
-
-TourStep Tour::type(const QString& character) const {
-    return {"type " + character, kPause, [] { return front() != nullptr; },
-            [character] {
-                const int code = character.at(0).toUpper().unicode();
-                postKey(*front(), code, Qt::NoModifier, character);
-            }};
-}
-
-TourStep Tour::moveTo(const QString& id) const {
-    return {"move to " + id, kPause, [id] { return control(id) != nullptr; },
-            [id] { moveOnto(*control(id)); }};
-}
-
-TourStep Tour::moveAway() const {
-    return {"move away", kPause, [] { return front() != nullptr; },
-            [] {
-                postMouse(*front(), QEvent::MouseMove, {2, 2}, Qt::NoButton, Qt::NoButton);
-            }};
-}
-
-TourStep Tour::press(const QString& id) const {
-    return {"press " + id, kPause, [id] { return control(id) != nullptr; },
-            [id] {
-                QWidget& widget = *control(id);
-                moveOnto(widget);
-                postMouse(widget, QEvent::MouseButtonPress, widget.rect().center(), Qt::LeftButton,
-                          Qt::LeftButton);
-            }};
-}
-
-TourStep Tour::release(const QString& id) const {
-    return {"release " + id, kPause, [id] { return control(id) != nullptr; },
-            [id] {
-                QWidget& widget = *control(id);
-                postMouse(widget, QEvent::MouseButtonRelease, widget.rect().center(),
-                          Qt::LeftButton, Qt::NoButton);
-            }};
-}
-
-TourStep Tour::expect(const QString& id, const QString& text) const {
-    const auto shows = [id, text] {
-        const auto* label = dynamic_cast<const LabelView*>(control(id));
-        return label && toQt(label->label().caption).contains(text);
-    };
-    return {id + " shows \"" + text + "\"", 0, shows, [] {}};
-}
-
-TourStep Tour::closeWindow() const {
-    return {"close the window", kPause, [] { return front() != nullptr; },
-            [] { QMetaObject::invokeMethod(front(), &QWidget::close, Qt::QueuedConnection); }};
-}
-
-TourStep Tour::picture(const QString& name, int pause) {
-    return {"picture " + name, pause, [] { return front() != nullptr; },
-            [this, name] { save(name); }};
-}
-
-QString Tour::pictureFile(const QString& name) {
-    const QString number = QString::number(++pictures_).rightJustified(2, '0');
-    return QDir(folder_).absoluteFilePath(number + '-' + name + ".png");
-}
-
 void Tour::save(const QString& name) {
     const QString file = pictureFile(name);
     if (grabAll().save(file))
         std::printf("%s\n", file.toLocal8Bit().constData());
     else
-        steps_.push_back({"write " + file, 0, [] { return false; }, [] {}});
+        steps_.push_back({"write " + file, [] { return false; }, [] {}});
 }
 
 }  // namespace quillor

@@ -4,36 +4,50 @@
 
 #include <QElapsedTimer>
 #include <QObject>
+#include <QPixmap>
 #include <QPoint>
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include <vector>
+
+#include "toolkit/screen.h"
 
 class QWidget;
 
 namespace quillor {
 
+class Shell;
+
 /// One thing that the tour waits for, and then does.
 struct TourStep {
     QString name;  // for the complaint when it cannot be done
-    int pause;     // ms between the step before it and this one
     std::function<bool()> ready;
     std::function<void()> act;
 };
 
-/// Runs a list of steps beside the program's own events. A step that is not
-/// ready within some seconds ends the tour with a complaint.
+/// Runs a list of steps beside the program's own events, each as soon as it is
+/// ready. One that is not ready for long ends the tour with a complaint. It asks
+/// for no active window: on some desktops there is none without a keyboard.
 class Tour : public QObject {
   public:
     /// Pictures go into `folder`, numbered in their order. `finished` is told
     /// how the tour went; an empty text is well.
-    Tour(QString folder, std::function<void(QString)> finished);
+    Tour(const Shell& shell, QString folder, std::function<void(QString)> finished);
 
     void start(std::vector<TourStep> steps);
 
-    // What a script is made of. Controls are named by their ids and looked for
-    // in the window in front.
-    TourStep waitFor(const QString& window) const;
+    // What a script is made of. Controls and timers are named by their ids and
+    // looked for on the screen in front.
+    TourStep waitFor(const QString& screen) const;
+    TourStep waitForBox() const;
+    /// Until the line reaches as far as that, in twips.
+    TourStep waitForLine(const QString& id, Twips reach) const;
+    TourStep waitUntilShown(const QString& id) const;
+    /// Until what these timers move has come to its end.
+    TourStep waitForRest(const QStringList& timers) const;
+    /// Until a label's caption contains the text.
+    TourStep expect(const QString& id, const QString& text) const;
     TourStep key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
     TourStep type(const QString& character) const;
     TourStep moveTo(const QString& id) const;
@@ -41,17 +55,20 @@ class Tour : public QObject {
     TourStep moveAway() const;
     TourStep press(const QString& id) const;
     TourStep release(const QString& id) const;
-    /// Waits until a label's caption contains the text.
-    TourStep expect(const QString& id, const QString& text) const;
-    TourStep waitForBox() const;
     TourStep closeWindow() const;
-    TourStep picture(const QString& name, int pause = 350);
+    TourStep picture(const QString& name);
 
   private:
+    QWidget* front() const;
+    QWidget* control(const QString& id) const;
+    const Screen* screen() const;
     void next();
+    QPixmap grabAll() const;
+    QList<QWidget*> windowsFromBack() const;
     void save(const QString& name);
     QString pictureFile(const QString& name);
 
+    const Shell& shell_;
     QString folder_;
     std::function<void(QString)> finished_;
     std::vector<TourStep> steps_;

@@ -36,7 +36,8 @@ constexpr Words kEnglishWords{"route 66 tour",
                               "lm",
                               "fruits",
                               {"pear", "green grape", "peach"}};
-constexpr int kDesignWithClock = 3;  // from this one on the games are against the clock
+constexpr Twips kHalfOfStart = 3860;  // where the start screen's line ends then
+constexpr int kDesignWithClock = 3;   // from this one on the games are against the clock
 
 /// Adds steps to a list, one part of the tour at a time.
 class Script {
@@ -58,7 +59,12 @@ class Script {
 
   private:
     void add(TourStep step) { steps_.push_back(std::move(step)); }
-    void picture(const QString& name, int pause = 350) { add(tour_.picture(name, pause)); }
+    void picture(const QString& name) { add(tour_.picture(name)); }
+    // Flashes of colour and moving points have come to their end.
+    void pictureAtRest(const QString& name) {
+        add(tour_.waitForRest({"tmrColor", "tmrDead", "tmrUp", "tmrScore"}));
+        picture(name);
+    }
     void key(int code, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         add(tour_.key(code, modifiers));
     }
@@ -77,14 +83,15 @@ class Script {
 
     void startAndMenu() {
         add(tour_.waitFor("frmStart"));
-        picture("start", 400);
+        add(tour_.waitForLine("lnGo", kHalfOfStart));
+        picture("start");
         add(tour_.waitFor("frmMenu"));
         add(tour_.moveAway());
         picture("menu");
         add(tour_.moveTo("lblOption(5)"));
-        picture("menu-hover", 150);
+        picture("menu-hover");
         add(tour_.press("lblOption(5)"));
-        picture("menu-pressed", 150);
+        picture("menu-pressed");
         add(tour_.moveTo("imgBack"));
         add(tour_.release("imgBack"));
     }
@@ -102,14 +109,14 @@ class Script {
         picture("classic-entry");
         key(Qt::Key_Return);
         add(tour_.waitFor("frmGame"));
-        picture("game-with-first-letter", 600);
+        pictureAtRest("game-with-first-letter");
         add(tour_.moveTo("lblKey(19)"));
-        picture("key-hover", 150);
+        picture("key-hover");
         add(tour_.press("lblKey(19)"));
-        picture("key-pressed", 150);
+        picture("key-pressed");
         add(tour_.release("lblKey(19)"));
         click("lblKey(38)");
-        picture("game-digits");
+        pictureAtRest("game-digits");
         type(words_.restOfIt);
         expect("lblStatus", texts::kVictory);
         picture("classic-victory");
@@ -133,7 +140,7 @@ class Script {
         key(Qt::Key_Return);
         add(tour_.waitFor("frmGame"));
         type("lxyz");
-        picture("game-three-mistakes", 700);
+        pictureAtRest("game-three-mistakes");
         key(Qt::Key_Menu);
         add(tour_.waitForBox());
         picture("game-menu");
@@ -141,9 +148,9 @@ class Script {
         add(tour_.waitFor("frmGame"));
         type("wvk");
         expect("lblStatus", texts::kDead);
-        picture("dead", 250);
-        // The score has been counted down and pulses.
-        add(tour_.picture("low-score", 4600));
+        add(tour_.waitUntilShown("lblPoints"));
+        picture("dead");
+        pictureAtRest("low-score");
     }
 
     void wonGame() {
@@ -156,8 +163,9 @@ class Script {
         type(words_.answer);
         key(Qt::Key_Return);
         expect("lblStatus", texts::kVictory);
-        picture("victory-with-bonus", 250);
-        picture("victory", 4500);
+        add(tour_.waitUntilShown("lblBonus"));
+        picture("victory-with-bonus");
+        pictureAtRest("victory");
     }
 
     void hiddenLetters() {
@@ -166,7 +174,7 @@ class Script {
         key(Qt::Key_Return);
         add(tour_.waitFor("frmGame"));
         type(words_.letters);
-        picture("game-hidden-letters", 600);
+        pictureAtRest("game-hidden-letters");
         key(Qt::Key_O, Qt::ControlModifier);
         key(Qt::Key_F2);
         add(tour_.waitForBox());
@@ -211,7 +219,7 @@ class Script {
         key(Qt::Key_Return);
         add(tour_.waitFor("frmGame"));
         type(words_.letters);
-        picture("game-" + design, 600);
+        pictureAtRest("game-" + design);
         key(Qt::Key_F2);
         add(tour_.waitForBox());
         key(Qt::Key_Return);

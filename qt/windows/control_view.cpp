@@ -59,11 +59,20 @@ void ControlView::syncPlace(const TwipScale& scale) {
     if (!(scale == scale_))
         own.update();
     scale_ = scale;
-    QRect place = scale.place(extent());
+    const auto placed = [&](const QRectF& twips, bool ground) {
+        return ground ? scale.groundPlace(twips) : scale.place(twips);
+    };
+    QRect place = placed(extent(), hasGround());
     if (control_.parent)
-        place.translate(-scale.place(screenRect(*control_.parent)).topLeft());
+        place.translate(-placed(screenRect(*control_.parent), control_.parent->opaque).topLeft());
     if (place != own.geometry())
         own.setGeometry(place);
+}
+
+QRectF ControlView::ownPlace() const {
+    const QRectF twips = extent();
+    const QPointF corner = scale_.origin + twips.topLeft() * scale_.pixels;
+    return QRectF(corner - scale_.groundPlace(twips).topLeft(), twips.size() * scale_.pixels);
 }
 
 void ControlView::syncWords() {

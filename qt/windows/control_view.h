@@ -38,7 +38,12 @@ class ControlView {
     /// On the screen, in twips.
     virtual QRectF extent() const { return screenRect(control_); }
     virtual QString spokenName() const;
+    /// Whether it fills its place with a ground of its own.
+    virtual bool hasGround() const { return false; }
 
+    /// Where the control lies in its widget, in pixels: all over, unless its
+    /// ground goes on to the window's edges.
+    QRectF ownPlace() const;
     double pixelsPerTwip() const { return scale_.pixels; }
     ScreenLink& link() const { return link_; }
 

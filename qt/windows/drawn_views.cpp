@@ -100,8 +100,8 @@ void PictureView::syncLook() {
 void PictureView::paintEvent(QPaintEvent* event) {
     const double density = devicePixelRatioF();
     const auto& [image, drawing] = shown_;
-    const QPixmap& pixmap =
-        link().shell().papers.filling({image, drawing, size(), density, pixelsPerTwip()});
+    const QPixmap& pixmap = link().shell().papers.filling(
+        {image, drawing, size(), density, pixelsPerTwip(), ownPlace()});
     QPainter painter(this);
     const QRectF part = event->rect();
     painter.drawPixmap(part, pixmap, QRectF(part.topLeft() * density, part.size() * density));

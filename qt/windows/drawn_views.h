@@ -16,6 +16,7 @@ class ShapeView : public QWidget, public ControlView {
 
   protected:
     void syncLook() override;
+    bool hasGround() const override { return shape_.filled; }
     void paintEvent(QPaintEvent* event) override;
 
   private:
@@ -47,6 +48,7 @@ class PictureView : public QWidget, public ControlView {
 
   protected:
     void syncLook() override;
+    bool hasGround() const override { return true; }
     void paintEvent(QPaintEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -66,6 +68,7 @@ class FrameView : public QWidget, public ControlView {
 
   protected:
     void syncLook() override;
+    bool hasGround() const override { return frame_.opaque; }
     void paintEvent(QPaintEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;

@@ -6,8 +6,8 @@
 #include "qt/windows/key_mapping.h"
 #include "qt/windows/label_views.h"
 #include "qt/windows/list_view.h"
+#include "qt/windows/page.h"
 #include "qt/windows/qt_values.h"
-#include "qt/windows/screen_window.h"
 #include "toolkit/caption.h"
 
 namespace quillor {
@@ -34,13 +34,13 @@ void KeyRouter::press(QKeyEvent& event, Screen& screen) {
     screen.keyDown(key);
     if (key.handled || !link_.isOpen())
         return;
-    ControlView* view = window_.focusedView();
+    ControlView* view = page_.focusedView();
     if (handledByControl(view, event, screen) || !link_.isOpen())
         return;
     if (pressAccessKey(event))
         return;
     if (isTab(event))
-        window_.focusNextPrevChild(event.key() == Qt::Key_Tab);
+        page_.focusNextPrevChild(event.key() == Qt::Key_Tab);
     else if (auto* field = dynamic_cast<FieldView*>(view))
         field->type(event);
     else if (!pressButton(view, event)) {
@@ -69,7 +69,7 @@ bool KeyRouter::pressAccessKey(const QKeyEvent& event) {
     const QString typed = letter ? QString(QChar(event.key())) : event.text();
     if (typed.size() != 1)
         return false;
-    for (ControlView* view : window_.views()) {
+    for (ControlView* view : page_.views()) {
         auto* label = dynamic_cast<LabelView*>(view);
         if (!label || !label->isPressable())
             continue;

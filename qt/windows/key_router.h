@@ -9,11 +9,11 @@
 namespace quillor {
 
 class ControlView;
-class ScreenWindow;
+class Page;
 
 class KeyRouter {
   public:
-    KeyRouter(ScreenWindow& window, ScreenLink& link) : window_(window), link_(link) {}
+    KeyRouter(Page& page, ScreenLink& link) : page_(page), link_(link) {}
 
     void press(QKeyEvent& event);
     /// Text of an input method, typed while no text field has the focus.
@@ -26,7 +26,7 @@ class KeyRouter {
     bool pressButton(ControlView* view, QKeyEvent& event);
     void typeOnScreen(const QString& text, Screen& screen);
 
-    ScreenWindow& window_;
+    Page& page_;
     ScreenLink& link_;
 };
 

@@ -24,6 +24,7 @@ class LabelView : public ControlView {
 
     void syncLook() override;
     QString spokenName() const override;
+    bool hasGround() const override { return label_.opaque; }
     void paint(QPainter& painter);
     const LabelLook& look() const { return look_; }
     /// The caption or the check has changed.

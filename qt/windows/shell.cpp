@@ -1,10 +1,11 @@
-// What follows an event: windows are brought in step, shown, hidden and destroyed.
+// What follows an event: pages are brought in step, shown, hidden and destroyed.
 #include "qt/windows/shell.h"
 
 #include <QCoreApplication>
 #include <algorithm>
+#include <ranges>
 
-#include "qt/windows/screen_window.h"
+#include "qt/windows/page_window.h"
 
 namespace quillor {
 
@@ -15,48 +16,48 @@ constexpr int kMostRounds = 8;
 
 }  // namespace
 
-Shell::~Shell() {
-    for (ScreenWindow* window : windows_)
-        delete window;
-    for (ScreenWindow* window : closed_)
-        delete window;
+Shell::Shell(const FontBook& fontBook) : fonts(fontBook) {}
+
+Shell::~Shell() = default;
+
+Page* Shell::find(const Screen* screen) const {
+    const auto shows = [screen](const Page* page) { return page->screen() == screen; };
+    const auto found = std::ranges::find_if(pages_, shows);
+    return found == pages_.end() ? nullptr : *found;
 }
 
-ScreenWindow* Shell::find(const Screen* screen) const {
-    for (ScreenWindow* window : windows_)
-        if (window->screen() == screen)
-            return window;
-    return nullptr;
+Page* Shell::front() const {
+    for (Page* page : pages_ | std::views::reverse)
+        if (page->screen()->enabled)
+            return page;
+    return pages_.empty() ? nullptr : pages_.back();
 }
 
-ScreenWindow* Shell::findOver(const Screen& screen) const {
-    for (ScreenWindow* window : windows_)
-        if (window->over() == &screen)
-            return window;
-    return nullptr;
-}
-
-ScreenWindow* Shell::front() const {
-    for (ScreenWindow* window : windows_)
-        if (window->isActiveWindow())
-            return window;
-    return windows_.empty() ? nullptr : windows_.back();
+PageWindow& Shell::windowFor(const Screen& screen) {
+    const Page* below = screen.over ? find(screen.over) : nullptr;
+    if (below)
+        return *dialogs_.emplace_back(new PageWindow(*this, &below->pageWindow()));
+    if (!window_)
+        window_ = std::make_unique<PageWindow>(*this);
+    return *window_;
 }
 
 void Shell::show(Screen& screen) {
-    if (ScreenWindow* window = find(&screen))
-        window->comeToFront();
+    Page* page = find(&screen);
+    if (page)
+        std::erase(pages_, page);
     else
-        windows_.push_back(new ScreenWindow(*this, screen));
+        page = new Page(*this, screen, windowFor(screen));
+    pages_.push_back(page);
 }
 
 void Shell::close(Screen& screen) {
-    ScreenWindow* window = find(&screen);
-    if (!window)
+    Page* page = find(&screen);
+    if (!page)
         return;
-    std::erase(windows_, window);
-    window->detach();
-    closed_.push_back(window);
+    std::erase(pages_, page);
+    page->detach();
+    closed_.push_back(page);
 }
 
 void Shell::end() {
@@ -71,51 +72,60 @@ void Shell::settle() {
         again_ = true;
         return;
     }
-    syncWindows();
-    presentWindows();
+    refresh();
     if (depth_ > 0)
         return;
-    // The widget whose event this was is still on the stack.
-    for (ScreenWindow* window : std::exchange(closed_, {}))
-        window->deleteLater();
+    deleteClosed();
     if (onIdle)
         onIdle();
 }
 
-void Shell::syncWindows() {
+void Shell::refresh() {
     syncing_ = true;
     int rounds = 0;
     do {
         again_ = false;
-        // By index: moving the focus runs handlers, which may open windows.
-        for (std::size_t i = 0; i < windows_.size(); ++i)
-            windows_[i]->sync();
+        // By index: moving the focus runs handlers, which may open screens.
+        for (std::size_t i = 0; i < pages_.size(); ++i)
+            pages_[i]->sync();
+        turnPages();
     } while (again_ && ++rounds < kMostRounds);
     syncing_ = false;
 }
 
-// New windows appear before closed ones go, so that no desktop shines through.
-void Shell::presentWindows() {
-    for (const auto& group : {closed_, windows_})
-        for (const ScreenWindow* window : group)
-            if (window->isPresented() && window->isLarge())
-                place_ = window->windowPlace();
-    for (std::size_t i = 0; i < windows_.size(); ++i) {
-        ScreenWindow& window = *windows_[i];
-        if (!window.isPresented())
-            window.present(place_, find(window.over()));
-    }
-    for (ScreenWindow* window : closed_)
-        window->hide();
+// In each window the page that was opened last is on show.
+void Shell::turnPages() {
+    const auto turn = [this](PageWindow& window) {
+        const auto inIt = [&](const Page* page) { return &page->pageWindow() == &window; };
+        const auto last = std::ranges::find_if(pages_.rbegin(), pages_.rend(), inIt);
+        window.turnTo(last == pages_.rend() ? nullptr : *last);
+    };
+    if (window_)
+        turn(*window_);
+    for (std::size_t i = 0; i < dialogs_.size(); ++i)
+        turn(*dialogs_[i]);
+}
+
+// Later: the widget whose event this was is still on the stack.
+void Shell::deleteClosed() {
+    for (Page* page : std::exchange(closed_, {}))
+        page->deleteLater();
+    std::erase_if(dialogs_, [](PageWindow* dialog) {
+        if (dialog->page())
+            return false;
+        dialog->deleteLater();
+        return true;
+    });
 }
 
 void Shell::showNow() {
     if (ended_ || syncing_)
         return;
-    syncWindows();
-    presentWindows();
-    for (ScreenWindow* window : windows_)
-        window->repaint();
+    refresh();
+    if (window_)
+        window_->repaint();
+    for (PageWindow* dialog : dialogs_)
+        dialog->repaint();
 }
 
 }  // namespace quillor

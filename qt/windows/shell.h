@@ -2,24 +2,23 @@
 // each the windows show what has become of their screens.
 #pragma once
 
-#include <QColor>
 #include <functional>
-#include <optional>
+#include <memory>
 #include <utility>
 #include <vector>
 
 #include "qt/paint/font_book.h"
 #include "qt/paint/paper.h"
-#include "qt/windows/window_place.h"
 #include "toolkit/screen.h"
 
 namespace quillor {
 
-class ScreenWindow;
+class Page;
+class PageWindow;
 
 class Shell {
   public:
-    explicit Shell(const FontBook& fontBook) : fonts(fontBook) {}
+    explicit Shell(const FontBook& fontBook);
     ~Shell();
     Shell(const Shell&) = delete;
     Shell& operator=(const Shell&) = delete;
@@ -54,18 +53,18 @@ class Shell {
     /// until the mouse is.
     bool showsFocus = false;
 
-    /// The windows appear, and disappear, at the end of the event.
+    /// Pages and windows appear, and disappear, at the end of the event.
     void show(Screen& screen);
     void close(Screen& screen);
-    ScreenWindow* find(const Screen* screen) const;
-    /// The window of the screen that stands over the given one; null: none.
-    ScreenWindow* findOver(const Screen& screen) const;
+    /// Null when the screen is not open.
+    Page* find(const Screen* screen) const;
     bool isOpen(const Screen& screen) const { return find(&screen) != nullptr; }
 
-    /// The window that a box stands over: the active one, or the one opened last.
-    ScreenWindow* front() const;
+    /// The page that takes the player's input, whose window a box stands over;
+    /// null: none is open.
+    Page* front() const;
 
-    /// Brings all windows in step with their screens, and onto the display.
+    /// Brings all pages in step with their screens, and onto the display.
     void showNow();
 
     /// Something that runs an event loop of its own inside a handler: a box or
@@ -91,13 +90,16 @@ class Shell {
         int outer;
     };
 
+    PageWindow& windowFor(const Screen& screen);
     void settle();
-    void syncWindows();
-    void presentWindows();
+    void refresh();
+    void turnPages();
+    void deleteClosed();
 
-    std::vector<ScreenWindow*> windows_;  // in the order of their opening
-    std::vector<ScreenWindow*> closed_;   // until no handler is running
-    std::optional<WindowPlace> place_;    // of the large window that was shown last
+    std::vector<Page*> pages_;            // in the order of their opening
+    std::vector<Page*> closed_;           // until no handler is running
+    std::vector<PageWindow*> dialogs_;    // until they have no page
+    std::unique_ptr<PageWindow> window_;  // of all screens that stand over no other
     int depth_ = 0;
     int base_ = 0;  // the depth at which the innermost box or menu was opened
     bool byKey_ = false;

@@ -6,12 +6,14 @@
 
 namespace quillor {
 
-TwipScale TwipScale::fitting(QSizeF twips, QSizeF space) {
+TwipScale TwipScale::fitting(QSizeF sheet, QSizeF twips, QSize window) {
     TwipScale scale;
-    scale.pixels = std::min(space.width() / twips.width(), space.height() / twips.height());
+    scale.pixels = std::min(window.width() / sheet.width(), window.height() / sheet.height());
     // Whole pixels, so that the screen's first column is sharp.
-    scale.origin = {std::floor((space.width() - twips.width() * scale.pixels) / 2),
-                    std::floor((space.height() - twips.height() * scale.pixels) / 2)};
+    scale.origin = {std::floor((window.width() - twips.width() * scale.pixels) / 2),
+                    std::floor((window.height() - twips.height() * scale.pixels) / 2)};
+    scale.screen = twips;
+    scale.window = window;
     return scale;
 }
 
@@ -25,6 +27,19 @@ QRect TwipScale::place(const QRectF& twips) const {
     const int left = x(twips.left());
     const int top = y(twips.top());
     return QRect(left, top, x(twips.right()) - left, y(twips.bottom()) - top);
+}
+
+QRect TwipScale::groundPlace(const QRectF& twips) const {
+    QRect reached = place(twips);
+    if (twips.left() <= 0 && twips.right() >= screen.width()) {
+        reached.setLeft(0);
+        reached.setWidth(window.width());
+    }
+    if (twips.top() <= 0 && twips.bottom() >= screen.height()) {
+        reached.setTop(0);
+        reached.setHeight(window.height());
+    }
+    return reached;
 }
 
 QPointF parentOrigin(const Control& control) {

@@ -14,13 +14,19 @@ namespace quillor {
 struct TwipScale {
     double pixels = 0.1;  // a twip's
     QPointF origin;       // of the screen in the window
+    QSizeF screen;        // its size in twips
+    QSize window;
 
-    /// The largest scale at which `twips` fits into `space`, centred.
-    static TwipScale fitting(QSizeF twips, QSizeF space);
+    /// The largest scale at which `sheet` twips fit into the window, with a
+    /// screen of `twips`, which may be smaller, in the middle.
+    static TwipScale fitting(QSizeF sheet, QSizeF twips, QSize window);
 
     /// Each edge is rounded by itself, so that controls that touch in twips
     /// touch in pixels. `twips` is relative to the screen.
     QRect place(const QRectF& twips) const;
+    /// The place of something with a ground of its own. When that reaches from
+    /// one edge of the screen to the opposite one, it goes on to the window's edges.
+    QRect groundPlace(const QRectF& twips) const;
 
     bool operator==(const TwipScale&) const = default;
 };

@@ -78,7 +78,7 @@ TEST_F(Accessibility, NamesFieldsAndWindows) {
     TextField field;
     addField(field, "txtWord", 0, 0).spokenName = u"Phrase";
     screen.title = u"Entry";
-    ScreenWindow& window = open();
+    PageWindow& window = open();
     EXPECT_EQ(spoken(field).role(), QAccessible::EditableText);
     EXPECT_EQ(spoken(field).text(QAccessible::Name), "Phrase");
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&window)->text(QAccessible::Name), "Entry");

@@ -56,7 +56,7 @@ TEST_F(Focus, GoesToTheScreensFirstChoiceWhenItsControlIsHidden) {
 
 TEST_F(Focus, GoesToTheWindowWhenNothingElseIsLeft) {
     screen.firstFocus = &below;
-    ScreenWindow& window = open();
+    PageWindow& window = open();
     shell.event([&] { below.enabled = false; });
     EXPECT_EQ(focused(), "");
     ASSERT_NE(window.focusWidget(), nullptr);

@@ -170,7 +170,7 @@ TEST_F(Keyboard, SurvivesAScreenThatClosesItselfInTheMiddle) {
         shell.close(screen);
         return c;
     };
-    ScreenWindow& window = open();
+    PageWindow& window = open();
     type('a');
     EXPECT_FALSE(shell.isOpen(screen));
     EXPECT_FALSE(window.isVisible());

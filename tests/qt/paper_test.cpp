@@ -16,7 +16,7 @@ constexpr double kPixelsPerTwip = 1.0 / 30;
 
 QImage page(const ImageRef& image, const char* drawing) {
     PaperCache papers;
-    return papers.filling({image, drawing, kSize, 1, kPixelsPerTwip}).toImage();
+    return papers.filling({image, drawing, kSize, 1, kPixelsPerTwip, {}}).toImage();
 }
 
 ImageRef picture(QSize size) {
@@ -42,14 +42,41 @@ TEST(Paper, GivesWayToThePlayersPicture) {
 
 TEST(Paper, FillsEveryDensity) {
     PaperCache papers;
-    const QPixmap& sharp = papers.filling({nullptr, style::kMenuDrawing, kSize, 2, kPixelsPerTwip});
+    const QPixmap& sharp =
+        papers.filling({nullptr, style::kMenuDrawing, kSize, 2, kPixelsPerTwip, {}});
     EXPECT_EQ(sharp.size(), kSize * 2);
     EXPECT_EQ(sharp.devicePixelRatio(), 2);
 }
 
+TEST(Paper, KeepsADrawingInItsPlaceAndGoesOnAroundIt) {
+    PaperCache papers;
+    const QRect place({90, 60}, kSize);
+    const QSize wide(kSize.width() + 180, kSize.height() + 60);
+    const auto wish = [&](const char* drawing) {
+        return PaperCache::Wish{nullptr, drawing, wide, 1, kPixelsPerTwip, place};
+    };
+    const QImage drawn = papers.filling(wish(style::kMenuDrawing)).toImage();
+    const QImage plain = papers.filling(wish("")).toImage();
+    EXPECT_NE(drawn.copy(place), plain.copy(place));
+    EXPECT_EQ(drawn.copy(0, 0, place.left(), wide.height()),
+              plain.copy(0, 0, place.left(), wide.height()));
+    EXPECT_EQ(drawn.copy(place.right() + 1, 0, 90, wide.height()),
+              plain.copy(place.right() + 1, 0, 90, wide.height()));
+}
+
+TEST(Paper, RulesTheWholeOfAnyShape) {
+    PaperCache papers;
+    const QImage page =
+        papers.filling({nullptr, "", {600, 400}, 1, kPixelsPerTwip, {200, 50, 200, 300}}).toImage();
+    constexpr int kRule = 50 + 6;  // the first one on the screen, from its top
+    for (const int y : {kRule - 50, kRule, kRule + 300})
+        EXPECT_EQ(page.pixelColor(590, y), QColor(223, 233, 244)) << y;
+    EXPECT_EQ(page.pixelColor(590, kRule + 5), kPaperColor);
+}
+
 TEST(Paper, IsPaintedOnceForControlsOfOneSize) {
     PaperCache papers;
-    const PaperCache::Wish wish{nullptr, style::kIdleDrawing, kSize, 1, kPixelsPerTwip};
+    const PaperCache::Wish wish{nullptr, style::kIdleDrawing, kSize, 1, kPixelsPerTwip, {}};
     EXPECT_EQ(papers.filling(wish).cacheKey(), papers.filling(wish).cacheKey());
 }
 

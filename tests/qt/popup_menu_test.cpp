@@ -42,7 +42,7 @@ class PopUp : public ShellTest {
 TEST_F(PopUp, OpensBelowTheControlThatItIsAskedFor) {
     Label button;
     addButton(button, "lblMenu", 600, 300);
-    ScreenWindow& window = open();
+    PageWindow& window = open();
     QtDesktop desktop(shell, nullptr);
     testing::TempFolder folder;
     Program program(desktop, folder.path());

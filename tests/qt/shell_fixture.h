@@ -8,17 +8,18 @@
 
 #include <gtest/gtest.h>
 
-#include "qt/windows/screen_window.h"
+#include "qt/windows/page_window.h"
 #include "qt/windows/shell.h"
 #include "toolkit/screen.h"
+#include "toolkit/style.h"
 
 namespace quillor {
 
 class PlainScreen : public Screen {
   public:
     PlainScreen() : Screen("frmPlain") {
-        width = 6000;
-        height = 3000;
+        width = style::kScreenWidth;
+        height = style::kScreenHeight;
     }
     using Screen::add;
 
@@ -65,10 +66,10 @@ class ShellTest : public ::testing::Test {
         return field;
     }
 
-    ScreenWindow& open() { return open(screen); }
-    ScreenWindow& open(Screen& which) {
+    PageWindow& open() { return open(screen); }
+    PageWindow& open(Screen& which) {
         shell.event([&] { shell.show(which); });
-        ScreenWindow& window = *shell.find(&which);
+        PageWindow& window = shell.find(&which)->pageWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
         return window;
     }
@@ -86,8 +87,8 @@ class ShellTest : public ::testing::Test {
     }
     /// As the keyboard does it: to whatever has the focus in the window.
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}, const QString& text = {}) {
-        ScreenWindow* window = shell.find(&screen);
-        QWidget* target = window->focusWidget() ? window->focusWidget() : window;
+        Page* page = shell.find(&screen);
+        QWidget* target = page->focusWidget() ? page->focusWidget() : page;
         QTest::sendKeyEvent(QTest::Press, target, key, text, modifiers);
         QTest::sendKeyEvent(QTest::Release, target, key, text, modifiers);
     }

@@ -14,8 +14,8 @@ TEST_F(Windows, ShowTheTitleAndEveryControlInItsPlace) {
     Label button;
     addButton(button, "lbl", 3000, 1500);
     screen.title = u"Quillor | Prueba";
-    ScreenWindow& window = open();
-    window.resize(600, 300);
+    PageWindow& window = open();
+    window.resize(1320, 810);
     EXPECT_EQ(window.windowTitle(), "Quillor | Prueba");
     EXPECT_EQ(widgetOf(button).geometry(), QRect(300, 150, 90, 30));
     EXPECT_EQ(widgetOf(button).objectName(), "lbl");
@@ -24,8 +24,8 @@ TEST_F(Windows, ShowTheTitleAndEveryControlInItsPlace) {
 TEST_F(Windows, KeepTheScreensProportions) {
     Label button;
     addButton(button, "lbl", 0, 0);
-    ScreenWindow& window = open();
-    window.resize(1000, 300);
+    PageWindow& window = open();
+    window.resize(1720, 810);
     EXPECT_EQ(widgetOf(button).geometry(), QRect(200, 0, 90, 30));
 }
 
@@ -99,7 +99,7 @@ TEST_F(Windows, TakeNoMouseWhileTheScreenIsDisabled) {
 TEST_F(Windows, AskTheScreenBeforeTheyClose) {
     int asked = 0;
     screen.closeHandler = [&] { ++asked; };
-    ScreenWindow& window = open();
+    PageWindow& window = open();
     window.close();
     EXPECT_EQ(asked, 1);
     EXPECT_TRUE(window.isVisible());
@@ -108,7 +108,7 @@ TEST_F(Windows, AskTheScreenBeforeTheyClose) {
 TEST_F(Windows, DoNotCloseWhileABoxIsOpen) {
     int asked = 0;
     screen.closeHandler = [&] { ++asked; };
-    ScreenWindow& window = open();
+    PageWindow& window = open();
     shell.event([&] { shell.modally([&] { window.close(); }); });
     EXPECT_EQ(asked, 0);
 }
@@ -116,18 +116,19 @@ TEST_F(Windows, DoNotCloseWhileABoxIsOpen) {
 TEST_F(Windows, GoWhenTheirScreenClosesButNotInTheMiddleOfAnEvent) {
     int idle = 0;
     shell.onIdle = [&] { ++idle; };
-    QPointer<ScreenWindow> window = &open();
+    PageWindow& window = open();
+    QPointer<Page> page = window.page();
     idle = 0;
     shell.event([&] {
         shell.close(screen);
         shell.modally([&] { shell.event([] {}); });
         EXPECT_EQ(idle, 0);
-        EXPECT_FALSE(window->isVisible());
+        EXPECT_FALSE(window.isVisible());
     });
     EXPECT_EQ(idle, 1);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
-    EXPECT_TRUE(window.isNull());
+    EXPECT_TRUE(page.isNull());
 }
 
 TEST_F(Windows, ShowWhatATimerDoesWhileABoxIsOpen) {
@@ -152,31 +153,66 @@ TEST_F(Windows, DeliverNothingAfterTheEnd) {
 
 TEST_F(Windows, StandOverTheWindowOfTheirScreen) {
     PlainScreen above;
-    screen.width = 13200;
-    screen.height = 8100;
+    above.width = 6000;
+    above.height = 3000;
     above.over = &screen;
-    ScreenWindow& below = open();
-    ScreenWindow& window = open(above);
+    PageWindow& below = open();
+    PageWindow& window = open(above);
     EXPECT_EQ(window.windowType(), Qt::Dialog);
     EXPECT_EQ(window.windowHandle()->transientParent(), below.windowHandle());
-    EXPECT_NEAR(window.scale().pixels, below.scale().pixels, 0.001);
+    EXPECT_NEAR(window.page()->scale().pixels, below.page()->scale().pixels, 0.001);
     shell.event([&] { shell.close(above); });
 }
 
-TEST_F(Windows, HandTheirPlaceOnToTheNextLargeScreen) {
+TEST_F(Windows, ShowOneLargeScreenAfterTheOther) {
     PlainScreen next;
-    for (Screen* each : {static_cast<Screen*>(&screen), static_cast<Screen*>(&next)}) {
-        each->width = 13200;
-        each->height = 8100;
-    }
-    open().setGeometry(40, 50, 500, 300);
-    QCoreApplication::processEvents();
+    next.title = u"Quillor | Next";
+    PageWindow& window = open();
+    window.setGeometry(40, 50, 500, 300);
+    const WId native = window.winId();
+    Page& before = *window.page();
     shell.event([&] {
         shell.show(next);
         shell.close(screen);
     });
-    EXPECT_EQ(shell.find(&next)->geometry(), QRect(40, 50, 500, 300));
+    EXPECT_EQ(&shell.find(&next)->pageWindow(), &window);
+    EXPECT_EQ(window.winId(), native);
+    EXPECT_EQ(window.geometry(), QRect(40, 50, 500, 300));
+    EXPECT_EQ(window.windowTitle(), "Quillor | Next");
+    EXPECT_TRUE(window.page()->isVisible());
+    EXPECT_FALSE(before.isVisible());
     shell.event([&] { shell.close(next); });
+}
+
+TEST_F(Windows, ShowTheScreenBelowWhenTheOneOpenedLastCloses) {
+    PlainScreen next;
+    PageWindow& window = open();
+    shell.event([&] { shell.show(next); });
+    shell.event([&] { shell.close(next); });
+    EXPECT_EQ(window.page()->screen(), &screen);
+    EXPECT_TRUE(window.page()->isVisible());
+}
+
+TEST_F(Windows, ShowASmallScreenInTheScaleOfTheLargeOnes) {
+    Label button;
+    addButton(button, "lbl", 0, 0);
+    screen.width = 6600;
+    screen.height = 4050;
+    open().resize(1320, 810);
+    EXPECT_EQ(widgetOf(button).geometry(), QRect(330, 202, 90, 30));
+}
+
+TEST_F(Windows, KeepTheFocusOfAScreenThatIsCovered) {
+    TextField first;
+    TextField second;
+    addField(first, "txt1", 0, 0);
+    addField(second, "txt2", 0, 600);
+    PlainScreen next;
+    open();
+    shell.event([&] { screen.setFocus(second); });
+    shell.event([&] { shell.show(next); });
+    shell.event([&] { shell.close(next); });
+    EXPECT_EQ(focused(), "txt2");
 }
 
 TEST_F(Windows, RunTimersWhileTheyAreEnabled) {

@@ -1,0 +1,77 @@
+// One screen in a window, whichever it is: a widget for each control, the focus
+// among them, keys and timers.
+#pragma once
+
+#include <QWidget>
+#include <unordered_map>
+#include <vector>
+
+#include "qt/windows/control_view.h"
+#include "qt/windows/key_router.h"
+#include "qt/windows/screen_link.h"
+#include "qt/windows/timer_set.h"
+#include "qt/windows/twip_scale.h"
+
+namespace quillor {
+
+class PageWindow;
+
+class Page : public QWidget {
+  public:
+    /// Is shown by `window`, which is asked for it.
+    Page(Shell& shell, Screen& screen, PageWindow& window);
+    ~Page() override;
+
+    /// Null once the screen is closed.
+    const Screen* screen() const { return screen_; }
+    PageWindow& pageWindow() const { return window_; }
+    const TwipScale& scale() const { return scale_; }
+
+    /// Applies what has changed on the screen since the last call.
+    void sync();
+    /// It is on show from now on, and keys go to it, or no more.
+    void enter();
+    void leave();
+    /// The player closes the window; the screen decides what becomes of it.
+    void askToClose();
+    /// The screen is closing: nothing of it is touched any more.
+    void detach();
+
+    ControlView* focusedView() const;
+    ControlView* view(const Control& control) const;
+    const std::vector<ControlView*>& views() const { return views_; }
+    /// Moves the focus to the next control in reading order. Always succeeds.
+    bool focusNextPrevChild(bool next) override;
+
+    /// Keys, and the text of an input method, that no field has taken. Any widget
+    /// may have the focus; true: the event has been dealt with.
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    void makeViews();
+    void layOut();
+    void syncEnabled();
+    void syncFocus();
+    bool takesFocus() const { return entered_ && screen_->enabled; }
+    void keepFocus();
+    void giveFocus(const Control* control);
+
+    Screen* screen_;
+    PageWindow& window_;
+    ScreenLink link_;
+    std::vector<ControlView*> views_;  // as the screen adds its controls
+    std::unordered_map<const Control*, ControlView*> viewOf_;
+    KeyRouter keys_;
+    TimerSet timers_;
+    TwipScale scale_;
+    const Control* focused_;  // kept while the page takes no focus
+    bool entered_ = false;
+};
+
+}  // namespace quillor

@@ -1,0 +1,125 @@
+// The window's place and state are the player's: it is put somewhere once.
+#include "qt/windows/page_window.h"
+
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QScreen>
+#include <algorithm>
+
+#include "qt/windows/qt_values.h"
+#include "toolkit/style.h"
+
+namespace quillor {
+
+namespace {
+
+constexpr double kShareOfDisplay = 0.8;      // that the window fills at first
+constexpr double kSmallestScale = 0.35;      // of the first one
+constexpr double kFallbackScale = 1.0 / 15;  // pixels a twip, without a display
+
+const QSizeF kSheet(style::kScreenWidth, style::kScreenHeight);
+
+double firstScale() {
+    const QScreen* display = QGuiApplication::primaryScreen();
+    if (!display)
+        return kFallbackScale;
+    const QSizeF space = display->availableSize() * kShareOfDisplay;
+    return std::min(space.width() / kSheet.width(), space.height() / kSheet.height());
+}
+
+QSizeF sizeOf(const Screen& screen) {
+    return {static_cast<double>(screen.width), static_cast<double>(screen.height)};
+}
+
+}  // namespace
+
+PageWindow::PageWindow(Shell& shell, PageWindow* owner) : QMainWindow(owner), shell_(shell) {
+    setContextMenuPolicy(Qt::NoContextMenu);
+    auto* pages = new QWidget;
+    auto* places = new QGridLayout(pages);  // gives each visible page the whole room
+    places->setContentsMargins({});
+    setCentralWidget(pages);
+    if (!owner)
+        return;
+    setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
+    setWindowModality(Qt::WindowModal);
+}
+
+QSizeF PageWindow::sheet(QSizeF screen) const {
+    return isDialog() ? screen : kSheet.expandedTo(screen);
+}
+
+// The new page appears before the old one goes, so that nothing shines through.
+void PageWindow::turnTo(Page* page) {
+    Page* before = std::exchange(page_, page);
+    if (page == before)
+        return;
+    if (before)
+        before->leave();
+    if (page) {
+        static_cast<QGridLayout&>(*centralWidget()->layout()).addWidget(page, 0, 0);
+        sync();
+        page->show();
+        page->raise();
+        page->enter();
+        open();
+    } else {
+        hide();
+    }
+    if (before)
+        before->hide();
+}
+
+void PageWindow::sync() {
+    const Screen* screen = page_ ? page_->screen() : nullptr;
+    if (!screen)
+        return;
+    const QString title = toQt(screen->title);
+    if (title == windowTitle())
+        return;
+    setWindowTitle(title);
+    setAccessibleName(title);
+}
+
+void PageWindow::open() {
+    if (!std::exchange(opened_, true)) {
+        setMinimumSize((sheet(sizeOf(*page_->screen())) * firstScale() * kSmallestScale).toSize());
+        setGeometry(firstPlace());
+    }
+    show();
+}
+
+// In the middle of the display, or of the owner and in its scale.
+QRect PageWindow::firstPlace() const {
+    const auto* owner = static_cast<const PageWindow*>(parentWidget());
+    const double scale = owner && owner->page() ? owner->page()->scale().pixels : firstScale();
+    QRect place(QPoint(), (sheet(sizeOf(*page_->screen())) * scale).toSize());
+    const QScreen* display = owner ? owner->screen() : QGuiApplication::primaryScreen();
+    if (owner)
+        place.moveCenter(owner->geometry().center());
+    else if (display)
+        place.moveCenter(display->availableGeometry().center());
+    return place;
+}
+
+void PageWindow::comeToFront() {
+    raise();
+    activateWindow();
+}
+
+// A key that finds no widget with the focus is the page's all the same.
+bool PageWindow::event(QEvent* event) {
+    const bool typed = event->type() == QEvent::KeyPress || event->type() == QEvent::InputMethod;
+    if (typed && page_ && page_->eventFilter(this, event))
+        return true;
+    return QMainWindow::event(event);
+}
+
+void PageWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (page_)
+        page_->askToClose();
+}
+
+}  // namespace quillor

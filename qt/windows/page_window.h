@@ -1,0 +1,44 @@
+// A window that shows pages, one at a time. There is one for the large screens,
+// which follow each other in it; a screen that stands over another one gets a
+// window of its own, a dialog.
+#pragma once
+
+#include <QMainWindow>
+
+#include "qt/windows/page.h"
+
+namespace quillor {
+
+class PageWindow : public QMainWindow {
+  public:
+    /// With an owner it is a dialog of it, and the owner deletes it.
+    explicit PageWindow(Shell& shell, PageWindow* owner = nullptr);
+
+    bool isDialog() const { return parentWidget() != nullptr; }
+    /// The page on show; null: none.
+    Page* page() const { return page_; }
+    /// Puts a page, made for this window, on show; the window appears with its
+    /// first one. Null takes the window off the display.
+    void turnTo(Page* page);
+    /// Takes over what the page's screen says about the window.
+    void sync();
+    void comeToFront();
+
+    /// What fills the window, in twips, when a screen of that size is shown: a
+    /// dialog fits its screen, pages of one window have one scale.
+    QSizeF sheet(QSizeF screen) const;
+
+  protected:
+    bool event(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void open();
+    QRect firstPlace() const;
+
+    Shell& shell_;
+    Page* page_ = nullptr;
+    bool opened_ = false;
+};
+
+}  // namespace quillor
