@@ -8,7 +8,7 @@
 
 namespace quillor {
 
-Program::Program(Desktop& desktopToUse, std::filesystem::path programFolder)
+Program::Program(Desktop& desktopToUse, Place programFolder)
     : desktop(desktopToUse), folder(std::move(programFolder)) {
     addScreen(ScreenId::Start,
               [](Program& program) { return std::make_unique<frmStart>(program); });

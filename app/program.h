@@ -1,12 +1,12 @@
 // The program: owns the one record, opens and closes screens.
 #pragma once
 
-#include <filesystem>
 #include <functional>
 #include <map>
 #include <memory>
 #include <vector>
 
+#include "core/disk.h"
 #include "core/game_settings.h"
 #include "core/texts.h"
 #include "toolkit/desktop.h"
@@ -18,8 +18,8 @@ enum class ScreenId { Start, Menu, Game, Options, Word1, Word2, Inventor };
 
 class Program {
   public:
-    /// `folder` is the program folder: everything the program keeps is in it.
-    Program(Desktop& desktop, std::filesystem::path folder);
+    /// Everything that the program keeps is in the program folder.
+    Program(Desktop& desktop, Place programFolder);
     ~Program();
 
     using Factory = std::function<std::unique_ptr<Screen>(Program&)>;
@@ -28,7 +28,7 @@ class Program {
 
     GameSettings settings;
     Desktop& desktop;
-    const std::filesystem::path folder;
+    const Place folder;
 
     /// The text of a pair in the interface's language.
     Text lang(const TextPair& pair) const { return eLang(settings, pair); }

@@ -5,6 +5,9 @@
 
 namespace quillor {
 
+/// The web search: what is sought stands behind it.
+inline constexpr TextView kSearchEngine = u"http://www.bing.com/search?q=";
+
 /// Lays `gsPhrase` out for the board (`gsShownPhrase`, `gsCutPhrase`) and folds
 /// it. Says so when the phrase needs more than three rows and is cut.
 void eCutPhrase(Program& program);

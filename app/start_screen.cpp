@@ -1,7 +1,9 @@
 // The loading sequence in its order, and the progress line that runs after it.
 #include "app/start_screen.h"
 
+#include "app/shared_operations.h"
 #include "core/files.h"
+#include "core/guard.h"
 #include "core/numbers.h"
 #include "core/settings_file.h"
 #include "core/topic_library.h"
@@ -18,7 +20,6 @@ constexpr Twips kSubStep = 100;
 constexpr Twips kSubBounce = 30;
 
 constexpr std::size_t kColorFileLines = 10'000;  // the last of them wins; far beyond any real file
-constexpr TextView kMakersPage = u"https://quillor.example/software";
 constexpr const char* kFontFile = "ARLRDBD.ttf";
 
 }  // namespace
@@ -52,6 +53,7 @@ void frmStart::onLoad() {
     eResetGlobalVariables(settings_);
     mbFontMissing_ = mbSubBounced_ = mbRebootReady_ = false;
     setPalette(settings_);
+    removeWhatKilledRunsLeft();
     readColorFile();
     loadPicture();
     colourScreen();
@@ -61,6 +63,15 @@ void frmStart::onLoad() {
     repairTopicFolder();
     eLoadWords(settings_, program_.folder);
     writeFirstSettings();
+}
+
+// Where the program saves: the settings, and the topics of both languages.
+void frmStart::removeWhatKilledRunsLeft() {
+    GameSettings english;
+    english.gbEnglish = true;
+    for (const Place& folder :
+         {program_.folder, topicFolder({}, program_.folder), topicFolder(english, program_.folder)})
+        removeLeftovers(folder);
 }
 
 void frmStart::readColorFile() {
@@ -109,16 +120,20 @@ void frmStart::checkFont() {
         lblAction.caption = program_.lang(texts::kOpenFont);
 }
 
+// A folder that cannot be listed may be full of the player's topics: no sample then.
 void frmStart::repairTopicFolder() {
-    const auto folder = topicFolder(settings_, program_.folder);
-    if (!eFileExists(folder))
-        std::filesystem::create_directory(folder);
-    if (topicFiles(folder).empty())
-        eWriteDemoTopic(settings_, program_.folder);
+    const Place folder = topicFolder(settings_, program_.folder);
+    if (folder.disk().look(folder).kind == Disk::Kind::Nothing)
+        folder.disk().makeFolder(folder);
+    quietly("repairTopicFolder", [&] {
+        if (topicFiles(folder).empty())
+            eWriteDemoTopic(settings_, program_.folder);
+    });
 }
 
 void frmStart::writeFirstSettings() {
-    if (eFileExists(settingsFile(program_.folder)))
+    const Place file = settingsFile(program_.folder);
+    if (file.disk().look(file).kind != Disk::Kind::Nothing)
         return;
     settings_.giDesign = 0;
     settings_.giTopicIndex = 0;
@@ -168,7 +183,7 @@ void frmStart::lblAction_Click() {
     if (eFileExists(fontFile))
         program_.desktop.open(fontFile);
     else
-        program_.desktop.openAddress(kMakersPage);
+        program_.desktop.openAddress(kSearchEngine, texts::kDisplayFont);
     lblAction.caption = program_.lang(texts::kRebootGame);
     mbRebootReady_ = true;
 }

@@ -41,6 +41,7 @@ class frmStart : public Screen {
     void connect();  // events to handlers
     void eTranslate();
 
+    void removeWhatKilledRunsLeft();
     void readColorFile();
     void loadPicture();
     void colourScreen();

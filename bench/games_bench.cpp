@@ -24,9 +24,9 @@ class SilentDesktop : public Desktop {
     Text clipboard() override { return {}; }
     void setClipboard(TextView) override {}
     bool fontPresent(TextView) override { return true; }
-    ImageRef loadPicture(const std::filesystem::path&) override { return {}; }
+    ImageRef loadPicture(const Place&) override { return {}; }
     void open(const std::filesystem::path&) override {}
-    void openAddress(TextView) override {}
+    void openAddress(TextView, TextView) override {}
     std::span<const std::byte> sound(int) override { return {}; }
     void playWave(std::span<const std::byte>) override {}
     TimeOfDay timeOfDay() override { return {}; }

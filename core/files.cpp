@@ -2,10 +2,10 @@
 #include "core/files.h"
 
 #include <algorithm>
-#include <fstream>
 #include <stdexcept>
-#include <system_error>
 
+#include "core/draft.h"
+#include "core/guard.h"
 #include "core/text_codec.h"
 
 namespace quillor {
@@ -17,32 +17,15 @@ namespace {
 constexpr std::size_t kChunk = 64 * 1024;
 constexpr std::size_t kMostBytes = 16 * 1024 * 1024;
 
-// Beside the file that is replaced, so that the rename stays on one disk. The
-// name is short because the file's own may be as long as the system allows.
-constexpr const char* kTemporaryName = "Quillor-Saving.tmp";
-
 [[noreturn]] void fail(const char* what, const fs::path& path) {
     throw std::runtime_error(what + toUtf8(fromPath(path)));
 }
 
-std::ifstream openForReading(const fs::path& path) {
-    std::error_code error;
-    if (!fs::is_regular_file(path, error))
-        fail("no file: ", path);
-    std::ifstream file(path, std::ios::binary);
-    if (!file)
-        fail("cannot open: ", path);
-    return file;
-}
-
 // Appends the next bytes of the file; false at its end.
-bool readChunk(std::ifstream& file, const fs::path& path, std::string& bytes) {
+bool readChunk(FileReader& file, std::string& bytes) {
     const std::size_t size = bytes.size();
     bytes.resize(size + kChunk);
-    file.read(bytes.data() + size, kChunk);
-    bytes.resize(size + static_cast<std::size_t>(file.gcount()));
-    if (file.bad())
-        fail("cannot read: ", path);
+    bytes.resize(size + file.read(std::span(bytes).subspan(size)));
     return bytes.size() > size;
 }
 
@@ -59,65 +42,72 @@ LineEnd findLineEnd(std::string_view bytes, std::size_t at) {
 }
 
 // Whether the file holds exactly these bytes already.
-bool holds(const fs::path& path, std::string_view bytes) {
-    std::error_code error;
-    const std::uintmax_t size = fs::file_size(path, error);
-    if (error || size != bytes.size())
+bool holds(const Place& file, std::string_view bytes) {
+    try {
+        return readFile(file, bytes.size()) == bytes;
+    } catch (const std::runtime_error&) {
         return false;
-    std::ifstream file(path, std::ios::binary);
-    std::string held(bytes.size(), '\0');
-    file.read(held.data(), static_cast<std::streamsize>(held.size()));
-    return file && held == bytes;
+    }
 }
 
-void writeAll(const fs::path& path, std::string_view bytes) {
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
-    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    file.flush();
-    if (!file)
-        fail("cannot write: ", path);
-    file.close();
-    if (!file)
-        fail("cannot write: ", path);
-}
-
-// A rename would pay no heed to a file's own protection.
-void checkReplaceable(const fs::path& path) {
-    std::error_code error;
-    const fs::file_status status = fs::status(path, error);
-    if (!fs::exists(status))
-        return;
-    if (!fs::is_regular_file(status))
+// A new name would pay no heed to a file's own protection.
+void checkReplaceable(const Disk::Found& found, const fs::path& path) {
+    if (found.kind != Disk::Kind::Nothing && found.kind != Disk::Kind::File)
         fail("no file: ", path);
-    if ((status.permissions() & fs::perms::owner_write) == fs::perms::none)
+    if (found.readOnly)
         fail("read-only: ", path);
+}
+
+Place folderOf(const Place& file) {
+    const fs::path folder = file.path().parent_path();
+    return {folder.empty() ? fs::path(".") : folder, file.disk()};
+}
+
+std::string joined(const std::vector<Text>& lines) {
+    Text text;
+    for (const Text& line : lines)
+        text.append(line).append(u"\r\n");
+    return encodeText(text);
 }
 
 }  // namespace
 
-bool eFileExists(const fs::path& path) {
-    std::error_code error;
-    return fs::exists(path, error);
+bool eFileExists(const Place& place) {
+    try {
+        return place.disk().look(place).kind != Disk::Kind::Nothing;
+    } catch (const std::runtime_error&) {
+        return false;
+    }
 }
 
-std::string readFile(const fs::path& path) {
-    std::ifstream file = openForReading(path);
+bool isFile(const Place& place) {
+    try {
+        return place.disk().look(place).kind == Disk::Kind::File;
+    } catch (const std::runtime_error&) {
+        return false;
+    }
+}
+
+std::string readFile(const Place& file, std::size_t most) {
+    const auto reader = file.disk().open(file);
     std::string bytes;
-    while (readChunk(file, path, bytes)) {
+    while (readChunk(*reader, bytes)) {
+        if (bytes.size() > most)
+            fail("too large: ", file);
     }
     return bytes;
 }
 
-std::string readFileStart(const fs::path& path, std::size_t lines) {
-    std::ifstream file = openForReading(path);
+std::string readFileStart(const Place& file, std::size_t lines) {
+    const auto reader = file.disk().open(file);
     std::string bytes;
     // A line end has two bytes at most, so this many surely end the lines and one more.
     const std::size_t enough = 2 * (lines + 1);
     for (std::size_t found = 0, from = 0; found < enough; from = bytes.size()) {
-        if (!readChunk(file, path, bytes))
+        if (!readChunk(*reader, bytes))
             break;
         if (bytes.size() > kMostBytes)
-            fail("too large: ", path);
+            fail("too large: ", file);
         found += static_cast<std::size_t>(
             std::count_if(bytes.begin() + static_cast<std::ptrdiff_t>(from), bytes.end(),
                           [](char byte) { return byte == '\r' || byte == '\n'; }));
@@ -145,35 +135,43 @@ SplitLines splitLines(std::string_view bytes, std::size_t most) {
     return split;
 }
 
-std::vector<Text> readLines(const fs::path& path, std::size_t most) {
-    return splitLines(readFileStart(path, most), most).lines;
+std::vector<Text> readLines(const Place& file, std::size_t most) {
+    return splitLines(readFileStart(file, most), most).lines;
 }
 
-void writeFile(const fs::path& path, std::string_view bytes) {
+void writeFile(const Place& file, std::string_view bytes) {
     // Each new game saves the settings, most often as they are.
-    if (holds(path, bytes))
+    if (holds(file, bytes))
         return;
-    checkReplaceable(path);
-    std::error_code error;
-    const fs::path behindLink = fs::canonical(path, error);
-    const fs::path target = error ? path : behindLink;
-    const fs::path temporary = target.parent_path() / kTemporaryName;
-    // What a write that was broken off left is not written into: it may be a link.
-    fs::remove(temporary, error);
-    try {
-        writeAll(temporary, bytes);
-        fs::rename(temporary, target);
-    } catch (const std::exception&) {
-        fs::remove(temporary, error);
-        throw;
-    }
+    Disk& disk = file.disk();
+    const Disk::Found found = disk.look(file);
+    checkReplaceable(found, file);
+    const Place target(disk.behindLinks(file), disk);
+    Draft draft(folderOf(target));
+    if (found.kind == Disk::Kind::File)
+        disk.copyPermissions(target, draft.path());
+    draft.fill(bytes);
+    draft.become(target);
 }
 
-void writeLines(const fs::path& path, const std::vector<Text>& lines) {
-    Text text;
-    for (const Text& line : lines)
-        text.append(line).append(u"\r\n");
-    writeFile(path, encodeText(text));
+void removeLeftovers(const Place& folder) {
+    quietly("look for leftovers", [&] {
+        for (const Disk::Entry& entry : folder.disk().list(folder)) {
+            if (entry.kind == Disk::Kind::File && Draft::isItsName(entry.name))
+                quietly("remove a leftover",
+                        [&] { folder.disk().removeAbandoned(folder / entry.name); });
+        }
+    });
+}
+
+void writeLines(const Place& file, const std::vector<Text>& lines) {
+    writeFile(file, joined(lines));
+}
+
+void writeNewLines(const Place& file, const std::vector<Text>& lines) {
+    Draft draft(folderOf(file));
+    draft.fill(joined(lines));
+    draft.becomeNew(file);
 }
 
 fs::path toPath(TextView text) {

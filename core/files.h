@@ -1,30 +1,38 @@
-// Whole files in and out of the program.
+// Whole files in and out of the program, and what their names and lines are as text.
 #pragma once
 
-#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "core/disk.h"
 #include "core/types.h"
 
 namespace quillor {
 
 /// Whether the path names a file or a folder. Never fails; any error counts as no.
-bool eFileExists(const std::filesystem::path& path);
+bool eFileExists(const Place& place);
+/// Whether it names a regular file; the same of errors.
+bool isFile(const Place& place);
 
-/// The file's bytes. Throws std::runtime_error when it is no readable file.
-std::string readFile(const std::filesystem::path& path);
+/// A file's bytes. Throws std::runtime_error when it is no readable file or has
+/// more than `most` bytes.
+std::string readFile(const Place& file, std::size_t most);
 
 /// The start of a text file, however large it is: all bytes of its first `lines`
 /// lines and at least one more where there are more. Throws std::runtime_error
 /// when it is no readable file or those lines take more than 16 MiB.
-std::string readFileStart(const std::filesystem::path& path, std::size_t lines);
+std::string readFileStart(const Place& file, std::size_t lines);
 
-/// Replaces the file whole or leaves it as it was: temporary file beside it,
-/// flush, rename. A file that holds these bytes already is left alone. Throws
+/// Replaces the file whole or leaves it as it was, whatever happens meanwhile: a
+/// temporary file beside it is written, flushed and given its name. It keeps
+/// its permissions; a file that holds these bytes already is left alone. Throws
 /// std::runtime_error; a folder or a read-only file is not replaced.
-void writeFile(const std::filesystem::path& path, std::string_view bytes);
+void writeFile(const Place& file, std::string_view bytes);
+
+/// Removes the temporary files in a folder that killed runs have left there.
+/// Says nothing of those that it cannot remove.
+void removeLeftovers(const Place& folder);
 
 /// The lines of a text, without their ends: CR LF, lone LF or lone CR. A line
 /// end at the very end starts no further line.
@@ -36,10 +44,13 @@ struct SplitLines {
 SplitLines splitLines(std::string_view bytes, std::size_t most);
 
 /// The first lines of a text file, at most `most`. Throws as readFileStart does.
-std::vector<Text> readLines(const std::filesystem::path& path, std::size_t most);
+std::vector<Text> readLines(const Place& file, std::size_t most);
 
 /// The lines with CR LF after each, the last one included. Throws as writeFile does.
-void writeLines(const std::filesystem::path& path, const std::vector<Text>& lines);
+void writeLines(const Place& file, const std::vector<Text>& lines);
+/// The same into a new file. When there is anything of that name, be it a folder
+/// or a link to nothing, that stays as it is.
+void writeNewLines(const Place& file, const std::vector<Text>& lines);
 
 /// A path from text, and back. Bytes of a path that are no text become U+FFFD.
 std::filesystem::path toPath(TextView text);

@@ -57,17 +57,16 @@ void readInto(GameSettings& settings, const std::vector<Text>& lines, std::size_
 
 }  // namespace
 
-std::filesystem::path settingsFile(const std::filesystem::path& programFolder) {
+Place settingsFile(const Place& programFolder) {
     return programFolder / "Quillor-Config.ini";
 }
 
-void eSaveSettings(const GameSettings& settings, const std::filesystem::path& programFolder) {
+void eSaveSettings(const GameSettings& settings, const Place& programFolder) {
     quietly("eSaveSettings",
             [&] { writeLines(settingsFile(programFolder), writtenLines(settings)); });
 }
 
-void saveFromSettingsScreen(const GameSettings& settings,
-                            const std::filesystem::path& programFolder) {
+void saveFromSettingsScreen(const GameSettings& settings, const Place& programFolder) {
     quietly("eSaveData", [&] {
         std::vector<Text> lines = writtenLines(settings);
         lines[kSavedTopicLine].clear();
@@ -75,7 +74,7 @@ void saveFromSettingsScreen(const GameSettings& settings,
     });
 }
 
-void loadForSettingsScreen(GameSettings& settings, const std::filesystem::path& programFolder) {
+void loadForSettingsScreen(GameSettings& settings, const Place& programFolder) {
     quietly("eLoadData", [&] {
         const std::vector<Text> lines = readLines(settingsFile(programFolder), kLines.size());
         for (std::size_t line = 0; line < kSavedTopicLine; ++line)
@@ -83,7 +82,7 @@ void loadForSettingsScreen(GameSettings& settings, const std::filesystem::path& 
     });
 }
 
-void loadForGameScreen(GameSettings& settings, const std::filesystem::path& programFolder) {
+void loadForGameScreen(GameSettings& settings, const Place& programFolder) {
     quietly("eLoadData", [&] {
         const std::vector<Text> lines = readLines(settingsFile(programFolder), kLines.size());
         for (std::size_t line = 0; line < kSavedTopicLine; ++line)

@@ -1,28 +1,27 @@
 // The settings file: eleven numbers, one a line, whose place gives their meaning.
 #pragma once
 
-#include <filesystem>
-
+#include "core/disk.h"
 #include "core/game_settings.h"
 
 namespace quillor {
 
-std::filesystem::path settingsFile(const std::filesystem::path& programFolder);
+/// Where the settings file is, whether there is one or not.
+Place settingsFile(const Place& programFolder);
 
 /// Rewrites the whole file from the record. A failed write is silent.
-void eSaveSettings(const GameSettings& settings, const std::filesystem::path& programFolder);
+void eSaveSettings(const GameSettings& settings, const Place& programFolder);
 
 /// The settings screen's writer: line 10, the saved topic, is left empty.
-void saveFromSettingsScreen(const GameSettings& settings,
-                            const std::filesystem::path& programFolder);
+void saveFromSettingsScreen(const GameSettings& settings, const Place& programFolder);
 
 /// The settings screen's reader: flags are only ever switched on, line 10 is
 /// not used. Ends quietly on an error; what was read before it stays.
-void loadForSettingsScreen(GameSettings& settings, const std::filesystem::path& programFolder);
+void loadForSettingsScreen(GameSettings& settings, const Place& programFolder);
 
 /// The game screen's reader (`eLoadData`): every line counts. The way falls
 /// back to Manual unless the settings screen has been opened in this run, and
 /// the topic is held within the library. Ends quietly on an error.
-void loadForGameScreen(GameSettings& settings, const std::filesystem::path& programFolder);
+void loadForGameScreen(GameSettings& settings, const Place& programFolder);
 
 }  // namespace quillor

@@ -2,12 +2,11 @@
 #include "core/topic_library.h"
 
 #include <algorithm>
-#include <system_error>
+#include <tuple>
 #include <utility>
 
 #include "core/files.h"
 #include "core/guard.h"
-#include "core/numbers.h"
 #include "core/text_rules.h"
 #include "core/texts.h"
 
@@ -41,40 +40,41 @@ std::vector<Text> splitAtStops(TextView text) {
     }
 }
 
+// Every topic has a number of 16 bits, from 0 on.
+constexpr std::size_t kMostTopics = 32'768;
+
 struct ListedFile {
     Text sortName;
-    fs::path path;
-    auto operator<=>(const ListedFile&) const = default;
+    fs::path name;
 };
 
 }  // namespace
 
-fs::path topicFolder(const GameSettings& settings, const fs::path& programFolder) {
+Place topicFolder(const GameSettings& settings, const Place& programFolder) {
     return programFolder / (settings.gbEnglish ? "Topics" : "Temas");
 }
 
-std::vector<fs::path> topicFiles(const fs::path& folder) {
+std::vector<Place> topicFiles(const Place& folder) {
     std::vector<ListedFile> listed;
-    std::error_code error;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
-         entry.increment(error)) {
-        Text sortName = upperCase(fromPath(entry->path().filename()));
-        std::error_code unknown;
-        if (sortName.ends_with(u".TXT") && entry->is_regular_file(unknown))
-            listed.push_back({std::move(sortName), entry->path()});
+    for (const Disk::Entry& entry : folder.disk().list(folder)) {
+        Text sortName = upperCase(fromPath(entry.name));
+        if (sortName.ends_with(u".TXT") && entry.kind == Disk::Kind::File)
+            listed.push_back({std::move(sortName), entry.name});
     }
-    std::sort(listed.begin(), listed.end());
-    std::vector<fs::path> files;
+    std::sort(listed.begin(), listed.end(), [](const ListedFile& a, const ListedFile& b) {
+        return std::tie(a.sortName, a.name) < std::tie(b.sortName, b.name);
+    });
+    std::vector<Place> files;
     files.reserve(listed.size());
-    for (ListedFile& file : listed)
-        files.push_back(std::move(file.path));
+    for (const ListedFile& file : listed)
+        files.push_back(folder / file.name);
     return files;
 }
 
-void eWriteDemoTopic(const GameSettings& settings, const fs::path& programFolder) {
+void eWriteDemoTopic(const GameSettings& settings, const Place& programFolder) {
     quietly("eWriteDemoTopic", [&] {
-        writeLines(topicFolder(settings, programFolder) / "DEMO.txt",
-                   splitAtStops(eLang(settings, kDemoTopic)));
+        writeNewLines(topicFolder(settings, programFolder) / "DEMO.txt",
+                      splitAtStops(eLang(settings, kDemoTopic)));
     });
 }
 
@@ -88,11 +88,14 @@ ParsedTopic parseTopic(std::string_view bytes) {
     return parsed;
 }
 
-void eLoadWords(GameSettings& settings, const fs::path& programFolder) {
+void eLoadWords(GameSettings& settings, const Place& programFolder) {
+    std::vector<Place> files;
+    quietly("eLoadWords", [&] { files = topicFiles(topicFolder(settings, programFolder)); });
+    if (files.size() > kMostTopics)
+        files.erase(files.begin() + kMostTopics, files.end());
+    settings.giTopicMax = static_cast<std::int16_t>(static_cast<int>(files.size()) - 1);
+    settings.gaTopicLines.resize(files.size());
     quietly("eLoadWords", [&] {
-        const std::vector<fs::path> files = topicFiles(topicFolder(settings, programFolder));
-        settings.giTopicMax = toInteger(static_cast<double>(files.size()) - 1);
-        settings.gaTopicLines.resize(files.size());
         for (std::size_t i = 0; i < files.size(); ++i) {
             ParsedTopic parsed = parseTopic(readFileStart(files[i], kTopicLines));
             settings.gaTopicLines[i] = std::move(parsed.topic);

@@ -15,6 +15,7 @@
 #include "qt/qt_desktop.h"
 #include "qt/system/platform.h"
 #include "qt/system/program_folder.h"
+#include "qt/system/system_disk.h"
 #include "qt/tour/tour_script.h"
 #include "qt/windows/qt_values.h"
 #include "topics/register_screens.h"
@@ -56,7 +57,7 @@ class Session {
         : fonts_({folder / "fonts", executableFolder() / "fonts"}),
           shell_(fonts_),
           desktop_(shell_, makeSoundPlayer()),
-          program_(desktop_, folder) {
+          program_(desktop_, {folder, platform::systemDisk()}) {
         desktop_.attach(program_);
         addSettingsScreen(program_);
         addTopicScreens(program_);

@@ -111,7 +111,7 @@ bool QtDesktop::fontPresent(TextView name) {
     return shell_.fonts.present(name);
 }
 
-ImageRef QtDesktop::loadPicture(const std::filesystem::path& file) {
+ImageRef QtDesktop::loadPicture(const Place& file) {
     return loadPictureFile(file);
 }
 
@@ -119,8 +119,8 @@ void QtDesktop::open(const std::filesystem::path& file) {
     platform::openFile(file);
 }
 
-void QtDesktop::openAddress(TextView address) {
-    platform::openEncodedAddress(encodedAddress(address));
+void QtDesktop::openAddress(TextView page, TextView sought) {
+    platform::openEncodedAddress(encodedAddress(page, sought));
 }
 
 std::span<const std::byte> QtDesktop::sound(int id) {

@@ -27,9 +27,9 @@ class QtDesktop : public Desktop {
     Text clipboard() override;
     void setClipboard(TextView text) override;
     bool fontPresent(TextView name) override;
-    ImageRef loadPicture(const std::filesystem::path& file) override;
+    ImageRef loadPicture(const Place& file) override;
     void open(const std::filesystem::path& file) override;
-    void openAddress(TextView address) override;
+    void openAddress(TextView page, TextView sought) override;
     std::span<const std::byte> sound(int id) override;
     void playWave(std::span<const std::byte> image) override;
     TimeOfDay timeOfDay() override;

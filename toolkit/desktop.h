@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <span>
 
+#include "core/disk.h"
 #include "core/types.h"
 #include "toolkit/controls.h"
 #include "toolkit/screen.h"
@@ -41,12 +42,14 @@ class Desktop {
 
     /// Whether text in that font would really be drawn in it.
     virtual bool fontPresent(TextView name) = 0;
-    /// Throws std::runtime_error when it is no picture.
-    virtual ImageRef loadPicture(const std::filesystem::path& file) = 0;
+    /// Null when it is larger than the program can use. Throws
+    /// std::runtime_error when it is no picture.
+    virtual ImageRef loadPicture(const Place& file) = 0;
 
-    /// Hands a file or an address to the system's handler. Says nothing when it fails.
+    /// Hands a file, or the address of a page with what is sought there behind it
+    /// as it was written, to the system's handler. Says nothing when it fails.
     virtual void open(const std::filesystem::path& file) = 0;
-    virtual void openAddress(TextView address) = 0;
+    virtual void openAddress(TextView page, TextView sought) = 0;
 
     /// A carried sound, 101..107, as a whole WAVE image; empty when it cannot be had.
     virtual std::span<const std::byte> sound(int id) = 0;

@@ -1,12 +1,12 @@
 // The addresses that an answer is looked up at.
 #include "ui/web_search.h"
 
+#include "app/shared_operations.h"
 #include "core/text_rules.h"
 
 namespace quillor {
 
 namespace {
-constexpr TextView kSearchEngine = u"http://www.bing.com/search?q=";
 // The Spanish edition in both interface languages.
 constexpr TextView kEncyclopedia = u"http://es.wikipedia.org/wiki/";
 }  // namespace
@@ -36,7 +36,7 @@ void WebSearch::eTranslate() {
 
 void WebSearch::lblFinder_Click() {
     const TextView start = program_.settings.gbUseWikipedia ? kEncyclopedia : kSearchEngine;
-    program_.desktop.openAddress(Text(start) + lowerCase(program_.settings.gsPhrase));
+    program_.desktop.openAddress(start, lowerCase(program_.settings.gsPhrase));
 }
 
 }  // namespace quillor

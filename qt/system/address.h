@@ -7,10 +7,9 @@
 
 namespace quillor {
 
-/// The address with everything that stands behind its fixed part (host, path
-/// and first query key) percent-encoded as UTF-8, so that a phrase appended
-/// as it is written survives: blanks, accents, and signs that mean something
-/// in an address.
-QString encodedAddress(TextView address);
+/// The address of a page, which stays as it is, with what is sought there behind
+/// it, percent-encoded as UTF-8: blanks, accents, and signs that would mean
+/// something in an address ("?", "#", "&") are the phrase's own. Never fails.
+QString encodedAddress(TextView page, TextView sought);
 
 }  // namespace quillor

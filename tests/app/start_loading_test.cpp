@@ -1,5 +1,6 @@
 // What the start screen prepares while it loads.
 #include <algorithm>
+#include <chrono>
 
 #include "core/settings_file.h"
 #include "tests/app/app_fixture.h"
@@ -77,6 +78,53 @@ TEST_F(StartLoading, WritesNoSampleBesideOtherTopics) {
     EXPECT_EQ(settings().gaTopicLines.at(0)[0], u"MINE");
 }
 
+TEST_F(StartLoading, WritesNoSampleWhereTheFolderCannotBeListed) {
+    std::filesystem::create_directory(folder / "Temas");
+    disk.breakDown(FaultyDisk::Operation::List);
+    start();
+    EXPECT_TRUE(std::filesystem::is_empty(folder / "Temas"));
+    EXPECT_EQ(settings().giTopicMax, -1);
+    EXPECT_EQ(folder.read("Quillor-Config.ini"), kFirstRun);
+}
+
+TEST_F(StartLoading, KeepsThePlayersDemoWhereTheFolderCannotBeListed) {
+    folder.write("Temas/DEMO.txt", "MINE\r\none\r\ntwo\r\n");
+    disk.breakDown(FaultyDisk::Operation::List);
+    start();
+    EXPECT_EQ(folder.read("Temas/DEMO.txt"), "MINE\r\none\r\ntwo\r\n");
+}
+
+TEST_F(StartLoading, WritesTheSampleOverNothingThatIsNoTopic) {
+    folder.write("Temas/DEMO.txt/inside", "kept");
+    start();
+    EXPECT_EQ(folder.read("Temas/DEMO.txt/inside"), "kept");
+    EXPECT_EQ(settings().giTopicMax, -1);
+}
+
+TEST_F(StartLoading, KeepsSettingsThatItCannotLookFor) {
+    folder.write("Temas/a.txt", "A\r\n");
+    folder.write("Quillor-Config.ini", "3\r\n1\r\n");
+    start();
+    const auto looks = std::ranges::count(disk.asked(), FaultyDisk::Operation::Look);
+    disk.breakDown(FaultyDisk::Operation::Look, static_cast<int>(looks));
+    start();
+    EXPECT_EQ(folder.read("Quillor-Config.ini"), "3\r\n1\r\n");
+}
+
+TEST_F(StartLoading, RemovesWhatKilledRunsHaveLeft) {
+    for (const char* name :
+         {"Quillor-Saving-0123456789abcdef.tmp", "Temas/Quillor-Saving-0123456789abcdef.tmp",
+          "Topics/Quillor-Saving-0123456789abcdef.tmp"}) {
+        folder.write(name, "half");
+        std::filesystem::last_write_time(
+            folder / name, std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
+    }
+    start();
+    EXPECT_EQ(folder.size(), 3);  // the settings and the two topic folders
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder / "Temas"), {}), 1);
+    EXPECT_TRUE(std::filesystem::is_empty(folder / "Topics"));
+}
+
 TEST_F(StartLoading, SurvivesATopicFolderThatIsAFile) {
     folder.write("Temas", "no folder");
     start();
@@ -114,6 +162,15 @@ TEST_F(StartLoading, EndsAtAPictureThatIsNoneButTheScreenStillWorks) {
     EXPECT_FALSE(folder.has("Quillor-Config.ini"));
     desktop.advance(kWholeLine);
     EXPECT_NE(program.find(ScreenId::Menu), nullptr);
+}
+
+TEST_F(StartLoading, TakesAPictureThatIsTooLargeForNone) {
+    folder.write("Pic.jpg", kJpeg);
+    desktop.picturesFit = false;
+    frmStart& screen = start();
+    EXPECT_EQ(screen.imgBack(0).image, nullptr);
+    EXPECT_EQ(settings().giTopicMax, 0);
+    EXPECT_EQ(folder.read("Quillor-Config.ini"), kFirstRun);
 }
 
 TEST_F(StartLoading, NamesEveryTextInTheLanguage) {

@@ -72,7 +72,8 @@ TEST_F(StartScreen, FocusesTheButtonOfTheFontPanel) {
 TEST_F(StartScreen, OpensTheWebPageFirstAndThenStartsAnew) {
     frmStart& screen = panel();
     player.click("lblAction");
-    EXPECT_EQ(desktop.openedAddresses.size(), 1U);
+    EXPECT_EQ(desktop.openedAddresses,
+              (std::vector<Text>{u"http://www.bing.com/search?q=Arial Rounded MT Bold"}));
     EXPECT_EQ(screen.lblAction.caption, u"&REINICIAR JUEGO");
     EXPECT_EQ(desktop.programStarts, 0);
     player.click("lblAction");

@@ -138,10 +138,10 @@ TEST_F(DemoTopic, IsWrittenInEnglish) {
     EXPECT_EQ(folder.read("Topics/DEMO.txt"), kEnglish);
 }
 
-TEST_F(DemoTopic, ReplacesAFileOfThatName) {
-    folder.write("Temas/DEMO.txt", "old");
+TEST_F(DemoTopic, LeavesAFileOfThatName) {
+    folder.write("Temas/DEMO.txt", "the player's own");
     write();
-    EXPECT_EQ(folder.read("Temas/DEMO.txt"), kSpanish);
+    EXPECT_EQ(folder.read("Temas/DEMO.txt"), "the player's own");
 }
 
 TEST_F(DemoTopic, IsReadBackAsATitleAndFiftyPhrasesInCapitals) {

@@ -96,14 +96,12 @@ TEST(Links, AreFollowedWhenTheirFileIsWritten) {
     EXPECT_EQ(folder.read("real/f"), "new");
 }
 
-TEST(Links, AreNotWrittenThroughInPlaceOfTheTemporaryFile) {
+TEST(Links, ToNothingAreNotWrittenThroughByANewFile) {
     TempFolder folder;
-    folder.write("elsewhere", "kept");
-    std::filesystem::create_symlink(folder / "elsewhere", folder / "Quillor-Saving.tmp");
-    writeFile(folder / "f", "new");
-    EXPECT_EQ(folder.read("elsewhere"), "kept");
-    EXPECT_FALSE(std::filesystem::is_symlink(folder / "f"));
-    EXPECT_EQ(folder.size(), 2);
+    std::filesystem::create_symlink("elsewhere", folder / "f");
+    writeNewLines(folder / "f", {u"new"});
+    EXPECT_TRUE(std::filesystem::is_symlink(folder / "f"));
+    EXPECT_EQ(folder.size(), 1);
 }
 
 TEST(Links, ToNothingDoNotExist) {

@@ -1,5 +1,6 @@
 // Links in the topic folder. Not on Windows, which reserves the making of them.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "core/files.h"
 #include "core/topic_library.h"
@@ -16,8 +17,21 @@ TEST(LibraryLinks, AreListedWhenTheyLeadToAFile) {
     std::filesystem::create_directory_symlink(".", folder / "d.txt");
     const auto files = topicFiles(folder.path());
     ASSERT_EQ(files.size(), 2U);
-    EXPECT_EQ(fromPath(files[0].filename()), u"a.txt");
-    EXPECT_EQ(fromPath(files[1].filename()), u"b.txt");
+    EXPECT_EQ(fromPath(files[0].path().filename()), u"a.txt");
+    EXPECT_EQ(fromPath(files[1].path().filename()), u"b.txt");
+}
+
+// Root may list everything, so what root runs is run as another user meanwhile.
+TEST(LibraryPermissions, KeepAFolderThatCannotBeListedFromPassingForAnEmptyOne) {
+    const quillor::testing::TempFolder folder;
+    folder.write("Temas/DEMO.txt", "mine");
+    std::filesystem::permissions(folder / "Temas", std::filesystem::perms{0333});
+    const uid_t before = geteuid();
+    if (before == 0 && seteuid(65534) != 0)
+        GTEST_SKIP() << "root cannot be another user here";
+    EXPECT_THROW(topicFiles(folder / "Temas"), std::runtime_error);
+    ASSERT_EQ(seteuid(before), 0);
+    std::filesystem::permissions(folder / "Temas", std::filesystem::perms::owner_all);
 }
 
 }  // namespace

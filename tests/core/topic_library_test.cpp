@@ -17,8 +17,8 @@ class Library : public ::testing::Test {
     void load() { eLoadWords(settings, folder.path()); }
     std::vector<Text> listed() const {
         std::vector<Text> names;
-        for (const auto& file : topicFiles(folder / "Temas"))
-            names.push_back(fromPath(file.filename()));
+        for (const Place& file : topicFiles(folder / "Temas"))
+            names.push_back(fromPath(file.path().filename()));
         return names;
     }
     Text title(int index) const {
@@ -75,8 +75,13 @@ TEST_F(Library, ListsAFileWithoutAName) {
     EXPECT_EQ(listed(), Names{u".txt"});
 }
 
-TEST_F(Library, IsEmptyWithoutAFolder) {
+TEST_F(Library, CannotBeListedWithoutAFolder) {
+    EXPECT_THROW(listed(), std::runtime_error);
+    std::filesystem::create_directory(folder / "Temas");
     EXPECT_EQ(listed(), Names{});
+}
+
+TEST_F(Library, IsEmptyWithoutAFolder) {
     load();
     EXPECT_EQ(settings.giTopicMax, -1);
     EXPECT_TRUE(settings.gaTopicLines.empty());
@@ -135,6 +140,40 @@ TEST_F(Library, EndsAtAFileThatCannotBeRead) {
     EXPECT_EQ(title(0), u"FIRST");
     EXPECT_EQ(title(1), u"");
     EXPECT_EQ(title(2), u"");
+}
+
+// A folder of so many files that each tells its own name.
+class LargeDisk : public Disk {
+  public:
+    explicit LargeDisk(int files) : files_(files) {}
+    std::vector<Entry> list(const std::filesystem::path&) const override {
+        std::vector<Entry> entries;
+        for (int i = files_; i-- > 0;)
+            entries.push_back({std::to_string(100'000 + i) + ".txt", Kind::File});
+        return entries;
+    }
+    std::unique_ptr<FileReader> open(const std::filesystem::path& file) const override {
+        return std::make_unique<NameReader>(file.filename().string());
+    }
+
+  private:
+    struct NameReader : FileReader {
+        explicit NameReader(std::string name) : bytes(std::move(name)) {}
+        std::size_t read(std::span<char> to) override {
+            return std::exchange(bytes, {}).copy(to.data(), to.size());
+        }
+        std::string bytes;
+    };
+    int files_;
+};
+
+TEST_F(Library, LoadsAsManyFilesAsHaveANumberInOrder) {
+    LargeDisk disk(32'770);
+    eLoadWords(settings, {folder.path(), disk});
+    EXPECT_EQ(settings.giTopicMax, 32'767);
+    EXPECT_EQ(settings.gaTopicLines.size(), 32'768U);
+    EXPECT_EQ(title(0), u"100000.TXT");
+    EXPECT_EQ(title(32'767), u"132767.TXT");
 }
 
 TEST_F(Library, LoadsAnEmptyFileAsAnEmptyTopic) {

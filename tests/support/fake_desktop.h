@@ -74,6 +74,7 @@ class FakeDesktop : public Desktop {
     // What the machine is like.
     bool fontInstalled = true;
     bool soundsCarried = true;
+    bool picturesFit = true;   // false: every picture is larger than it can use
     std::deque<double> draws;  // served first; then the seeded generator
     Text clipboardText;
 
@@ -97,9 +98,11 @@ class FakeDesktop : public Desktop {
     Text clipboard() override { return clipboardText; }
     void setClipboard(TextView text) override { clipboardText = text; }
     bool fontPresent(TextView) override { return fontInstalled; }
-    ImageRef loadPicture(const std::filesystem::path& file) override;
+    ImageRef loadPicture(const Place& file) override;
     void open(const std::filesystem::path& file) override { openedFiles.push_back(file); }
-    void openAddress(TextView address) override { openedAddresses.emplace_back(address); }
+    void openAddress(TextView page, TextView sought) override {
+        openedAddresses.push_back(Text(page).append(sought));
+    }
     std::span<const std::byte> sound(int id) override;
     void playWave(std::span<const std::byte> image) override;
     TimeOfDay timeOfDay() override;

@@ -3,6 +3,7 @@
 
 #include "app/program.h"
 #include "tests/support/fake_desktop.h"
+#include "tests/support/faulty_disk.h"
 #include "tests/support/player.h"
 #include "tests/support/temp_folder.h"
 
@@ -11,8 +12,9 @@ namespace quillor::testing {
 /// The folder may be filled before the program starts.
 struct OpenProgram {
     TempFolder folder;
+    FaultyDisk disk;
     FakeDesktop desktop;
-    Program program{desktop, folder.path()};
+    Program program{desktop, {folder.path(), disk}};
     Player player{desktop};
 
     OpenProgram() {
