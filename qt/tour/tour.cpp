@@ -68,6 +68,16 @@ void moveOnto(QWidget& widget) {
         postMouse(widget, QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton);
 }
 
+// Not every desktop tells a program where its windows stand; a dialog opens in
+// the middle of its owner.
+QRect placeOf(const QWidget& window) {
+    QRect place = window.geometry();
+    const auto* dialog = dynamic_cast<const PageWindow*>(&window);
+    if (dialog && dialog->isDialog())
+        place.moveCenter(dialog->parentWidget()->geometry().center());
+    return place;
+}
+
 // What a desktop does for a window in front of another one.
 void paintShadow(QPainter& painter, const QRect& window) {
     constexpr int kReach = 9;
@@ -225,16 +235,16 @@ QString Tour::pictureFile(const QString& name) {
     return QDir(folder_).absoluteFilePath(number + '-' + name + ".png");
 }
 
+// The program's windows, and what stands over them in front.
 QList<QWidget*> Tour::windowsFromBack() const {
     QList<QWidget*> shown;
+    const Page* page = shell_.front();
+    for (QWidget* window = page ? &page->pageWindow() : nullptr; window;
+         window = window->parentWidget())
+        shown.prepend(window);
     for (QWidget* window : QApplication::topLevelWidgets())
-        if (window->isVisible() && window->windowType() != Qt::ToolTip)
+        if (window->isVisible() && window->windowType() != Qt::ToolTip && !shown.contains(window))
             shown.append(window);
-    const auto width = [](const QWidget* window) { return window->width(); };
-    std::sort(shown.begin(), shown.end(),
-              [width](const QWidget* a, const QWidget* b) { return width(a) > width(b); });
-    if (shown.removeOne(front()))
-        shown.append(front());
     return shown;
 }
 
@@ -243,7 +253,7 @@ QPixmap Tour::grabAll() const {
     QRect extent;
     const QList<QWidget*> windows = windowsFromBack();
     for (const QWidget* window : windows)
-        extent |= window->geometry();
+        extent |= placeOf(*window);
     if (extent.isEmpty())
         return {};
     const double density = windows.front()->devicePixelRatioF();
@@ -252,7 +262,7 @@ QPixmap Tour::grabAll() const {
     picture.fill(Qt::white);
     QPainter painter(&picture);
     for (QWidget* window : windows) {
-        const QRect place = window->geometry().translated(-extent.topLeft());
+        const QRect place = placeOf(*window).translated(-extent.topLeft());
         if (window != windows.front())
             paintShadow(painter, place);
         painter.drawPixmap(place.topLeft(), window->grab());

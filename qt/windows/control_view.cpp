@@ -50,6 +50,12 @@ bool ControlView::isUsable() const {
     return true;
 }
 
+bool ControlView::isHeadBar(QSizeF screen) const {
+    const QRectF place = extent();
+    return hasGround() && place.top() <= 0 && place.bottom() < screen.height() &&
+           place.left() <= 0 && place.right() >= screen.width();
+}
+
 QString ControlView::spokenName() const {
     return toQt(control_.spokenName);
 }

@@ -27,6 +27,9 @@ class ControlView {
 
     /// Whether the control and the frames it stands on are visible and enabled.
     bool isUsable() const;
+    /// Whether its ground is a bar from edge to edge along the top of a screen of
+    /// that size, in twips.
+    bool isHeadBar(QSizeF screen) const;
     /// Whether Tab stops here.
     virtual bool takesTab() const { return false; }
 

@@ -202,6 +202,63 @@ TEST_F(Windows, ShowASmallScreenInTheScaleOfTheLargeOnes) {
     EXPECT_EQ(widgetOf(button).geometry(), QRect(330, 202, 90, 30));
 }
 
+TEST_F(Windows, LetAGroundThatSpansTheScreenGoOnToBothEdges) {
+    Label bar;
+    Shape strip;
+    Frame panel;
+    Label inside;
+    bar.id = "lblBar";
+    bar.opaque = panel.opaque = true;
+    screen.add(bar).place(0, 900, screen.width, 600);
+    screen.add(strip).place(0, 1800, screen.width, 600);
+    screen.add(panel).place(0, 2700, screen.width, 600);
+    screen.add(inside, &panel).place(300, 0, 600, 600);
+    open().resize(1720, 810);
+    EXPECT_EQ(widgetOf(bar).geometry(), QRect(0, 90, 1720, 60));
+    EXPECT_EQ(widgetOf(strip).geometry(), QRect(0, 180, 1720, 60));
+    EXPECT_EQ(widgetOf(panel).geometry(), QRect(0, 270, 1720, 60));
+    EXPECT_EQ(widgetOf(inside).geometry(), QRect(230, 0, 60, 60));
+}
+
+TEST_F(Windows, LeaveWhatHasNoGroundOrDoesNotSpanTheScreenWhereItIs) {
+    Label clear;
+    Label narrow;
+    narrow.opaque = true;
+    screen.add(clear).place(0, 900, screen.width, 600);
+    screen.add(narrow).place(0, 1800, screen.width - 60, 600);
+    open().resize(1720, 810);
+    EXPECT_EQ(widgetOf(clear).geometry(), QRect(200, 90, 1320, 60));
+    EXPECT_EQ(widgetOf(narrow).geometry(), QRect(200, 180, 1314, 60));
+}
+
+TEST_F(Windows, HangAScreenWithABarAlongItsTopFromTheirOwn) {
+    Label bar;
+    Label below;
+    bar.opaque = true;
+    screen.add(bar).place(0, 0, screen.width, 600);
+    addButton(below, "lbl", 0, 600);
+    open().resize(1320, 1210);
+    EXPECT_EQ(widgetOf(bar).geometry(), QRect(0, 0, 1320, 60));
+    EXPECT_EQ(widgetOf(below).geometry().top(), 60);
+}
+
+TEST_F(Windows, FillTheirWholeRoomWithThePaper) {
+    Picture back;
+    Picture sameThroughAFrame;
+    Frame frame;
+    screen.add(back).place(0, 0, screen.width, screen.height);
+    screen.add(frame).place(3000, 2400, 3000, 3000);
+    screen.add(sameThroughAFrame, &frame).place(-3000, -2400, screen.width, screen.height);
+    PageWindow& window = open();
+    for (const QSize size : {QSize(1720, 810), QSize(1320, 1210)}) {
+        window.resize(size);
+        EXPECT_EQ(widgetOf(back).geometry(), QRect(QPoint(), size));
+        QWidget& other = widgetOf(sameThroughAFrame);
+        EXPECT_EQ(other.size(), size);
+        EXPECT_EQ(other.mapTo(window.page(), QPoint()), QPoint());
+    }
+}
+
 TEST_F(Windows, KeepTheFocusOfAScreenThatIsCovered) {
     TextField first;
     TextField second;

@@ -1,0 +1,70 @@
+"""A Wayland desktop in memory. It has no keyboard and no mouse, so no window on
+it is ever active."""
+
+import os
+import shutil
+import subprocess
+import tempfile
+from pathlib import Path
+
+from . import processes
+from .waiting import until
+
+SOCKET = "quillor-test"
+
+
+def is_there():
+    return shutil.which("weston") is not None
+
+
+class WaylandDesktop:
+    """Is ready once made; `close` takes it down, whatever has happened."""
+
+    def __init__(self):
+        self.scratch = Path(tempfile.mkdtemp(prefix="quillor-wayland-"))
+        self.environment = self._make_environment()
+        self._log = open(self.scratch / "weston.log", "wb")
+        self._server = processes.start(
+            ["weston", "--backend=headless-backend.so", "--use-pixman", "--width=1600",
+             "--height=1000", "--idle-time=0", f"--socket={SOCKET}"],
+            self.environment, self._log,
+        )
+        try:
+            until(self._answers, "the Wayland desktop")
+        except BaseException:
+            self.close()
+            raise
+
+    def _make_environment(self):
+        kept = ("PATH", "LD_LIBRARY_PATH", "ASAN_OPTIONS", "UBSAN_OPTIONS")
+        environment = {name: os.environ[name] for name in kept if name in os.environ}
+        for name in ("HOME", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"):
+            folder = self.scratch / name.lower()
+            folder.mkdir(mode=0o700)
+            environment[name] = str(folder)
+        environment.update(
+            LANG="C.UTF-8",
+            XDG_SESSION_TYPE="wayland",
+            QT_QPA_PLATFORM="wayland",
+            WAYLAND_DISPLAY=SOCKET,
+            # Qt 6.4's own input method for Wayland crashes where there is no keyboard.
+            QT_IM_MODULE="compose",
+        )
+        return environment
+
+    def _answers(self):
+        return (Path(self.environment["XDG_RUNTIME_DIR"]) / SOCKET).exists()
+
+    def run(self, command, seconds):
+        """Runs a program to its end; returns its exit code and what it wrote."""
+        done = subprocess.run(
+            command, env=self.environment, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+            stderr=subprocess.STDOUT, text=True, timeout=seconds,
+        )
+        return done.returncode, done.stdout
+
+    def close(self):
+        processes.end(processes.marked_with(str(self.scratch)))
+        self._server.wait()
+        self._log.close()
+        shutil.rmtree(self.scratch, ignore_errors=True)
