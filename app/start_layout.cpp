@@ -36,22 +36,22 @@ void frmStart::layOutTitle() {
     lblSub.caption = u"or";
     lblSub.font = {Face::Display, 60, true};
     lblSub.align = Align::Left;
-    add(lblSub).place(3000, 960, 1440, 1260);
+    add(lblSub).place(3000, 870, 1440, 1440);
     frmeTitle.id = "frmeTitle";
-    add(frmeTitle).place(0, 900, 4470, 1680);
-    add(imgBack(1), &frmeTitle).place(0, -900, kWidth, kHeight);
+    add(frmeTitle).place(0, 840, 4470, 1740);
+    add(imgBack(1), &frmeTitle).place(0, -840, kWidth, kHeight);
     lblName.id = "lblName";
     lblName.caption = u"Quill";
     lblName.font = lblSub.font;
     lblName.textColor = rgb(40, 40, 40);
     lblName.align = Align::Right;
-    add(lblName, &frmeTitle).place(1050, 60, 3420, 1260);
+    add(lblName, &frmeTitle).place(1050, 30, 3420, 1440);
     lblMarca.id = "lblMarca";
     lblMarca.caption = texts::kMakers;
     lblMarca.font = {Face::Display, 9, true};
     lblMarca.textColor = rgb(110, 110, 110);
     lblMarca.align = Align::Left;
-    add(lblMarca, &frmeTitle).place(1980, 1380, 2460, 240);
+    add(lblMarca, &frmeTitle).place(1980, 1470, 2460, 240);
 }
 
 void frmStart::layOutFontPanel() {

@@ -98,7 +98,7 @@ struct Shape : Control {
     Twips radius = 120;     // of rounded corners
 };
 
-/// Drawn with round ends. Its place is x1..y2; the rectangle of Control is unused.
+/// Its place is x1..y2; the rectangle of Control is unused.
 struct Line : Control {
     Twips x1 = 0;
     Twips y1 = 0;
@@ -106,6 +106,7 @@ struct Line : Control {
     Twips y2 = 0;
     Color color = 0;
     Twips thickness = 30;
+    bool roundEnds = true;  // which reach beyond the points by half the thickness
 
     void span(Twips fromX, Twips fromY, Twips toX, Twips toY) {
         x1 = fromX;

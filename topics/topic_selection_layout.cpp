@@ -14,6 +14,8 @@ void frmWord2::layOut() {
 }
 
 void frmWord2::layOutModes() {
+    constexpr Twips kArrow = 600;
+    constexpr Twips kRightArrow = kEdge + kInner - kArrow;  // ends with the list
     lblSelect.id = "lblSelect";
     lblSelect.font = style::kText;
     lblSelect.textColor = kPale;
@@ -23,21 +25,21 @@ void frmWord2::layOutModes() {
     lblOpt.caption = texts::kSelectionModes.front().spanish;
     lblOpt.font = style::kBarText;
     lblOpt.textColor = kPale;
-    add(lblOpt).place(3060, 4230, 3000, 540);
+    add(lblOpt).place(3060, 4230, kRightArrow - 3060, 540);
     for (int i = 0; i <= 1; ++i) {
-        const Twips left = i == 0 ? 2460 : 6060;
+        const Twips left = i == 0 ? 2460 : kRightArrow;
         Shape& frame = shpChng(i);
         frame.filled = false;
         frame.borderColor = kPale;
         frame.borderWidth = 30;
-        add(frame).place(left, 4200, 600, 600);
+        add(frame).place(left, 4200, kArrow, kArrow);
         Label& arrow = lblChng(i);
         arrow.caption = i == 0 ? symbols::kTriangleLeft : symbols::kTriangleRight;
         arrow.font = {Face::Webdings, 16, false};
         arrow.textColor = kPale;
         arrow.toolTip = texts::kChangeModeTip;
         arrow.role = LabelRole::Button;
-        add(arrow).place(left, 4200, 600, 600);
+        add(arrow).place(left, 4200, kArrow, kArrow);
     }
 }
 

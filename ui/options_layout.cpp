@@ -21,6 +21,7 @@ void frmOptions::layOut() {
     constexpr Twips kTilePitch = 1080;
     constexpr Twips kTilesLeft = (style::kScreenWidth - 7 * kTilePitch + kTilePitch - kTile) / 2;
     constexpr Twips kTilesTop = 840;
+    constexpr Twips kLine = 60;
     width = style::kScreenWidth;
     height = style::kScreenHeight;
     imgBack.id = "imgBack";
@@ -33,9 +34,9 @@ void frmOptions::layOut() {
         const Twips x = kTilesLeft + kTilePitch * static_cast<Twips>(i);
         lblLetter(i).font = {Face::Display, 40, true};
         lblLetter(i).place(x, kTilesTop, kTile, kTile);
-        lnLetter(i).thickness = 60;
-        // Its round ends stay within the tile.
-        lnLetter(i).span(x + 30, kTilesTop + kTile, x + kTile - 30, kTilesTop + kTile);
+        lnLetter(i).thickness = kLine;
+        const Twips y = kTilesTop + kTile - kLine / 2;
+        lnLetter(i).span(x + kLine / 2, y, x + kTile - kLine / 2, y);
     }
 
     for (int i = 0; i <= kLastOption; ++i) {
@@ -71,17 +72,17 @@ void frmOptions::layOut() {
     }
 
     shpBack.id = "shpBack";
-    add(shpBack).place(kLeft - 60, 7020, 720, 720);
+    add(shpBack).place(kLeft, 7080, kBox, kBox);
     lblBack(0).caption = symbols::kArrowLeft;
     lblBack(0).font = {Face::Wingdings, 20, false};
     lblBack(0).textColor = kPale;
     lblBack(0).role = lblBack(1).role = LabelRole::Button;
-    add(lblBack(0)).place(kLeft - 60, 7020, 720, 720);
+    add(lblBack(0)).place(kLeft, 7080, kBox, kBox);
     lblBack(1).font = {Face::Display, 18, true};
     lblBack(1).textColor = rgb(250, 30, 30);
     lblBack(1).align = Align::Left;
     lblBack(1).tabStop = false;
-    add(lblBack(1)).place(kLeft + 900, 7020, 2700, 720);
+    add(lblBack(1)).place(kLeft + 720, 7080, 2700, kBox);
 }
 
 }  // namespace quillor

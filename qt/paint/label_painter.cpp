@@ -34,19 +34,41 @@ int alignment(const LabelLook& look) {
     return flags | Qt::AlignHCenter;
 }
 
-// One line may be taller than its label: what lies outside is empty.
+bool isOneLine(int flags, const QString& text) {
+    return !(flags & Qt::TextWordWrap) && !text.contains('\n');
+}
+
+// What is drawn of one line, its baseline at 0; the same for most texts of a font.
+QRectF inkOfLine(const QFontMetricsF& metrics, const QString& text) {
+    return metrics.tightBoundingRect(QStringLiteral("\u00c1\u00d1Q")) |
+           metrics.tightBoundingRect(text);
+}
+
+// One line may be taller than its label, as long as its ink is not.
 bool fits(const QFont& font, const QRectF& rect, int flags, const QString& text) {
-    const QRectF needed = QFontMetricsF(font).boundingRect(rect, flags, text);
+    const QFontMetricsF metrics(font);
+    const QRectF needed = metrics.boundingRect(rect, flags, text);
     if (needed.width() > rect.width() + 0.5)
         return false;
-    const bool oneLine = !(flags & Qt::TextWordWrap) && !text.contains('\n');
-    return needed.height() <= rect.height() * (oneLine ? 1.35 : 1.0) + 0.5;
+    const double height =
+        isOneLine(flags, text) ? inkOfLine(metrics, text).height() : needed.height();
+    return height <= rect.height() + 0.5;
 }
 
 QFont fitted(QFont font, const QRectF& rect, int flags, const QString& text) {
     while (font.pixelSize() > kSmallestFont && !fits(font, rect, flags, text))
         font.setPixelSize(std::min(font.pixelSize() - 1, font.pixelSize() * 19 / 20));
     return font;
+}
+
+// A line that is taller than its label is moved so that neither an accent nor
+// the tail of a Q is cut off.
+QRectF placeOfText(const QFont& font, const QRectF& rect, int flags, const QString& text) {
+    const QFontMetricsF metrics(font);
+    if (!isOneLine(flags, text) || metrics.height() <= rect.height())
+        return rect;
+    const double baseline = (metrics.ascent() - metrics.descent()) / 2;
+    return rect.translated(0, -inkOfLine(metrics, text).center().y() - baseline);
 }
 
 // How much of an outline a text needs on its own ground: 0 none to 1.
@@ -114,10 +136,11 @@ void paintLabel(QPainter& painter, const QRectF& rect, const LabelLook& look, co
     const QString text = toQt(look.caption).replace("\r\n", "\n");
     const int flags = alignment(look);
     painter.setFont(fitted(std::move(font), rect, flags, text));
+    const QRectF place = placeOfText(painter.font(), rect, flags, text);
     if (const double need = outlineNeed(look); need > 0)
-        paintOutline(painter, rect, flags, text, need);
+        paintOutline(painter, place, flags, text, need);
     painter.setPen(toQt(look.textColor));
-    painter.drawText(rect, flags, text);
+    painter.drawText(place, flags, text);
 }
 
 void paintFocusRing(QPainter& painter, const QRectF& rect, double radius) {

@@ -47,6 +47,7 @@ class ControlView {
     /// Where the control lies in its widget, in pixels: all over, unless its
     /// ground goes on to the window's edges.
     QRectF ownPlace() const;
+    const TwipScale& scale() const { return scale_; }
     double pixelsPerTwip() const { return scale_.pixels; }
     ScreenLink& link() const { return link_; }
 

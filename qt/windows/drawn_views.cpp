@@ -46,7 +46,20 @@ LineView::LineView(Line& line, ScreenLink& link, QWidget* parent)
 
 void LineView::syncLook() {
     const Line& l = line_;
-    const Look look{l.x1, l.y1, l.x2, l.y2, l.color, l.thickness};
+    const double half = static_cast<double>(l.thickness) / 2;
+    const QRectF span(QPointF(l.x1, l.y1), QPointF(l.x2, l.y2));
+    const QPointF parent = parentOrigin(l);
+    const QPoint corner = scale().place(extent()).topLeft();
+    const auto point = [&](QPointF twips) {
+        return scale().origin + (twips + parent) * pixelsPerTwip() - corner;
+    };
+    const QRectF stroke = span.normalized().adjusted(-half, -half, half, half);
+    Look look{point(span.topLeft()),
+              point(span.bottomRight()),
+              scale().place(stroke.translated(parent)).translated(-corner),
+              2 * half * pixelsPerTwip(),
+              l.color,
+              l.roundEnds};
     if (look == shown_)
         return;
     shown_ = look;
@@ -60,27 +73,27 @@ QRectF LineView::extent() const {
     return span.normalized().adjusted(-room, -room, room, room).translated(parentOrigin(line_));
 }
 
+// Upright and level lines lie on whole pixels; their right or lower edge is where
+// other controls have theirs that end there.
 void LineView::paintEvent(QPaintEvent*) {
-    const auto& [x1, y1, x2, y2, color, thickness] = shown_;
+    auto [from, to, stroke, thickness, color, roundEnds] = shown_;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const double density = devicePixelRatioF();
-    double pen = std::max(static_cast<double>(thickness) * pixelsPerTwip(), 1.0);
-    // Upright and level lines lie on whole pixels.
-    if (x1 == x2 || y1 == y2)
-        pen = std::max(1.0, std::round(pen * density)) / density;
-    const auto sharp = [&](double edge) {
-        return std::round((edge - pen / 2) * density) / density + pen / 2;
-    };
-    const double left = static_cast<double>(std::min(x1, x2) - thickness) - 15;
-    const double top = static_cast<double>(std::min(y1, y2) - thickness) - 15;
-    const auto point = [&](Twips x, Twips y) {
-        const QPointF raw((static_cast<double>(x) - left) * pixelsPerTwip(),
-                          (static_cast<double>(y) - top) * pixelsPerTwip());
-        return QPointF(x1 == x2 ? sharp(raw.x()) : raw.x(), y1 == y2 ? sharp(raw.y()) : raw.y());
-    };
-    painter.setPen(QPen(toQt(color), pen, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawLine(point(x1, y1), point(x2, y2));
+    const double whole = std::max(1.0, std::round(thickness * density)) / density;
+    const bool upright = from.x() == to.x();
+    const bool level = from.y() == to.y();
+    if (upright)
+        from.rx() = to.rx() = stroke.right() + 1 - whole / 2;
+    if (level)
+        from.ry() = to.ry() = stroke.bottom() + 1 - whole / 2;
+    if (level && !roundEnds) {
+        from.rx() = std::round(from.x());
+        to.rx() = std::round(to.x());
+    }
+    painter.setPen(QPen(toQt(color), upright || level ? whole : std::max(thickness, 1.0),
+                        Qt::SolidLine, roundEnds ? Qt::RoundCap : Qt::FlatCap, Qt::RoundJoin));
+    painter.drawLine(from, to);
 }
 
 PictureView::PictureView(Picture& picture, ScreenLink& link, QWidget* parent)

@@ -36,7 +36,16 @@ class LineView : public QWidget, public ControlView {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    using Look = std::tuple<Twips, Twips, Twips, Twips, Color, Twips>;
+    struct Look {  // in pixels of the widget
+        QPointF from;
+        QPointF to;
+        QRect stroke;  // with round ends, its edges rounded
+        double thickness = 0;
+        Color color = 0;
+        bool roundEnds = true;
+
+        bool operator==(const Look&) const = default;
+    };
     Line& line_;
     Look shown_;
 };
