@@ -156,6 +156,8 @@ void writeFile(const Place& file, std::string_view bytes) {
 
 void removeLeftovers(const Place& folder) {
     quietly("look for leftovers", [&] {
+        if (folder.disk().look(folder).kind == Disk::Kind::Nothing)
+            return;
         for (const Disk::Entry& entry : folder.disk().list(folder)) {
             if (entry.kind == Disk::Kind::File && Draft::isItsName(entry.name))
                 quietly("remove a leftover",

@@ -7,6 +7,7 @@
 
 #include "core/draft.h"
 #include "core/files.h"
+#include "tests/support/environment.h"
 #include "tests/support/faulty_disk.h"
 #include "tests/support/temp_folder.h"
 
@@ -151,7 +152,14 @@ TEST_F(Saving, LeftoversThatCannotBeRemovedAreNoMatter) {
     disk.breakDown(Operation::Remove);
     removeLeftovers({folder.path(), disk});
     EXPECT_TRUE(folder.has(kLeftover));
+}
+
+TEST_F(Saving, NobodyIsToldThatAFolderWithoutLeftoversIsMissing) {
+    ::testing::internal::CaptureStderr();
+    setVariable("QUILLOR_LOG", "1");
     removeLeftovers({folder / "none", disk});
+    clearVariable("QUILLOR_LOG");
+    EXPECT_EQ(::testing::internal::GetCapturedStderr(), "");
     EXPECT_FALSE(folder.has("none"));
 }
 
