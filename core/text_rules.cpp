@@ -155,6 +155,9 @@ WrappedPhrase wrapPhrase(TextView phrase) {
         const std::size_t next = std::min(phrase.find(u' ', from), phrase.size());
         if (static_cast<int>(next - from) <= room)
             continue;
+        // A row that its words fill exactly takes no blank behind it.
+        if (room == -1)
+            wrapped.shown.pop_back();
         if (++rows > kBoardRows) {
             wrapped.cut = true;
             return wrapped;

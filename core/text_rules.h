@@ -32,7 +32,8 @@ TextView eAlphabet(bool full);
 /// the length.
 Text eFoldAccents(TextView text);
 
-/// A phrase laid out in rows of 14 cells.
+/// A phrase laid out in rows of 14 cells. Between a row that its words fill exactly and the
+/// next row there is no blank.
 struct WrappedPhrase {
     Text shown;
     bool cut = false;  // it needed a fourth row, which was dropped

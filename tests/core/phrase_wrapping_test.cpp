@@ -39,8 +39,28 @@ TEST(Wrapping, KeepsAccentsAndCase) {
 }
 
 TEST(Wrapping, FitsAWordThatEndsExactlyAtTheRow) {
-    EXPECT_EQ(shown(u"abcdef ghijklm no"), u"abcdef ghijklm no");
     EXPECT_EQ(shown(u"abcdef ghijkl no"), u"abcdef ghijkl no");
+    EXPECT_EQ(shown(u"ab abcdefghijk"), u"ab abcdefghijk");
+}
+
+TEST(Wrapping, PutsNoBlankBehindARowThatIsExactlyFull) {
+    EXPECT_EQ(shown(u"abcdef ghijklm no"), u"abcdef ghijklmno");
+    EXPECT_EQ(shown(u"aaaaaaaaaaaaaa bb"), u"aaaaaaaaaaaaaabb");
+    EXPECT_EQ(shown(u"fried chickens now"), u"fried chickensnow");
+    EXPECT_EQ(shown(u"casa de muñeca en la luna llena"),
+              u"casa de muñecaen la luna    llena");
+}
+
+TEST(Wrapping, FillsThreeRowsWithThreeWordsOfFourteen) {
+    const WrappedPhrase wrapped = wrapPhrase(u"aaaaaaaaaaaaaa bbbbbbbbbbbbbb cccccccccccccc");
+    EXPECT_EQ(wrapped.shown, Text(14, u'a') + Text(14, u'b') + Text(14, u'c'));
+    EXPECT_FALSE(wrapped.cut);
+}
+
+TEST(Wrapping, CutsBehindAThirdRowThatIsExactlyFull) {
+    const WrappedPhrase wrapped = wrapPhrase(u"aaaaaaaaaaaaaa bbbbbbbbbbbbbb cccccccccccccc d");
+    EXPECT_EQ(wrapped.shown, Text(14, u'a') + Text(14, u'b') + Text(14, u'c'));
+    EXPECT_TRUE(wrapped.cut);
 }
 
 TEST(Wrapping, GivesConsecutiveBlanksACellEach) {
@@ -58,30 +78,29 @@ TEST(Wrapping, CutsBeforeAFourthRowAndKeepsTheLastBlank) {
     EXPECT_EQ(wrapped.shown, u"aaaaaaaaaa    bbbbbbbbbb    cccccccccc ");
 }
 
-TEST(Wrapping, PutsABlankAheadInTheRowBehindAFullOne) {
-    EXPECT_EQ(shown(u"aaaaaaaaaaaaaa bb"), u"aaaaaaaaaaaaaa bb");
-}
-
-// The words of a text, each with one blank behind it.
-Text words(TextView text) {
+// Reads the rows again as a player does: a word ends at a blank or at its row's end.
+Text words(TextView shown) {
     Text result;
-    for (const char16_t character : trimmed(text))
-        if (character != u' ' || result.back() != u' ')
-            result.push_back(character);
-    return result + u' ';
+    for (std::size_t i = 0; i < shown.size(); ++i) {
+        const bool rowStarts = i % kRowCells == 0 && !result.empty();
+        if ((shown[i] == u' ' || rowStarts) && !result.ends_with(u' '))
+            result.push_back(u' ');
+        if (shown[i] != u' ')
+            result.push_back(shown[i]);
+    }
+    return result;
 }
 
-TEST(Wrapping, KeepsTheWordsInOrderAndDropsOnlyTheLastOnes) {
+TEST(Wrapping, KeepsTheWordsWholeAndInOrderAndDropsOnlyTheLastOnes) {
     Random random(21);
-    for (int round = 0; round < 500; ++round) {
+    for (int round = 0; round < 2000; ++round) {
         Text phrase;
         for (int word = 0; word < 6; ++word)
-            phrase.append(static_cast<std::size_t>(1 + random.next() * 13), u'x').push_back(u' ');
-        phrase.pop_back();
-        const WrappedPhrase wrapped = wrapPhrase(phrase);
-        ASSERT_TRUE(words(phrase).starts_with(words(wrapped.shown))) << round;
-        ASSERT_EQ(wrapped.cut, words(phrase) != words(wrapped.shown)) << round;
-        ASSERT_LE(wrapped.shown.size(), 45U) << round;
+            phrase.append(static_cast<std::size_t>(1 + random.next() * 14), u'x').push_back(u' ');
+        const WrappedPhrase wrapped = wrapPhrase(trimmed(phrase));
+        ASSERT_TRUE(phrase.starts_with(trimmed(words(wrapped.shown)) + u' ')) << round;
+        ASSERT_EQ(wrapped.cut, trimmed(phrase) != trimmed(words(wrapped.shown))) << round;
+        ASSERT_LE(wrapped.shown.size(), static_cast<std::size_t>(kBoardCells)) << round;
     }
 }
 
