@@ -1,6 +1,7 @@
 // The life of screens: made by their factories, kept by id, set aside when closed.
 #include "app/program.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "app/menu_screen.h"
@@ -22,12 +23,12 @@ void Program::addScreen(ScreenId id, Factory factory) {
 }
 
 Screen& Program::load(ScreenId id) {
-    auto& screen = screens_[id];
-    if (!screen) {
-        screen = factories_.at(id)(*this);
-        screen->load();
+    Opened& entry = screens_[id];
+    if (!entry.screen) {
+        entry.screen = factories_.at(id)(*this);
+        entry.screen->load();
     }
-    return *screen;
+    return *entry.screen;
 }
 
 Screen& Program::show(ScreenId id) {
@@ -36,25 +37,53 @@ Screen& Program::show(ScreenId id) {
     return screen;
 }
 
+Screen& Program::showOver(ScreenId id, Screen& below, const ImageRef& paper,
+                          std::function<void()> accepted) {
+    Screen& screen = load(id);
+    screen.takePaper(paper);
+    screen.over = &below;
+    below.enabled = false;
+    Opened& entry = screens_[id];
+    entry.below = &below;
+    entry.accepted = std::move(accepted);
+    desktop.show(screen);
+    return screen;
+}
+
+void Program::accept(Screen& screen) {
+    const auto entry = entryOf(screen);
+    if (entry == screens_.end())
+        return;
+    if (const auto accepted = entry->second.accepted)
+        accepted();
+    close(screen);
+}
+
 Screen* Program::find(ScreenId id) const {
     const auto found = screens_.find(id);
-    return found == screens_.end() ? nullptr : found->second.get();
+    return found == screens_.end() ? nullptr : found->second.screen.get();
+}
+
+std::map<ScreenId, Program::Opened>::iterator Program::entryOf(const Screen& screen) {
+    return std::find_if(screens_.begin(), screens_.end(), [&screen](const auto& entry) {
+        return entry.second.screen.get() == &screen;
+    });
 }
 
 void Program::close(Screen& screen) {
-    for (auto entry = screens_.begin(); entry != screens_.end(); ++entry) {
-        if (entry->second.get() != &screen)
-            continue;
-        // Out of the table first: what unloading opens may be the same screen anew.
-        std::unique_ptr<Screen> closing = std::move(entry->second);
-        screens_.erase(entry);
-        for (Timer* timer : closing->timers())
-            timer->enabled = false;
-        closing->unload();
-        desktop.close(*closing);
-        closed_.push_back(std::move(closing));
+    const auto entry = entryOf(screen);
+    if (entry == screens_.end())
         return;
-    }
+    // Out of the table first: what unloading opens may be the same screen anew.
+    Opened closing = std::move(entry->second);
+    screens_.erase(entry);
+    for (Timer* timer : screen.timers())
+        timer->enabled = false;
+    if (closing.below)
+        closing.below->enabled = true;
+    screen.unload();
+    desktop.close(screen);
+    closed_.push_back(std::move(closing.screen));
 }
 
 void Program::end() {

@@ -38,6 +38,13 @@ class Program {
     /// made; so does `show`.
     Screen& load(ScreenId id);
     Screen& show(ScreenId id);
+    /// Shows a screen over another one, on whose paper it stands and which takes
+    /// no input until it has closed. `accepted` runs when it is accepted.
+    Screen& showOver(ScreenId id, Screen& below, const ImageRef& paper,
+                     std::function<void()> accepted);
+    /// A screen that stands over another one has done its work: runs what was
+    /// wished for then, and closes it.
+    void accept(Screen& screen);
     /// The loaded screen, or null.
     Screen* find(ScreenId id) const;
     /// Unloads and hides a screen; it is destroyed by `destroyClosed`. One that
@@ -51,8 +58,15 @@ class Program {
     void destroyClosed() { closed_.clear(); }
 
   private:
+    struct Opened {
+        std::unique_ptr<Screen> screen;
+        Screen* below = nullptr;         // takes no input meanwhile
+        std::function<void()> accepted;  // empty where it stands over none
+    };
+    std::map<ScreenId, Opened>::iterator entryOf(const Screen& screen);
+
     std::map<ScreenId, Factory> factories_;
-    std::map<ScreenId, std::unique_ptr<Screen>> screens_;
+    std::map<ScreenId, Opened> screens_;
     std::vector<std::unique_ptr<Screen>> closed_;
 };
 

@@ -5,16 +5,6 @@
 
 namespace quillor {
 
-void eCutPhrase(Program& program) {
-    GameSettings& settings = program.settings;
-    WrappedPhrase wrapped = wrapPhrase(settings.gsPhrase);
-    if (wrapped.cut)
-        program.desktop.messageBox(MessageIcon::Information, program.lang(texts::kPhraseCut));
-    settings.gsPhrase = eFoldAccents(settings.gsPhrase);
-    settings.gsShownPhrase = wrapped.shown;
-    settings.gsCutPhrase = std::move(wrapped.shown);
-}
-
 int ePasteText(Program& program, TextView text, TextView selected, int caret) {
     PastedText pasted = ePasteText(text, selected, caret, program.desktop.clipboard());
     program.settings.gsTextResult = std::move(pasted.text);

@@ -8,10 +8,6 @@ namespace quillor {
 /// The web search: what is sought stands behind it.
 inline constexpr TextView kSearchEngine = u"http://www.bing.com/search?q=";
 
-/// Lays `gsPhrase` out for the board (`gsShownPhrase`, `gsCutPhrase`) and folds
-/// it. Says so when the phrase needs more than three rows and is cut.
-void eCutPhrase(Program& program);
-
 /// The clipboard's text in place of every occurrence of the selected text, or
 /// at the caret when nothing is selected; the new text is in `gsTextResult`.
 /// Returns the new caret position.

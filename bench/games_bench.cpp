@@ -101,11 +101,13 @@ void layOutBoard(benchmark::State& state) {
     setPalette(program.settings);
     addGameScreens(program);
     auto& game = dynamic_cast<frmGame&>(program.load(ScreenId::Game));
-    program.settings.gsShownPhrase = u"THE LONGEST    PHRASE THAT   FITS A BOARD";
-    program.settings.giGameState = kPlaying;
-    for (auto round : state) {
-        game.board.clear();
-        game.board.ePutMagicWord();
+    program.settings.gsPhrase = u"THE LONGEST PHRASE THAT FITS A BOARD";
+    eCutPhrase(program.settings);
+    startRound(program.settings, game.round);
+    for (auto turn : state) {
+        game.board.clear(program.settings);
+        ePutMagicWord(program.settings, game.round);
+        game.board.layOut(program.settings, game.round);
     }
 }
 BENCHMARK(layOutBoard);

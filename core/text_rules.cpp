@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace quillor {
 
@@ -166,6 +167,14 @@ WrappedPhrase wrapPhrase(TextView phrase) {
         wrapped.shown.append(static_cast<std::size_t>(std::max(room, 0)), u' ');
         room = kRowCells;
     }
+}
+
+bool eCutPhrase(GameSettings& settings) {
+    WrappedPhrase wrapped = wrapPhrase(settings.gsPhrase);
+    settings.gsPhrase = eFoldAccents(settings.gsPhrase);
+    settings.gsShownPhrase = wrapped.shown;
+    settings.gsCutPhrase = std::move(wrapped.shown);
+    return wrapped.cut;
 }
 
 Color eDarkShade(Color color) {

@@ -40,6 +40,10 @@ struct WrappedPhrase {
 };
 WrappedPhrase wrapPhrase(TextView phrase);
 
+/// Lays `gsPhrase` out for the board (`gsShownPhrase`, `gsCutPhrase`) and folds
+/// it, whole. Returns whether it was cut for the board, which the caller says.
+bool eCutPhrase(GameSettings& settings);
+
 /// Each component lowered to a multiple of 10 and to at most 50.
 Color eDarkShade(Color color);
 

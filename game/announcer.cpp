@@ -1,18 +1,17 @@
-// Sentences put together from the board and the record.
+// Sentences put together from the round and the record.
 #include "game/announcer.h"
 
 #include "core/numbers.h"
-#include "game/game_screen.h"
 
 namespace quillor {
 
 namespace {
 
-const TextPair& wordsFor(GuessResult result) {
-    switch (result) {
-        case GuessResult::Found:
+const TextPair& wordsFor(Happened happened) {
+    switch (happened) {
+        case Happened::Found:
             return texts::kSpokenFound;
-        case GuessResult::Repeated:
+        case Happened::Repeated:
             return texts::kSpokenRepeated;
         default:
             return texts::kSpokenMistake;
@@ -21,42 +20,46 @@ const TextPair& wordsFor(GuessResult result) {
 
 }  // namespace
 
-Announcer::Announcer(frmGame& game) : game_(game) {
+Text spelled(const Round& round) {
+    Text text;
+    for (const Cell& cell : round.cells) {
+        if (!cell.isLetter())
+            continue;
+        if (cell.startsWord && !text.empty())
+            text += u", ";
+        if (!cell.isFound())
+            text += u"_ ";
+        else
+            text +=
+                Text(1, round.hiddenLetters && cell.state == CellState::Found ? u'?'
+                                                                              : cell.character) +
+                u" ";
+    }
+    return text;
+}
+
+Announcer::Announcer(Program& program) : program_(program) {
     lblSpoken.id = "lblSpoken";
     lblSpoken.role = LabelRole::Notification;
+    lblSpoken.literal = true;
 }
 
-Text Announcer::board() const {
-    Text spelled;
-    for (int cell = 1; cell <= game_.board.cells(); ++cell) {
-        const bool isLetter = game_.board.isLetter(cell);
-        if (!isLetter && spelled.ends_with(u", "))
-            continue;
-        if (isLetter)
-            spelled += game_.board.isFound(cell) ? game_.board.lblLetter(cell).caption : Text(u"_");
-        spelled += isLetter ? u" " : u", ";
-    }
-    return spelled;
+void Announcer::sayNewGame(const Round& round) {
+    lblSpoken.caption = program_.lang(texts::kTopicLabel) + u": " + program_.settings.gsTopicName +
+                        u". " + program_.lang(texts::kSpokenLetters) + inDigits(round.letters()) +
+                        u". " + spelled(round);
 }
 
-void Announcer::sayNewGame() {
-    const Program& program = game_.program;
-    lblSpoken.caption = program.lang(texts::kTopicLabel) + u": " + game_.settings.gsTopicName +
-                        u". " + program.lang(texts::kSpokenLetters) +
-                        inDigits(game_.board.letters()) + u". " + board();
-}
-
-void Announcer::sayGuess(char16_t key, GuessResult result) {
-    const Program& program = game_.program;
-    lblSpoken.caption = Text(1, key) + program.lang(wordsFor(result)) +
-                        program.lang(texts::kSpokenMistakes) + inDigits(game_.settings.giStrikes) +
-                        program.lang(texts::kSpokenOfSix) + board();
+void Announcer::sayGuess(char16_t key, Happened happened, const Round& round) {
+    lblSpoken.caption =
+        Text(1, key) + program_.lang(wordsFor(happened)) + program_.lang(texts::kSpokenMistakes) +
+        inDigits(program_.settings.giStrikes) + program_.lang(texts::kSpokenOfSix) + spelled(round);
 }
 
 void Announcer::sayEnding() {
-    const bool dead = game_.settings.giGameState == kDead;
-    lblSpoken.caption = game_.program.lang(dead ? texts::kDead : texts::kVictory) + u" " +
-                        game_.program.lang(texts::kSpokenAnswer) + game_.settings.gsPhrase;
+    const bool dead = program_.settings.giGameState == kDead;
+    lblSpoken.caption = program_.lang(dead ? texts::kDead : texts::kVictory) + u" " +
+                        program_.lang(texts::kSpokenAnswer) + program_.settings.gsPhrase;
 }
 
 }  // namespace quillor

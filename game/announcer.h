@@ -1,29 +1,26 @@
 // What happens in the game, in words, for players who do not see it.
 #pragma once
 
-#include "core/types.h"
-#include "game/guess_result.h"
-#include "toolkit/controls.h"
+#include "app/program.h"
+#include "game/rules/round.h"
 
 namespace quillor {
 
-class frmGame;
-
 class Announcer {
   public:
-    explicit Announcer(frmGame& game);
+    explicit Announcer(Program& program);
 
     Label lblSpoken;  // never drawn; spoken whenever its caption changes
 
-    void sayNewGame();
-    void sayGuess(char16_t key, GuessResult result);
+    void sayNewGame(const Round& round);
+    void sayGuess(char16_t key, Happened happened, const Round& round);
     void sayEnding();
 
   private:
-    /// The phrase spelled as the board shows it, with its gaps.
-    Text board() const;
-
-    frmGame& game_;
+    Program& program_;
 };
+
+/// The phrase spelled as the board shows it, with its gaps.
+Text spelled(const Round& round);
 
 }  // namespace quillor

@@ -54,20 +54,23 @@ void frmGame::layOutBar() {
     lblBluebar.opaque = true;
     add(lblBluebar).place(0, 0, width, kBarHeight);
     const Font big{Face::Display, 17, true};
-    add(describe(setUp.lblMode, "lblMode", style::kBarText, kPale, Align::Left))
-        .place(360, 90, 3600, 540);
-    add(describe(lifeCycle.lblStatus, "lblStatus", big, kPale, Align::Center))
-        .place(4080, 90, 5040, 540);
-    add(describe(scoring.lblScore, "lblScore", big, kPale, Align::Right))
-        .place(8640, 90, 3540, 540);
-    for (Label* label : {&setUp.lblMode, &lifeCycle.lblStatus, &scoring.lblScore})
+    add(describe(lblMenu, "lblMenu", style::kBarText, kPale, Align::Center))
+        .place(240, 90, 1020, 540);
+    lblMenu.role = LabelRole::Button;
+    lblMenu.cornerRadius = style::kButtonRadius;
+    add(describe(lblMode, "lblMode", style::kBarText, kPale, Align::Left))
+        .place(1440, 90, 2760, 540);
+    add(describe(status.lblStatus, "lblStatus", big, kPale, Align::Center))
+        .place(4260, 90, 4680, 540);
+    add(describe(score.lblScore, "lblScore", big, kPale, Align::Right)).place(8640, 90, 3540, 540);
+    for (Label* label : {&lblMenu, &lblMode, &status.lblStatus, &score.lblScore})
         label->opaque = true;
     sounds.shpWave.id = "shpWave";
     add(sounds.shpWave).place(12300, 90, 600, 540);
     Label& wave = describe(sounds.lblWave(0), "lblWave(0)", style::kSymbol, kPale, Align::Center);
     wave.role = LabelRole::CheckBox;
     add(wave).place(12300, 90, 600, 540);
-    add(describe(setUp.lblHey, "lblHey", style::kText, rgb(90, 90, 90), Align::Center))
+    add(describe(lblHey, "lblHey", style::kText, rgb(90, 90, 90), Align::Center))
         .place(2100, kFooter, width - 4200, 360);
 }
 
@@ -125,23 +128,24 @@ void frmGame::layOutStrikes() {
     constexpr Twips kLeft = kLeftColumn + 60;
     constexpr Twips kTop = 5220;
     constexpr Twips kHeight = 540;
-    guesses.shpStrikes.id = "shpStrikes";
-    guesses.shpStrikes.backColor = rgb(255, 255, 255);
-    guesses.shpStrikes.borderColor = kEdge;
-    guesses.shpStrikes.borderWidth = 15;
-    guesses.shpStrikes.radius = 60;
-    add(guesses.shpStrikes).place(kLeft, kTop, kBox * Guesses::kStrikes, kHeight);
-    for (int i = 0; i <= Guesses::kStrikes; ++i) {
+    strikes.shpStrikes.id = "shpStrikes";
+    strikes.shpStrikes.backColor = rgb(255, 255, 255);
+    strikes.shpStrikes.borderColor = kEdge;
+    strikes.shpStrikes.borderWidth = 15;
+    strikes.shpStrikes.radius = 60;
+    add(strikes.shpStrikes).place(kLeft, kTop, kBox * kMostMistakes, kHeight);
+    for (int i = 0; i <= kMostMistakes; ++i) {
         const Twips x = kLeft + kBox * static_cast<Twips>(i);
-        Line& edge = guesses.lnStrike(i);
+        Line& edge = strikes.lnStrike(i);
         edge.thickness = 45;
         edge.span(x, kTop, x, kTop + kHeight);
         add(edge);
     }
-    for (int i = 0; i < Guesses::kStrikes; ++i) {
-        Label& box = guesses.lblStrike(i);
+    for (int i = 0; i < kMostMistakes; ++i) {
+        Label& box = strikes.lblStrike(i);
         box.font = {Face::Display, 18, true};
         box.textColor = rgb(200, 20, 20);
+        box.literal = true;
         add(box).place(kLeft + kBox * static_cast<Twips>(i) + 30, kTop, kBox - 60, kHeight);
     }
 }
@@ -150,10 +154,10 @@ void frmGame::layOutStrikes() {
 void frmGame::layOutControls() {
     constexpr Twips kButtonLeft = kLeftColumn + 60;
     constexpr Twips kButtonWidth = kLeftWidth - 120;
-    lifeCycle.shpPlay.id = "shpPlay";
-    lifeCycle.shpPlay.radius = style::kButtonRadius;
-    add(lifeCycle.shpPlay).place(kButtonLeft, 5940, kButtonWidth, 840);
-    Label& play = describe(lifeCycle.lblPlay(0), "lblPlay(0)", {Face::Display, 15, true}, kPale,
+    playButton.shpPlay.id = "shpPlay";
+    playButton.shpPlay.radius = style::kButtonRadius;
+    add(playButton.shpPlay).place(kButtonLeft, 5940, kButtonWidth, 840);
+    Label& play = describe(playButton.lblPlay(0), "lblPlay(0)", {Face::Display, 15, true}, kPale,
                            Align::Center);
     play.role = LabelRole::Button;
     play.cornerRadius = style::kButtonRadius;
@@ -174,33 +178,33 @@ void frmGame::layOutControls() {
     add(webSearch.lblFinder(0)).place(kButtonLeft + 660, 6960, kButtonWidth - 780, 600);
     webSearch.offer(false);
 
-    colors.lblColor.visible = false;
-    add(describe(colors.lblColor, "lblColor", {Face::Plain, 8, false}, rgb(120, 120, 120),
+    accent.lblColor.visible = false;
+    add(describe(accent.lblColor, "lblColor", {Face::Plain, 8, false}, rgb(120, 120, 120),
                  Align::Right))
         .place(11160, kFooter + 60, 1740, 240);
 
-    add(describe(countDown.lblTime, "lblTime", {Face::Display, 24, true}, kInk, Align::Right))
+    add(describe(clock.lblTime, "lblTime", {Face::Display, 24, true}, kInk, Align::Right))
         .place(11100, 960, 1800, 600);
-    countDown.lblTime.visible = false;
+    clock.lblTime.visible = false;
 
     // Both labels rise by the same numbers; the bonus does so one line lower.
-    scoring.frmePoints.id = "frmePoints";
-    add(scoring.frmePoints).place(8100, kBarHeight, 4800, 1260);
-    add(describe(scoring.lblPoints, "lblPoints", {Face::Display, 24, true}, kInk, Align::Right),
-        &scoring.frmePoints)
+    score.frmePoints.id = "frmePoints";
+    add(score.frmePoints).place(8100, kBarHeight, 4800, 1260);
+    add(describe(score.lblPoints, "lblPoints", {Face::Display, 24, true}, kInk, Align::Right),
+        &score.frmePoints)
         .place(0, 660, 4800, 540);
-    scoring.frmeBonus.id = "frmeBonus";
-    add(scoring.frmeBonus).place(8100, kBarHeight + 510, 4800, 1080);
-    add(describe(scoring.lblBonus, "lblBonus", style::kText, kInk, Align::Right),
-        &scoring.frmeBonus)
+    score.frmeBonus.id = "frmeBonus";
+    add(score.frmeBonus).place(8100, kBarHeight + 510, 4800, 1080);
+    add(describe(score.lblBonus, "lblBonus", style::kText, kInk, Align::Right), &score.frmeBonus)
         .place(0, 660, 4800, 360);
-    scoring.lblBonus.visible = scoring.lblPoints.visible = false;
+    score.lblBonus.visible = score.lblPoints.visible = false;
 }
 
 void frmGame::layOutBoard() {
     constexpr Twips kCell = 495;
     constexpr Twips kAcross = 600;
     constexpr Twips kDown = 720;
+    board.lblTopic.literal = true;
     add(describe(board.lblTopic, "lblTopic", {Face::Display, 20, true}, kInk, Align::Center))
         .place(4560, 960, 6960, 600);
     board.shpLimit.id = "shpLimit";
@@ -218,6 +222,7 @@ void frmGame::layOutBoard() {
         const Twips top = kDown * static_cast<Twips>((i - 1) / kRowCells);
         cell.place(left, top, kCell, kCell);
         cell.font = {Face::Display, 24, true};
+        cell.literal = true;
         cell.visible = false;
         Line& underline = board.lnLetter(i);
         underline.span(left, top + 480, left + 480, top + 480);
@@ -234,38 +239,38 @@ void frmGame::layOutBoard() {
 void frmGame::layOutKeyboard() {
     constexpr int kDigits = 28;
     constexpr Twips kDigitPitch = (kRightWidth + 90) / 11;
-    Frame& keyboard = guesses.frmeBoard;
-    keyboard.id = "frmeBoard";
-    keyboard.visible = false;
-    add(keyboard).place(kRightColumn, 4800, kRightWidth, 4 * kKeyRow);
-    Frame& digits = guesses.frmeNumbers;
+    Frame& letters = keyboard.frmeBoard;
+    letters.id = "frmeBoard";
+    letters.visible = false;
+    add(letters).place(kRightColumn, 4800, kRightWidth, 4 * kKeyRow);
+    Frame& digits = keyboard.frmeNumbers;
     digits.id = "frmeNumbers";
     digits.visible = false;
-    add(digits, &keyboard).place(0, 3 * kKeyRow, kRightWidth, kKeyHeight);
+    add(digits, &letters).place(0, 3 * kKeyRow, kRightWidth, kKeyHeight);
 
     const auto put = [&](int key, Frame& frame, Twips left, Twips top, Twips keyWidth) {
-        Shape& face = guesses.shpKey(key);
+        Shape& face = keyboard.shpKey(key);
         face.borderColor = kEdge;
         face.borderWidth = 15;
         face.radius = kKeyRadius;
         add(face, &frame).place(left, top, keyWidth, kKeyHeight);
-        Label& label = guesses.lblKey(key);
+        Label& label = keyboard.lblKey(key);
         label.font = {Face::Display, 19, true};
         label.role = LabelRole::Button;
         label.cornerRadius = kKeyRadius;
         add(label, &frame).place(left, top, keyWidth, kKeyHeight);
     };
     for (int key = 1; key < kDigits; ++key)
-        put(key, keyboard, kKeyPitch * static_cast<Twips>((key - 1) % kKeysInRow),
+        put(key, letters, kKeyPitch * static_cast<Twips>((key - 1) % kKeysInRow),
             kKeyRow * static_cast<Twips>((key - 1) / kKeysInRow), kKeyWidth);
-    put(Guesses::kNumbersKey, keyboard, 7 * kKeyPitch, 2 * kKeyRow, kKeyWidth);
-    put(Guesses::kWriteKey, keyboard, 8 * kKeyPitch, 2 * kKeyRow, kKeyPitch + kKeyWidth);
-    for (int key = kDigits; key <= Guesses::kLastGuessKey; ++key)
+    put(Keyboard::kNumbersKey, letters, 7 * kKeyPitch, 2 * kKeyRow, kKeyWidth);
+    put(Keyboard::kWriteKey, letters, 8 * kKeyPitch, 2 * kKeyRow, kKeyPitch + kKeyWidth);
+    for (int key = kDigits; key <= Keyboard::kLastGuessKey; ++key)
         put(key, digits, kDigitPitch * static_cast<Twips>(key - kDigits), 0, kDigitPitch - 90);
-    put(Guesses::kHideNumbersKey, digits, 10 * kDigitPitch, 0, kDigitPitch - 90);
-    guesses.lblKey(Guesses::kNumbersKey).font = style::kSmallButton;
-    guesses.lblKey(Guesses::kWriteKey).font = style::kSmallButton;
-    guesses.lblKey(Guesses::kHideNumbersKey).font = style::kSmallButton;
+    put(Keyboard::kHideNumbersKey, digits, 10 * kDigitPitch, 0, kDigitPitch - 90);
+    keyboard.lblKey(Keyboard::kNumbersKey).font = style::kSmallButton;
+    keyboard.lblKey(Keyboard::kWriteKey).font = style::kSmallButton;
+    keyboard.lblKey(Keyboard::kHideNumbersKey).font = style::kSmallButton;
 }
 
 }  // namespace quillor

@@ -1,85 +1,83 @@
-// Wiring: the parts with each other, the mouse and the keys with the parts.
+// Wiring: the parts with the rules, the mouse and the keys with the parts.
 #include "game/game_screen.h"
 
 #include <memory>
 
-#include "toolkit/style.h"
+#include "toolkit/press_feedback.h"
 
 namespace quillor {
 
-frmGame::frmGame(Program& programToUse)
+frmGame::frmGame(Program& program)
     : Screen("frmGame"),
-      program(programToUse),
-      settings(programToUse.settings),
-      menu(programToUse, *this, {[this] { lifeCycle.eBackStart(); }}),
-      sounds(programToUse, menu.mWave),
-      webSearch(programToUse),
-      setUp(*this),
-      board(*this),
-      guesses(*this),
-      figure(settings, guesses.lblStrike, sounds, [this] { answer.eFinalStep(); }),
-      scoring(*this),
-      countDown(*this),
-      lifeCycle(*this),
-      ways(*this),
-      answer(*this),
-      announcer(*this),
-      colors(programToUse, coloredControls()),
-      animations(settings, {lifeCycle.lblStatus, scoring.lblPoints, scoring.lblBonus,
-                            scoring.lblScore, scoring.tmrScore}) {
+      menu(program, commands()),
+      sounds(program),
+      webSearch(program),
+      board(imgBack(2)),
+      keyboard(program, {[this](char16_t key) { guess(key); }, [this] { eEnterWord(); },
+                         [this] { playButton.leave(); }}),
+      score(program),
+      clock(program, [this] { passSecond(); }),
+      status(program),
+      playButton(program, [this] { keyboard.leaveKeys(); }),
+      announcer(program),
+      accent(program, [this](Color color) { paintAccent(color); }),
+      program_(program),
+      settings_(program.settings) {
     layOut();
     addTimers();
     connect();
 }
 
-ColoredControls frmGame::coloredControls() {
-    return {board.lblLetter,
-            board.lnLetter,
-            guesses.lblKey,
-            guesses.shpKey,
-            guesses.lnStrike,
-            {&lifeCycle.shpPlay, &sounds.shpWave, &webSearch.shpFinder},
-            {&lifeCycle.lblStatus, &scoring.lblScore, &setUp.lblMode, &lblBluebar},
-            menu.mColor};
+GameMenu::Commands frmGame::commands() {
+    return {[this] { mBack_Click(); },
+            [this] { mReboot_Click(); },
+            [this](int index) { mDoWay_Click(index); },
+            [this](int index) { mDoWayAll_Click(index); },
+            [this] { eEnterWord(); },
+            [this] { eChangeSound(); },
+            [this] { mHelpy_Click(); },
+            [this] { mHide_Click(); },
+            [this] { mColor_Click(); }};
 }
 
 void frmGame::addTimers() {
-    for (Timer* timer : {&colors.tmrSmooth, &countDown.tmrTime, &sounds.tmrSound,
-                         &animations.tmrState, &figure.tmrDead, &colors.tmrColor, &scoring.tmrScore,
-                         &animations.tmrBlood, &animations.tmrUp})
+    for (Timer* timer :
+         {&accent.tmrSmooth, &clock.tmrTime, &sounds.tmrSound, &status.tmrState, &figure.tmrDead,
+          &accent.tmrColor, &score.tmrScore, &score.tmrBlood, &score.tmrUp})
         add(*timer);
 }
 
-// What the mouse does on the background and on everything that is no key.
 void frmGame::connect() {
-    menu.mWrite.onClick = [this] { answer.eEnterWord(); };
-    const auto leaveButtons = [this] {
-        colors.leaveKeys();
-        lifeCycle.leavePlay();
-    };
-    for (Picture& picture : imgBack) {
-        picture.onMouseMove = leaveButtons;
-        picture.onRightClick = [this] { menu.popUp(); };
-    }
-    for (Label* label :
-         {&lblBluebar, &board.lblCont, &scoring.lblScore, &lifeCycle.lblStatus, &board.lblTopic,
-          &countDown.lblTime, &webSearch.lblFinder(0), &webSearch.lblFinder(1), &sounds.lblWave(0),
-          &setUp.lblMode, &setUp.lblHey})
-        label->onMouseMove = leaveButtons;
+    playButton.lblPlay(0).onClick = [this] { ePlayButton(); };
+    sounds.lblWave(0).onClick = [this] { eChangeSound(); };
+    lblMenu.onClick = [this] { popUpMenu(&lblMenu); };
+    showPress(lblMenu, lblMenu.textColor, settings_.glGrey, settings_.glWhite);
+    // What the mouse moves over beside the keys puts their light out.
+    for (Picture& picture : imgBack)
+        picture.onMouseMove = [this] { mouseLeftButtons(); };
+    for (Label* label : {&lblBluebar, &lblMenu, &lblMode, &lblHey, &board.lblCont, &board.lblTopic,
+                         &score.lblScore, &status.lblStatus, &clock.lblTime,
+                         &webSearch.lblFinder(0), &webSearch.lblFinder(1), &sounds.lblWave(0)})
+        label->onMouseMove = [this] { mouseLeftButtons(); };
     for (Label& cell : board.lblLetter)
-        cell.onMouseMove = leaveButtons;
-    for (Label& box : guesses.lblStrike)
-        box.onMouseMove = leaveButtons;
-    guesses.frmeBoard.onMouseMove = leaveButtons;
-    for (int key = 1; key <= Guesses::kWriteKey; ++key) {
-        Label& label = guesses.lblKey(key);
-        label.onMouseMove = [this, key] {
-            lifeCycle.leavePlay();
-            colors.hoverKey(key);
-        };
-        label.onMouseDown = [this, key] { colors.pressKey(key); };
-        label.onMouseUp = [this, key] { colors.hoverKey(key); };
-    }
+        cell.onMouseMove = [this] { mouseLeftButtons(); };
+    for (Label& box : strikes.lblStrike)
+        box.onMouseMove = [this] { mouseLeftButtons(); };
+}
+
+void frmGame::mouseLeftButtons() {
+    keyboard.leaveKeys();
+    playButton.leave();
+}
+
+void frmGame::paintAccent(Color color) {
+    for (Line& line : strikes.lnStrike)
+        line.color = color;
+    playButton.setAccent(color);
+    sounds.shpWave.backColor = color;
+    webSearch.shpFinder.backColor = color;
+    for (Label* label : {&status.lblStatus, &score.lblScore, &lblMode, &lblMenu, &lblBluebar})
+        label->backColor = color;
 }
 
 void frmGame::takePaper(const ImageRef& paper) {
@@ -87,19 +85,8 @@ void frmGame::takePaper(const ImageRef& paper) {
         picture.image = paper;
 }
 
-void frmGame::showIdlePage(bool idle) {
-    for (Picture& picture : imgBack)
-        picture.drawing = idle ? style::kIdleDrawing : "";
-}
-
-void frmGame::alignPaper(Picture& picture, const Frame& frame) {
-    picture.left = -frame.left;
-    picture.top = -frame.top;
-}
-
-void frmGame::enableRepeatAndTour() {
-    menu.mDoWay(kRepeat).enabled = true;
-    menu.mDoWay(kTour).enabled = true;
+void frmGame::popUpMenu(const Control* under) {
+    program_.desktop.popUp(*this, menu.mMenu, under);
 }
 
 void frmGame::onKeyDown(KeyEvent& event) {
@@ -107,55 +94,19 @@ void frmGame::onKeyDown(KeyEvent& event) {
         case key::kReturn:
             // A held key is one press: it must not run through games.
             if (!event.autoRepeat)
-                lifeCycle.ePlayButton();
-            break;
-        case key::kF2:
-            menu.mBack_Click();
-            break;
-        case key::kF3:
-            menu.mReboot_Click();
+                ePlayButton();
             break;
         case key::kContextMenu:
-            menu.popUp();
+            popUpMenu(nullptr);
+            break;
+        case key::kF10:
+            popUpMenu(&lblMenu);
             break;
         default:
-            if (!runShortcut(event))
+            if (!menu.runShortcut(event))
                 return;
     }
     event.handled = true;
-}
-
-bool frmGame::runShortcut(const KeyEvent& event) {
-    if (!event.onlyControl())
-        return false;
-    switch (event.code) {
-        case 'E':
-            answer.eEnterWord();
-            return true;
-        case 'M':
-            ways.mDoWay_Click(kManual);
-            return true;
-        case 'R':
-            ways.mDoWay_Click(kRepeat);
-            return true;
-        case 'T':
-            ways.mDoWay_Click(kTour);
-            return true;
-        case 'A':
-            ways.mDoWayAll_Click(0);
-            return true;
-        case 'S':
-            sounds.eChangeSound();
-            return true;
-        case 'L':
-            ways.mHelpy_Click();
-            return true;
-        case 'O':
-            ways.mHide_Click();
-            return true;
-        default:
-            return false;
-    }
 }
 
 void frmGame::onKeyPress(char16_t character) {
@@ -164,9 +115,9 @@ void frmGame::onKeyPress(char16_t character) {
                         character == u'ñ';
     const bool digit = character >= u'0' && character <= u'9';
     if (letter || digit)
-        guesses.guess(character);
+        guess(character);
     else if (character == u'!')
-        answer.eEnterWord();
+        eEnterWord();
     else if (character == u'?' && webSearch.lblFinder(0).visible)
         webSearch.lblFinder_Click();
 }

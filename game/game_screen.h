@@ -1,88 +1,118 @@
-// The game screen: puts its parts together and hands events to them.
+// The game screen: owns a round and the parts that show it, and leads events to
+// the rules and what they say to the parts.
 #pragma once
 
-#include "app/phrase_taker.h"
 #include "app/program.h"
 #include "game/announcer.h"
-#include "game/answer.h"
-#include "game/count_down.h"
-#include "game/guesses.h"
-#include "game/life_cycle.h"
+#include "game/keyboard.h"
 #include "game/phrase_board.h"
-#include "game/scoring.h"
-#include "game/selection_ways.h"
-#include "game/set_up.h"
+#include "game/rules/round.h"
+#include "game/score_line.h"
+#include "game/status.h"
 #include "toolkit/screen.h"
-#include "ui/colors.h"
+#include "ui/accent.h"
 #include "ui/figure.h"
 #include "ui/game_menu.h"
 #include "ui/sounds.h"
-#include "ui/status_animations.h"
 #include "ui/web_search.h"
 
 namespace quillor {
 
-class frmGame : public Screen, public PhraseTaker {
+class frmGame : public Screen {
   public:
     explicit frmGame(Program& program);
 
-    Program& program;
-    GameSettings& settings;
+    Round round;
 
     ControlArray<Picture, 0, 2> imgBack{"imgBack"};  // the screen, the figure, the board
     Label lblBluebar;
-
-    // In the order in which they need each other.
+    Label lblMenu;  // opens the menu
+    Label lblMode;
+    Label lblHey;  // the greeting, then tips
     GameMenu menu;
     Sounds sounds;
     WebSearch webSearch;
-    SetUp setUp;
     PhraseBoard board;
-    Guesses guesses;
+    Keyboard keyboard;
+    StrikeBoxes strikes;
     Figure figure;
-    Scoring scoring;
-    CountDown countDown;
-    LifeCycle lifeCycle;
-    SelectionWays ways;
-    Answer answer;
+    ScoreLine score;
+    ClockLine clock;
+    StatusLine status;
+    PlayButton playButton;
     Announcer announcer;
-    Colors colors;
-    StatusAnimations animations;
+    Accent accent;
 
     void takePaper(const ImageRef& paper) override;
-    /// Between two games something is drawn where the board and the keys will be.
-    void showIdlePage(bool idle);
-    Control* initialFocus() override { return &lifeCycle.lblPlay(0); }
+    Control* initialFocus() override { return &playButton.lblPlay(0); }
 
-    void eDoWay(std::int16_t way) override { ways.eDoWay(way); }
-    void ePlayNewGame() override { lifeCycle.ePlayNewGame(); }
-    void enableRepeatAndTour() override;
-    void setGameEnabled(bool isEnabled) override { enabled = isEnabled; }
-    ImageRef paper() const override { return imgBack(0).image; }
-    const Screen& screen() const override { return *this; }
-
-    /// The picture in a frame lines up with the one behind the frame.
-    static void alignPaper(Picture& picture, const Frame& frame);
+    /// Starts the phrase that is in the record now.
+    void ePlayNewGame();
+    /// Rebuilds the window title from mode, games, settings and tour.
+    void eChangeTitle();
+    /// Shows a tip drawn at random.
+    void ePutSomeLucky();
 
   protected:
-    void onLoad() override { setUp.Form_Load(); }
-    void onUnload() override { scoring.keepScore(); }
+    void onLoad() override;  // game_set_up.cpp, as are the next three
+    void onUnload() override { score.keepScore(); }
     void onKeyDown(KeyEvent& event) override;
     void onKeyPress(char16_t character) override;
-    void onCloseRequest() override { program.end(); }
+    void onContextMenu() override { popUpMenu(nullptr); }
+    void onCloseRequest() override { program_.end(); }
 
   private:
-    void layOut();  // game_layout.cpp, as are the next five
+    void layOut();  // game_layout.cpp, as are the next six
     void layOutBar();
     void layOutFigure();
     void layOutBoard();
     void layOutKeyboard();
     void layOutControls();
     void layOutStrikes();
+
     void addTimers();
     void connect();
-    bool runShortcut(const KeyEvent& event);
-    ColoredControls coloredControls();
+    GameMenu::Commands commands();
+    void paintAccent(Color color);
+    void popUpMenu(const Control* under);
+    void mouseLeftButtons();
+
+    void eLoadData();
+    void eTranslate();
+
+    // game_play.cpp: from the play button to the ending.
+    void ePlayButton();
+    void eContinueToPlay();
+    void dealNextPhrase();
+    void eResetGame();
+    void takeHint();
+    void guess(char16_t key);
+    void eEnterWord();
+    void passSecond();
+    void show(Happened happened);
+    void endGame(Happened how);
+    void showRound();
+    void showIdlePage(bool idle);
+
+    // game_commands.cpp: what else the menu and the keys do.
+    bool mayLeaveGame();
+    bool confirmsLeaving();
+    void eBackStart();
+    void mBack_Click();
+    void mReboot_Click();
+    void mDoWay_Click(int index);
+    void mDoWayAll_Click(int index);
+    void eChangeSound();
+    void mHelpy_Click();
+    void mHide_Click();
+    void mColor_Click();
+    void saveSwitches();
+
+    void say(const TextPair& text);
+
+    Program& program_;
+    GameSettings& settings_;
+    bool topicDealt_ = false;  // Repeat and Tour have a topic to start from
 };
 
 /// Makes the game screen known to the program.

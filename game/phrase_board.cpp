@@ -1,50 +1,44 @@
-// Cells are laid out once a game; afterwards they are only shown or hidden.
+// Cells find their places once a game; afterwards they only show or hide.
 #include "game/phrase_board.h"
 
-#include <algorithm>
-
 #include "core/numbers.h"
-#include "game/game_screen.h"
+#include "core/texts.h"
+#include "ui/letter_design.h"
 
 namespace quillor {
 
-PhraseBoard::PhraseBoard(frmGame& game) : game_(game) {}
+namespace {
 
-int PhraseBoard::cells() const {
-    return std::min(static_cast<int>(game_.settings.gsShownPhrase.size()), kBoardCells);
+Text captionOf(const Cell& cell, const Round& round) {
+    const bool covered = cell.isLetter() && cell.state != CellState::Given;
+    return Text(1, round.hiddenLetters && covered ? u'?' : cell.character);
 }
 
-void PhraseBoard::ePutMagicWord() {
-    if (game_.settings.giGameState == kPlaying)
-        layOut();
-    else
-        uncover();
-}
+}  // namespace
 
-void PhraseBoard::layOut() {
-    BlankCells = 0;
-    widestCell_ = 0;
-    for (int cell = 1; cell <= cells(); ++cell)
-        layOutCell(cell);
-    frmeMagic.height += lblCont.height;
-    showCount(0);
-    lblCont.visible = true;
-    ePutAllCenter();
-    if (game_.settings.gbFirstLetter)
-        game_.guesses.eHelpLetter();
-}
-
-void PhraseBoard::layOutCell(int cell) {
-    const char16_t character = game_.settings.gsShownPhrase.at(static_cast<std::size_t>(cell - 1));
-    Label& label = lblLetter(cell);
-    lblTopic.caption = game_.settings.gsTopicName;
-    label.caption = Text(1, character);
-    if (character == u' ') {
-        ++BlankCells;
+void PhraseBoard::ePutDesign(GameSettings& settings) {
+    if (settings.giDesign < 0 || settings.giDesign >= kDesigns)
         return;
-    }
-    if (game_.menu.mHide.checked)
-        label.caption = u"?";
+    for (int cell = 1; cell <= kBoardCells; ++cell)
+        paintLetter(lblLetter(cell), lnLetter(cell), settings.giDesign, settings);
+    settings.glDesignColor = lblLetter(1).textColor;
+}
+
+void PhraseBoard::layOut(const GameSettings& settings, const Round& round) {
+    widestCell_ = 0;
+    lblTopic.caption = settings.gsTopicName;
+    for (std::size_t i = 0; i < round.cells.size(); ++i)
+        placeCell(static_cast<int>(i) + 1, round.cells[i]);
+    frmeMagic.height += lblCont.height;
+    show(settings, round);
+    ePutAllCenter();
+}
+
+// Frame and counter end up at the last letter of the phrase.
+void PhraseBoard::placeCell(int cell, const Cell& state) {
+    if (!state.isLetter())
+        return;
+    const Label& label = lblLetter(cell);
     lnLetter(cell).visible = true;
     lblCont.left = label.right() - lblCont.width;
     lblCont.top = label.bottom();
@@ -55,15 +49,16 @@ void PhraseBoard::layOutCell(int cell) {
     }
 }
 
-void PhraseBoard::uncover() {
-    for (int cell = 1; cell <= cells(); ++cell) {
-        Label& label = lblLetter(cell);
-        if (!label.visible && game_.settings.giGameState == kDead)
-            label.textColor = game_.settings.glRed;
-        if (lnLetter(cell).visible)
-            label.visible = true;
-        label.caption = Text(1, game_.settings.gsCutPhrase.at(static_cast<std::size_t>(cell - 1)));
+void PhraseBoard::show(const GameSettings& settings, const Round& round) {
+    for (std::size_t i = 0; i < round.cells.size(); ++i) {
+        const Cell& cell = round.cells[i];
+        Label& label = lblLetter(static_cast<int>(i) + 1);
+        label.visible = cell.isFound();
+        label.caption = captionOf(cell, round);
+        label.textColor = cell.state == CellState::Missed ? settings.glRed : settings.glDesignColor;
     }
+    lblCont.visible = settings.giGameState == kPlaying;
+    lblCont.caption = inDigits(round.found()) + u"/" + inDigits(round.letters());
 }
 
 // The board stands a little left of the centre of its area: four fifths of the
@@ -71,24 +66,23 @@ void PhraseBoard::uncover() {
 void PhraseBoard::ePutAllCenter() {
     frmeMagic.top = shpLimit.top + shpLimit.height / 2 - frmeMagic.height / 2;
     frmeMagic.left = (shpLimit.width / 2 - frmeMagic.width / 2) * 0.8F + shpLimit.left - 120;
-    frmGame::alignPaper(game_.imgBack(2), frmeMagic);
+    alignPaper(paper_, frmeMagic);
 }
 
-void PhraseBoard::clear() {
+void PhraseBoard::clear(const GameSettings& settings) {
     for (int cell = 1; cell <= kBoardCells; ++cell) {
         lblLetter(cell).caption.clear();
-        lblLetter(cell).textColor = game_.settings.glDesignColor;
+        lblLetter(cell).textColor = settings.glDesignColor;
         lblLetter(cell).visible = false;
         lnLetter(cell).visible = false;
     }
+    lblCont.visible = false;
+    lblTopic.caption = eLang(settings, texts::kNoTopicShown);
 }
 
-void PhraseBoard::showCount(int found) {
-    lblCont.caption = inDigits(found) + u"/" + inDigits(letters());
-}
-
-int PhraseBoard::foundShown() const {
-    return static_cast<int>(leadingNumber(lblCont.caption));
+void alignPaper(Picture& picture, const Frame& frame) {
+    picture.left = -frame.left;
+    picture.top = -frame.top;
 }
 
 }  // namespace quillor

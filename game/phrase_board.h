@@ -3,16 +3,17 @@
 #pragma once
 
 #include "core/text_rules.h"
+#include "game/rules/round.h"
 #include "toolkit/control_array.h"
 #include "toolkit/controls.h"
 
 namespace quillor {
 
-class frmGame;
-
 class PhraseBoard {
   public:
-    explicit PhraseBoard(frmGame& game);
+    /// `paper` is the picture inside the board's frame, which lines up with the
+    /// one behind the frame.
+    explicit PhraseBoard(Picture& paper) : paper_(paper) {}
 
     Shape shpLimit;  // the area available for the board
     Frame frmeMagic;
@@ -21,35 +22,25 @@ class PhraseBoard {
     Label lblCont;
     Label lblTopic;
 
-    /// Spaces in the laid-out phrase, counted as far as the board reaches.
-    int BlankCells = 0;
-
-    /// Lays out a new board while a game is being played; otherwise uncovers
-    /// the whole phrase, unfound letters in red after a death.
-    void ePutMagicWord();
+    /// Ink and background of the letters by `giDesign`; an unknown design leaves
+    /// them as they are.
+    void ePutDesign(GameSettings& settings);
+    /// A new phrase: cells, frame and counter find their places.
+    void layOut(const GameSettings& settings, const Round& round);
+    /// What has been found so far, and the counter while the game goes on.
+    void show(const GameSettings& settings, const Round& round);
     void ePutAllCenter();
     /// Hides every cell and underline.
-    void clear();
-
-    /// Characters of the laid-out phrase that have a cell; cells past the 42nd
-    /// do not exist.
-    int cells() const;
-    /// Characters to find.
-    int letters() const { return cells() - BlankCells; }
-    /// Shows "found/letters".
-    void showCount(int found);
-    /// The number before the "/".
-    int foundShown() const;
-    bool isLetter(int cell) const { return lnLetter(cell).visible; }
-    bool isFound(int cell) const { return lblLetter(cell).visible; }
+    void clear(const GameSettings& settings);
 
   private:
-    void layOut();
-    void layOutCell(int cell);
-    void uncover();
+    void placeCell(int cell, const Cell& state);
 
-    frmGame& game_;
+    Picture& paper_;
     Twips widestCell_ = 0;
 };
+
+/// The picture in a frame lines up with the one behind the frame.
+void alignPaper(Picture& picture, const Frame& frame);
 
 }  // namespace quillor

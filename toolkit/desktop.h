@@ -20,6 +20,8 @@ struct TimeOfDay {
     int hour = 0;
     int minute = 0;
     int second = 0;
+
+    bool operator==(const TimeOfDay&) const = default;
 };
 
 /// Injected by reference into everything that needs it. Calls that show a box

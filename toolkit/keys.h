@@ -13,8 +13,10 @@ inline constexpr int kRight = 39;
 inline constexpr int kDelete = 46;
 inline constexpr int kContextMenu = 93;
 inline constexpr int kKeypad0 = 96;  // keypad digits are 96..105
+inline constexpr int kF1 = 112;
 inline constexpr int kF2 = 113;
 inline constexpr int kF3 = 114;
+inline constexpr int kF10 = 121;
 }  // namespace key
 
 /// A key going down. A handler that sets `handled` keeps the key from the

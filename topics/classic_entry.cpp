@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "app/shared_operations.h"
 #include "core/text_rules.h"
 
 namespace quillor {
@@ -37,7 +36,7 @@ void frmWord1::connect() {
 
 void frmWord1::onLoad() {
     eTranslate();
-    standOverGame();
+    colour();
     txtTheme.setText(settings_.gsClassicTopic);
     if (txtTheme.text().empty())
         txtTheme.setText(placeholder());
@@ -116,9 +115,9 @@ void frmWord1::lblOk_Click() {
     settings_.gsPhrase = upperCase(trimmed(phrase));
     settings_.gsTopicName = upperCase(trimmed(txtTheme.text()));
     settings_.gsClassicTopic = trimmed(txtTheme.text());
-    eCutPhrase(program_);
-    phraseTaker(program_).ePlayNewGame();
-    program_.close(*this);
+    if (eCutPhrase(settings_))
+        program_.desktop.messageBox(MessageIcon::Information, program_.lang(texts::kPhraseCut));
+    program_.accept(*this);
 }
 
 }  // namespace quillor

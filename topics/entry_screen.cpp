@@ -1,6 +1,8 @@
 // Looks, wiring and texts of what both screens have.
 #include "topics/entry_screen.h"
 
+#include "toolkit/press_feedback.h"
+
 namespace quillor {
 
 EntryScreen::EntryScreen(const std::string& screenName, Program& program)
@@ -33,8 +35,7 @@ void EntryScreen::layOutAccept(Twips top) {
 void EntryScreen::connectAccept(const std::function<void()>& handler) {
     for (Label& label : lblOk) {
         label.onClick = handler;
-        label.onMouseDown = [this] { shpOk.backColor = settings_.glGreen; };
-        label.onMouseUp = [this] { shpOk.backColor = settings_.glRed; };
+        showPress(label, shpOk.backColor, settings_.glGreen, settings_.glRed);
     }
 }
 
@@ -43,13 +44,9 @@ void EntryScreen::translateAccept() {
     lblOk(0).spokenName = lblOk(1).caption;
 }
 
-void EntryScreen::standOverGame() {
-    PhraseTaker& game = phraseTaker(program_);
-    over = &game.screen();
-    game.setGameEnabled(false);
+void EntryScreen::colour() {
     shpFond.backColor = shpFond.borderColor = settings_.glTheme;
     shpOk.backColor = settings_.glRed;
-    imgBack.image = game.paper();
 }
 
 }  // namespace quillor

@@ -5,7 +5,6 @@
 
 #include <functional>
 
-#include "app/phrase_taker.h"
 #include "app/program.h"
 #include "toolkit/screen.h"
 #include "toolkit/style.h"
@@ -36,10 +35,8 @@ class EntryScreen : public Screen {
     void enableAccept(bool now) { lblOk(0).enabled = lblOk(1).enabled = now; }
     void translateAccept();
 
-    /// Disables the game and takes its paper and the colours over. Throws
-    /// std::bad_cast when no game is loaded.
-    void standOverGame();
-    void onUnload() override { phraseTaker(program_).setGameEnabled(true); }
+    /// Panel and button in the colours of the game.
+    void colour();
     void onCloseRequest() override { program_.close(*this); }
 
     Program& program_;

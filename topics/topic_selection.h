@@ -1,8 +1,5 @@
-// The topic selection screen: lists the topics, takes a selection way, and
-// deals a phrase of the chosen topic to the game.
+// The topic selection screen: lists the topics and takes a selection way.
 #pragma once
-
-#include <cstdint>
 
 #include "topics/entry_screen.h"
 
@@ -20,11 +17,6 @@ class frmWord2 : public EntryScreen {
 
     Control* initialFocus() override { return &lstTopics; }
 
-    /// Deals a phrase of the topic at that place of the list (which is the
-    /// topic's index) and starts a game with it. A topic with too few phrases,
-    /// or an error, is said in a box, and no game starts.
-    void eChoiceTopic(std::int16_t listIndex);
-
   protected:
     void onLoad() override;
 
@@ -37,10 +29,6 @@ class frmWord2 : public EntryScreen {
     void lblOk_Click();
     void eChangeMode(int step);
     void lstTopics_KeyDown(KeyEvent& event);
-    void choose(std::int16_t topicIndex);
-    void nameTopic(const Topic& topic);
-    void dealPhrase(const Topic& topic, int phrases);
-    void tellGame();
 
     int pendingMode_ = 0;
 };

@@ -1,50 +1,37 @@
 // The pieces' places at rest, and the one drop away from them.
 #include "ui/figure.h"
 
-#include <utility>
+#include <algorithm>
+
+#include "core/texts.h"
 
 namespace quillor {
 
-Figure::Figure(GameSettings& settings, const Strikes& strikes, Sounds& sounds,
-               std::function<void()> finalStep)
-    : settings_(settings), strikes_(strikes), sounds_(sounds), finalStep_(std::move(finalStep)) {
+void StrikeBoxes::eTranslate(const GameSettings& settings) {
+    for (int i = 0; i < kMostMistakes; ++i)
+        lblStrike(i).toolTip = eLang(settings, texts::kMistakeTips.at(static_cast<std::size_t>(i)));
+}
+
+void StrikeBoxes::show(const Round& round) {
+    for (int i = 0; i < kMostMistakes; ++i)
+        lblStrike(i).caption =
+            round.mistakes.substr(std::min(static_cast<std::size_t>(i), round.mistakes.size()), 1);
+}
+
+Figure::Figure() {
     tmrDead.id = "tmrDead";
     tmrDead.interval = 100;
     tmrDead.onTick = [this] { tmrDead_Timer(); };
 }
 
-void Figure::showPiece(int strike, bool shown) {
-    switch (strike) {
-        case 0:
-            shpPrt0.visible = shpPrt1.visible = lnNeck.visible = shown;
-            break;
-        case 1:
-            shpPrt2.visible = shown;
-            break;
-        case 2:
-            shpPrt3.visible = shown;
-            break;
-        case 3:
-            shpPrt4.visible = shown;
-            break;
-        default:
-            shpPrt5.visible = shown;
-            break;
-    }
-}
-
-void Figure::ePutItHangman() {
-    for (int strike = 0; strike < Strikes::kLast; ++strike) {
-        const bool shown = !strikes_(strike).caption.empty();
-        showPiece(strike, shown);
-        if (shown)
-            sounds_.request(sound::kMistake);
-    }
-    if (strikes_(Strikes::kLast).caption.empty())
-        return;
-    shpPrt6.visible = true;
-    settings_.giGameState = kDead;
-    finalStep_();
+void Figure::ePutItHangman(int mistakes) {
+    shpPrt0.visible = shpPrt1.visible = lnNeck.visible = mistakes >= 1;
+    shpPrt2.visible = mistakes >= 2;
+    shpPrt3.visible = mistakes >= 3;
+    shpPrt4.visible = mistakes >= 4;
+    shpPrt5.visible = mistakes >= 5;
+    if (mistakes >= 6)
+        shpPrt6.visible = true;
 }
 
 void Figure::eResetHangman() {

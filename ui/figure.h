@@ -1,24 +1,26 @@
-// The hanged man: eight pieces that appear one mistake at a time, and the drop
-// that ends a lost game.
+// What mistakes look like: the boxes that hold the wrong keys, and the hanged
+// man, whose pieces appear one mistake at a time until the drop.
 #pragma once
 
-#include <functional>
-
 #include "core/game_settings.h"
+#include "game/rules/round.h"
 #include "toolkit/control_array.h"
 #include "toolkit/controls.h"
-#include "ui/sounds.h"
 
 namespace quillor {
 
+struct StrikeBoxes {
+    Shape shpStrikes;  // the ground of the boxes
+    ControlArray<Line, 0, kMostMistakes> lnStrike{"lnStrike"};
+    ControlArray<Label, 0, kMostMistakes - 1> lblStrike{"lblStrike"};
+
+    void eTranslate(const GameSettings& settings);
+    void show(const Round& round);
+};
+
 class Figure {
   public:
-    using Strikes = ControlArray<Label, 0, 5>;
-
-    /// Which pieces show is read from the captions of `strikes`. `finalStep`
-    /// closes the game when the sixth one fills.
-    Figure(GameSettings& settings, const Strikes& strikes, Sounds& sounds,
-           std::function<void()> finalStep);
+    Figure();
 
     Frame frmeMan;
     Line lnStick1;
@@ -36,20 +38,14 @@ class Figure {
     Shape shpPrt7;  // the platform; falls at death
     Timer tmrDead;
 
-    /// Brings the pieces into line with the strikes. The sixth one ends the
-    /// game; the second leg is hidden by eResetHangman only.
-    void ePutItHangman();
+    /// Brings the pieces into line with the mistakes, 0..6. The second leg is
+    /// hidden by eResetHangman only.
+    void ePutItHangman(int mistakes);
     /// Every piece back to rest, the face calm. A drop still to come is called off.
     void eResetHangman();
 
   private:
-    void showPiece(int strike, bool shown);
     void tmrDead_Timer();
-
-    GameSettings& settings_;
-    const Strikes& strikes_;
-    Sounds& sounds_;
-    std::function<void()> finalStep_;
 };
 
 }  // namespace quillor

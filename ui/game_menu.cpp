@@ -1,47 +1,67 @@
-// The tree of entries with its shortcuts, and what the plain commands do.
 #include "ui/game_menu.h"
 
-#include <utility>
-
-#include "app/shared_operations.h"
 #include "config/version.h"
 #include "core/files.h"
 
 namespace quillor {
 
 namespace {
+
 constexpr TextView kVersionNumber = u"" QUILLOR_VERSION;
+
+// As shown beside the caption.
+Text shortcutText(int code, bool withControl) {
+    if (code >= key::kF1)
+        return u"F" + Text(1, static_cast<char16_t>(u'1' + code - key::kF1));
+    return withControl ? u"Ctrl+" + Text(1, static_cast<char16_t>(code)) : Text();
+}
+
 }  // namespace
 
-GameMenu::GameMenu(Program& program, Screen& gameScreen, Commands commands)
-    : program_(program), screen_(gameScreen), commands_(std::move(commands)) {
+GameMenu::GameMenu(Program& program, const Commands& commands)
+    : program_(program), entries_(entries(commands)) {
     nameItems();
     buildTree();
-    mBack.onClick = [this] { mBack_Click(); };
-    mReboot.onClick = [this] { mReboot_Click(); };
-    mAbout.onClick = [this] { mAbout_Click(); };
-    mHelp.onClick = [this] { mHelp_Click(); };
+    for (const Entry& entry : entries_) {
+        entry.item.onClick = entry.action;
+        entry.item.shortcut = shortcutText(entry.key, entry.withControl);
+    }
+}
+
+std::vector<GameMenu::Entry> GameMenu::entries(const Commands& commands) {
+    const auto way = [&commands](int index) {
+        return [run = commands.mDoWay_Click, index] { run(index); };
+    };
+    const auto wayAll = [&commands](int index) {
+        return [run = commands.mDoWayAll_Click, index] { run(index); };
+    };
+    return {
+        {mBack, texts::kMenuBack, key::kF2, false, commands.mBack_Click},
+        {mReboot, texts::kMenuReboot, key::kF3, false, commands.mReboot_Click},
+        {mDoWay(0), texts::kMenuManual, 'M', true, way(0)},
+        {mDoWay(1), texts::kMenuRepeat, 'R', true, way(1)},
+        {mDoWay(2), texts::kMenuTour, 'T', true, way(2)},
+        {mDoWayAll(0), texts::kMenuAnyTopic, 'A', true, wayAll(0)},
+        {mDoWayAll(1), texts::kMenuHidden, 0, false, wayAll(1)},
+        {mWrite, texts::kMenuWrite, 'E', true, commands.eEnterWord},
+        {mWave, texts::kMenuSounds, 'S', true, commands.eChangeSound},
+        {mHelpy, texts::kMenuFirstLetter, 'L', true, commands.mHelpy_Click},
+        {mHide, texts::kMenuHiddenLetters, 'O', true, commands.mHide_Click},
+        {mColor, texts::kMenuColors, 0, false, commands.mColor_Click},
+        {mAbout, texts::kMenuAbout, 0, false, [this] { mAbout_Click(); }},
+        {mHelp, texts::kMenuHelp, 0, false, [this] { mHelp_Click(); }},
+    };
 }
 
 void GameMenu::nameItems() {
     mMenu.id = "mMenu";
     mBack.id = "mBack";
-    mBack.shortcut = u"F2";
     mReboot.id = "mReboot";
-    mReboot.shortcut = u"F3";
     mAuto.id = "mAuto";
-    mDoWay(0).shortcut = u"Ctrl+M";
-    mDoWay(1).shortcut = u"Ctrl+R";
-    mDoWay(2).shortcut = u"Ctrl+T";
-    mDoWayAll(0).shortcut = u"Ctrl+A";
     mWrite.id = "mWrite";
-    mWrite.shortcut = u"Ctrl+E";
     mWave.id = "mWave";
-    mWave.shortcut = u"Ctrl+S";
     mHelpy.id = "mHelpy";
-    mHelpy.shortcut = u"Ctrl+L";
     mHide.id = "mHide";
-    mHide.shortcut = u"Ctrl+O";
     mColor.id = "mColor";
     mAbout.id = "mAbout";
     mHelp.id = "mHelp";
@@ -52,14 +72,9 @@ void GameMenu::nameItems() {
 void GameMenu::buildTree() {
     for (MenuItem* item : {&mWave, &mHelpy, &mHide, &mColor})
         item->checkable = true;
-    for (MenuItem& item : mDoWay)
-        item.checkable = true;
-    for (MenuItem& item : mDoWayAll)
-        item.checkable = true;
+    for (MenuItem* item : {&mDoWay(0), &mDoWay(1), &mDoWay(2), &mDoWayAll(0), &mDoWayAll(1)})
+        item->checkable = item->radio = true;
     mDoWay(0).checked = true;
-    // Repeat and Tour need a topic to start from: the first deal enables them.
-    mDoWay(1).enabled = mDoWay(2).enabled = false;
-    mWrite.enabled = false;
     const auto line = [this](std::size_t number) { return &separators_.at(number - 1); };
     mAuto.children = {&mDoWay(0), &mDoWay(1), &mDoWay(2), line(2), &mDoWayAll(0), &mDoWayAll(1)};
     mMenu.children = {&mBack, &mReboot, line(1), &mAuto,  line(3), &mWrite, line(4),
@@ -67,58 +82,56 @@ void GameMenu::buildTree() {
 }
 
 void GameMenu::eTranslate() {
-    const auto caption = [this](MenuItem& item, const TextPair& pair) {
-        item.caption = program_.lang(pair);
-    };
-    caption(mMenu, texts::kMenuName);
-    caption(mBack, texts::kMenuBack);
-    caption(mReboot, texts::kMenuReboot);
-    caption(mAuto, texts::kMenuSelection);
-    caption(mDoWay(0), texts::kMenuManual);
-    caption(mDoWay(1), texts::kMenuRepeat);
-    caption(mDoWay(2), texts::kMenuTour);
-    caption(mDoWayAll(0), texts::kMenuAnyTopic);
-    caption(mDoWayAll(1), texts::kMenuHidden);
-    caption(mWrite, texts::kMenuWrite);
-    caption(mWave, texts::kMenuSounds);
-    caption(mHelpy, texts::kMenuFirstLetter);
-    caption(mHide, texts::kMenuHiddenLetters);
-    caption(mColor, texts::kMenuColors);
-    caption(mAbout, texts::kMenuAbout);
-    caption(mHelp, texts::kMenuHelp);
+    mMenu.caption = program_.lang(texts::kMenuName);
+    mAuto.caption = program_.lang(texts::kMenuSelection);
+    for (const Entry& entry : entries_)
+        entry.item.caption = program_.lang(entry.caption);
 }
 
-bool GameMenu::mayLeaveGame() {
-    const bool yes = program_.desktop.question(program_.lang(texts::kLeaveGame));
-    return yes && program_.settings.giGameState == kPlaying;
+void GameMenu::show(bool topicDealt) {
+    const GameSettings& settings = program_.settings;
+    mAuto.enabled = !settings.gbClassicMode;
+    mDoWay(kRepeat).enabled = mDoWay(kTour).enabled = topicDealt;
+    mWrite.enabled = settings.giGameState == kPlaying;
+    mWave.checked = settings.gbUseSounds;
+    mColor.checked = settings.gbColorTransition;
+    eActivateAuto();
+    eCheckOthers();
 }
 
-void GameMenu::mBack_Click() {
-    if (program_.settings.giGameState != kPlaying) {
-        commands_.eBackStart();
-        return;
+void GameMenu::eActivateAuto() {
+    const std::int16_t way = program_.settings.giWay;
+    for (int i = 0; i <= 2; ++i)
+        mDoWay(i).checked = way == kManual + i;
+    for (int i = 0; i <= 1; ++i)
+        mDoWayAll(i).checked = way == kAnyTopic + i;
+}
+
+void GameMenu::eCheckOthers() {
+    mHelpy.checked = program_.settings.gbFirstLetter;
+    mHide.checked = program_.settings.gbHiddenLetters;
+}
+
+bool GameMenu::runShortcut(const KeyEvent& event) const {
+    for (const Entry& entry : entries_) {
+        if (entry.key == 0 || entry.key != event.code ||
+            (entry.withControl && !event.onlyControl()))
+            continue;
+        const bool isWay = entry.item.radio;
+        if (entry.item.enabled && (mAuto.enabled || !isWay) && !event.autoRepeat)
+            entry.action();
+        return true;
     }
-    if (program_.settings.giStrikes >= kTooManyMistakes)
-        program_.desktop.messageBox(MessageIcon::Information,
-                                    program_.lang(texts::kTooManyMistakes));
-    else if (mayLeaveGame())
-        commands_.eBackStart();
+    return false;
 }
 
-// Unlike going back, restarting is allowed whatever the number of mistakes.
-void GameMenu::mReboot_Click() {
-    if (program_.settings.giGameState == kPlaying && !mayLeaveGame())
-        return;
-    eRestartGame(program_, screen_);
-}
-
-void GameMenu::mAbout_Click() {
+void GameMenu::mAbout_Click() const {
     const Text further = Text(texts::kMakers) + u"\r\n" + Text(texts::kProgramName) +
                          program_.lang(texts::kVersion) + Text(kVersionNumber);
     program_.desktop.aboutBox(texts::kProgramName, further);
 }
 
-void GameMenu::mHelp_Click() {
+void GameMenu::mHelp_Click() const {
     const auto manual = program_.folder / "Quillor-Manual.txt";
     if (eFileExists(manual))
         program_.desktop.open(manual);

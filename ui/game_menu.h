@@ -1,9 +1,9 @@
-// The game's menu: its entries in order, and the commands that leave or restart
-// the game, show the About box and open the manual.
+// The game's menu: its entries, each with its key and what it does.
 #pragma once
 
 #include <array>
 #include <functional>
+#include <vector>
 
 #include "app/program.h"
 
@@ -11,19 +11,27 @@ namespace quillor {
 
 class GameMenu {
   public:
-    /// What the menu asks of the game screen it belongs to.
+    /// What the entries do; those that are switches have been turned by then.
     struct Commands {
-        std::function<void()> eBackStart;  // leaves for the main menu
+        std::function<void()> mBack_Click;
+        std::function<void()> mReboot_Click;
+        std::function<void(int)> mDoWay_Click;     // 0 Manual, 1 Repeat, 2 Tour
+        std::function<void(int)> mDoWayAll_Click;  // 0 Any topic, 1 Hidden
+        std::function<void()> eEnterWord;
+        std::function<void()> eChangeSound;
+        std::function<void()> mHelpy_Click;
+        std::function<void()> mHide_Click;
+        std::function<void()> mColor_Click;
     };
 
-    GameMenu(Program& program, Screen& gameScreen, Commands commands);
+    GameMenu(Program& program, const Commands& commands);
 
     MenuItem mMenu;
     MenuItem mBack;
     MenuItem mReboot;
     MenuItem mAuto;
-    ControlArray<MenuItem, 0, 2> mDoWay{"mDoWay"};        // Manual, Repeat, Tour
-    ControlArray<MenuItem, 0, 1> mDoWayAll{"mDoWayAll"};  // Any topic, Hidden
+    ControlArray<MenuItem, 0, 2> mDoWay{"mDoWay"};
+    ControlArray<MenuItem, 0, 1> mDoWayAll{"mDoWayAll"};
     MenuItem mWrite;
     MenuItem mWave;
     MenuItem mHelpy;
@@ -33,29 +41,35 @@ class GameMenu {
     MenuItem mHelp;
 
     void eTranslate();
-    void popUp() { program_.desktop.popUp(screen_, mMenu); }
-
-    void mBack_Click();
-    void mReboot_Click();
-    void mAbout_Click();
-    void mHelp_Click();
-
-    /// Asks whether to leave the game in play. False, whatever was answered,
-    /// when the game ended while the question stood.
-    bool mayLeaveGame();
+    /// Enables and checks the entries by the record. Repeat and Tour need a
+    /// topic to start from: the first deal brings it.
+    void show(bool topicDealt);
+    /// Checks the entry of the saved way.
+    void eActivateAuto();
+    /// Checks the help switches as they are saved.
+    void eCheckOthers();
+    /// Runs the entry whose shortcut the key is, if it is enabled; the first
+    /// press of a held key only. Returns whether it is any entry's key.
+    bool runShortcut(const KeyEvent& event) const;
 
   private:
+    struct Entry {
+        MenuItem& item;
+        const TextPair& caption;
+        int key;  // 0: none
+        bool withControl;
+        std::function<void()> action;
+    };
+
     void nameItems();
+    std::vector<Entry> entries(const Commands& commands);
     void buildTree();
+    void mAbout_Click() const;
+    void mHelp_Click() const;
 
     Program& program_;
-    Screen& screen_;
-    Commands commands_;
     std::array<MenuItem, 5> separators_;
+    const std::vector<Entry> entries_;
 };
-
-/// From this many mistakes on, a player may not run from a game to another one
-/// or to the main menu.
-inline constexpr int kTooManyMistakes = 4;
 
 }  // namespace quillor

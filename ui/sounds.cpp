@@ -4,7 +4,7 @@
 #include <stdexcept>
 
 #include "core/guard.h"
-#include "core/settings_file.h"
+#include "toolkit/press_feedback.h"
 #include "toolkit/symbols.h"
 
 namespace quillor {
@@ -14,15 +14,11 @@ constexpr int kFirstSound = 101;
 constexpr int kLastPlayed = 6;  // the seventh sound is carried but never asked for
 }  // namespace
 
-Sounds::Sounds(Program& program, MenuItem& mWave)
-    : program_(program), settings_(program.settings), mWave_(mWave) {
+Sounds::Sounds(Program& program) : program_(program), settings_(program.settings) {
     tmrSound.id = "tmrSound";
     tmrSound.interval = 20;
     tmrSound.onTick = [this] { tmrSound_Timer(); };
-    mWave_.onClick = [this] { eChangeSound(); };
-    lblWave(0).onClick = [this] { eChangeSound(); };
-    lblWave(0).onMouseDown = [this] { lblWave(0).textColor = settings_.glGrey; };
-    lblWave(0).onMouseUp = [this] { lblWave(0).textColor = settings_.glWhite; };
+    showPress(lblWave(0), lblWave(0).textColor, settings_.glGrey, settings_.glWhite);
 }
 
 void Sounds::load() {
@@ -54,10 +50,8 @@ void Sounds::tmrSound_Timer() {
     tmrSound.enabled = false;
 }
 
-void Sounds::eChangeSound() {
-    settings_.gbUseSounds = !settings_.gbUseSounds;
-    eActiveSound();
-    eSaveSettings(settings_, program_.folder);
+void Sounds::eTranslate() {
+    lblWave(0).spokenName = program_.lang(texts::kSpokenSounds);
 }
 
 void Sounds::eActiveSound() {
@@ -65,7 +59,6 @@ void Sounds::eActiveSound() {
     lblWave(0).caption = on ? symbols::kLoudspeaker : symbols::kLoudspeakerOff;
     lblWave(0).toolTip = program_.lang(on ? texts::kSoundsOnTip : texts::kSoundsOffTip);
     lblWave(0).checked = on;
-    mWave_.checked = on;
 }
 
 }  // namespace quillor

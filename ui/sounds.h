@@ -21,8 +21,7 @@ inline constexpr int kGoodLetter = 6;
 
 class Sounds {
   public:
-    /// `mWave` is the menu's switch, kept in step with the loudspeaker.
-    Sounds(Program& program, MenuItem& mWave);
+    explicit Sounds(Program& program);
 
     ControlArray<Label, 0, 0> lblWave{"lblWave"};
     Shape shpWave;
@@ -37,8 +36,9 @@ class Sounds {
     void name(int soundToPlay) { SoundToPlay_ = soundToPlay; }
     /// Plays what is named, if sounds are on.
     void playNamed();
+    /// Shows on the loudspeaker whether sounds are on.
     void eActiveSound();
-    void eChangeSound();
+    void eTranslate();
 
   private:
     static constexpr int kSounds = 7;
@@ -48,7 +48,6 @@ class Sounds {
 
     Program& program_;
     GameSettings& settings_;
-    MenuItem& mWave_;
     int SoundToPlay_ = sound::kNone;
     std::array<std::span<const std::byte>, kSounds> images_{};
 };

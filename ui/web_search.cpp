@@ -3,6 +3,7 @@
 
 #include "app/shared_operations.h"
 #include "core/text_rules.h"
+#include "toolkit/press_feedback.h"
 
 namespace quillor {
 
@@ -16,8 +17,7 @@ WebSearch::WebSearch(Program& program) : program_(program) {
     for (Label& label : lblFinder) {
         label.onClick = [this] { lblFinder_Click(); };
         // Whichever element is pressed, the caption shows it.
-        label.onMouseDown = [this] { lblFinder(0).textColor = program_.settings.glGrey; };
-        label.onMouseUp = [this] { lblFinder(0).textColor = program_.settings.glWhite; };
+        showPress(label, lblFinder(0).textColor, program.settings.glGrey, program.settings.glWhite);
     }
 }
 

@@ -12,7 +12,7 @@
 #include "qt/paint/symbol_painter.h"
 #include "qt/windows/qt_values.h"
 #include "toolkit/symbols.h"
-#include "ui/colors.h"
+#include "ui/accent.h"
 
 namespace quillor {
 

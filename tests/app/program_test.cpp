@@ -1,7 +1,6 @@
 // Opening and closing of screens, and the operations that several share.
 #include "app/program.h"
 
-#include "app/phrase_taker.h"
 #include "app/shared_operations.h"
 #include "tests/app/app_fixture.h"
 
@@ -43,10 +42,30 @@ TEST_F(Screens, ThatAreNotKnownCannotBeShown) {
     EXPECT_EQ(program.find(ScreenId::Word1), nullptr);
 }
 
-TEST_F(Screens, ThatTakeNoPhraseAreNoPhraseTakers) {
-    EXPECT_THROW(phraseTaker(program), std::bad_cast);
-    show(ScreenId::Game);
-    EXPECT_THROW(phraseTaker(program), std::bad_cast);
+TEST_F(Screens, ThatStandOverAnotherHoldItStill) {
+    frmMenu& below = menu();
+    const auto paper = std::make_shared<FakeImage>("paper");
+    auto& above = dynamic_cast<frmStart&>(program.showOver(ScreenId::Start, below, paper, {}));
+    EXPECT_FALSE(below.enabled);
+    EXPECT_EQ(above.over, &below);
+    EXPECT_EQ(above.imgBack(0).image, paper);
+    program.close(above);
+    EXPECT_TRUE(below.enabled);
+    program.destroyClosed();
+}
+
+TEST_F(Screens, AreAcceptedBeforeTheyClose) {
+    frmMenu& below = menu();
+    int times = 0;
+    Screen& above = program.showOver(ScreenId::Start, below, {}, [&] {
+        EXPECT_FALSE(below.enabled);
+        ++times;
+    });
+    program.accept(above);
+    program.accept(above);
+    EXPECT_EQ(times, 1);
+    EXPECT_TRUE(below.enabled);
+    program.destroyClosed();
 }
 
 class Restart : public AppTest {};
@@ -76,31 +95,6 @@ TEST_F(Restart, ReadsTheLanguageAnew) {
     desktop.deliver([&] { eRestartGame(program, caller); });
     desktop.advance(kWholeLine);
     EXPECT_EQ(as<frmMenu>(ScreenId::Menu).title, u"Quillor | Start");
-}
-
-class CutPhrase : public AppTest {};
-
-TEST_F(CutPhrase, LaysOutAndFoldsThePhrase) {
-    settings().gsPhrase = u"Ünica ópera añil";
-    eCutPhrase(program);
-    EXPECT_EQ(settings().gsShownPhrase, u"Ünica ópera   añil");
-    EXPECT_EQ(settings().gsCutPhrase, settings().gsShownPhrase);
-    EXPECT_EQ(settings().gsPhrase, u"UNICA OPERA AÑIL");
-}
-
-TEST_F(CutPhrase, SaysOnceThatAPhraseIsTooLong) {
-    settings().gbEnglish = true;
-    settings().gsPhrase = u"aaaaaaaaaa bbbbbbbbbb cccccccccc dddddddddd éé";
-    desktop.expectMessage(u"Up to the top! The phrase has been very long and was cut.");
-    eCutPhrase(program);
-    EXPECT_EQ(settings().gsPhrase, u"AAAAAAAAAA BBBBBBBBBB CCCCCCCCCC DDDDDDDDDD EE");
-    EXPECT_EQ(settings().gsShownPhrase.back(), u' ');
-}
-
-TEST_F(CutPhrase, SaysSoInSpanish) {
-    settings().gsPhrase = u"aaaaaaaaaa bbbbbbbbbb cccccccccc dddddddddd";
-    desktop.expectMessage(u"¡Hasta al tope! La frase ha sido muy larga y fue recortada.");
-    eCutPhrase(program);
 }
 
 class Clipboard : public AppTest {};

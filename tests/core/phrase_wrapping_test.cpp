@@ -47,8 +47,7 @@ TEST(Wrapping, PutsNoBlankBehindARowThatIsExactlyFull) {
     EXPECT_EQ(shown(u"abcdef ghijklm no"), u"abcdef ghijklmno");
     EXPECT_EQ(shown(u"aaaaaaaaaaaaaa bb"), u"aaaaaaaaaaaaaabb");
     EXPECT_EQ(shown(u"fried chickens now"), u"fried chickensnow");
-    EXPECT_EQ(shown(u"casa de muñeca en la luna llena"),
-              u"casa de muñecaen la luna    llena");
+    EXPECT_EQ(shown(u"casa de muñeca en la luna llena"), u"casa de muñecaen la luna    llena");
 }
 
 TEST(Wrapping, FillsThreeRowsWithThreeWordsOfFourteen) {
@@ -76,6 +75,23 @@ TEST(Wrapping, CutsBeforeAFourthRowAndKeepsTheLastBlank) {
     const WrappedPhrase wrapped = wrapPhrase(u"aaaaaaaaaa bbbbbbbbbb cccccccccc dddddddddd");
     EXPECT_TRUE(wrapped.cut);
     EXPECT_EQ(wrapped.shown, u"aaaaaaaaaa    bbbbbbbbbb    cccccccccc ");
+}
+
+TEST(CutPhrase, LaysOutAndFoldsThePhrase) {
+    GameSettings settings;
+    settings.gsPhrase = u"Ünica ópera añil";
+    EXPECT_FALSE(eCutPhrase(settings));
+    EXPECT_EQ(settings.gsShownPhrase, u"Ünica ópera   añil");
+    EXPECT_EQ(settings.gsCutPhrase, settings.gsShownPhrase);
+    EXPECT_EQ(settings.gsPhrase, u"UNICA OPERA AÑIL");
+}
+
+TEST(CutPhrase, FoldsAlsoWhatIsCutForTheBoard) {
+    GameSettings settings;
+    settings.gsPhrase = u"aaaaaaaaaa bbbbbbbbbb cccccccccc dddddddddd éé";
+    EXPECT_TRUE(eCutPhrase(settings));
+    EXPECT_EQ(settings.gsPhrase, u"AAAAAAAAAA BBBBBBBBBB CCCCCCCCCC DDDDDDDDDD EE");
+    EXPECT_EQ(settings.gsShownPhrase.back(), u' ');
 }
 
 // Reads the rows again as a player does: a word ends at a blank or at its row's end.

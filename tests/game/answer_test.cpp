@@ -58,7 +58,7 @@ TEST_F(AnswerTest, EarnsTheBonusBelowHalfOfTheLetters) {
     player.type(u"ABC");
     answer(u"abcdefghij");
     EXPECT_TRUE(settings.gbAnswerWritten);
-    EXPECT_TRUE(Player::sees(game().scoring.lblBonus));
+    EXPECT_TRUE(Player::sees(game().score.lblBonus));
 }
 
 TEST_F(AnswerTest, EarnsNoBonusFromHalfOfTheLettersOn) {
@@ -66,7 +66,7 @@ TEST_F(AnswerTest, EarnsNoBonusFromHalfOfTheLettersOn) {
     player.type(u"ABCDE");
     answer(u"abcdefghij");
     EXPECT_FALSE(settings.gbAnswerWritten);
-    EXPECT_FALSE(Player::sees(game().scoring.lblBonus));
+    EXPECT_FALSE(Player::sees(game().score.lblBonus));
 }
 
 TEST_F(AnswerTest, ThatIsWrongKillsWithoutAStrike) {
@@ -75,7 +75,7 @@ TEST_F(AnswerTest, ThatIsWrongKillsWithoutAStrike) {
     answer(u"bees");
     EXPECT_EQ(settings.giGameState, kDead);
     EXPECT_EQ(settings.giStrikes, 1);
-    EXPECT_EQ(game().guesses.lblStrike(1).caption, u"");
+    EXPECT_EQ(game().strikes.lblStrike(1).caption, u"");
 }
 
 TEST_F(AnswerTest, IsReachedInFourWays) {
@@ -124,25 +124,25 @@ TEST_F(EndOfGameTest, OffersTheSearchAndPutsCounterAndClockAway) {
     EXPECT_TRUE(Player::sees(game().webSearch.lblFinder(1)));
     EXPECT_TRUE(Player::sees(game().webSearch.shpFinder));
     EXPECT_FALSE(Player::sees(game().board.lblCont));
-    EXPECT_FALSE(Player::sees(game().countDown.lblTime));
+    EXPECT_FALSE(Player::sees(game().clock.lblTime));
     EXPECT_FALSE(game().menu.mWrite.enabled);
-    EXPECT_FALSE(game().countDown.tmrTime.enabled);
+    EXPECT_FALSE(game().clock.tmrTime.enabled);
 }
 
 TEST_F(EndOfGameTest, PaintsTheScreenGreenAfterAVictory) {
     play(u"BEE");
     player.type(u"be");
-    EXPECT_EQ(game().colors.accent(), settings.glGreen);
+    EXPECT_EQ(game().accent.color(), settings.glGreen);
     desktop.advance(10'000);
-    EXPECT_EQ(game().colors.accent(), settings.glGreen);
+    EXPECT_EQ(game().accent.color(), settings.glGreen);
 }
 
 TEST_F(EndOfGameTest, PaintsTheScreenRedAfterADeath) {
     play(u"BEE");
     player.type(u"xyzvwt");
-    EXPECT_EQ(game().colors.accent(), settings.glRed);
+    EXPECT_EQ(game().accent.color(), settings.glRed);
     desktop.advance(10'000);
-    EXPECT_EQ(game().colors.accent(), settings.glRed);
+    EXPECT_EQ(game().accent.color(), settings.glRed);
 }
 
 TEST_F(EndOfGameTest, CountsArcadeGames) {
@@ -162,7 +162,7 @@ TEST_F(EndOfGameTest, SpeaksSpanish) {
     english = false;
     play(u"BEE");
     player.type(u"be");
-    EXPECT_EQ(game().lifeCycle.lblStatus.caption, u"¡VICTORIA!");
+    EXPECT_EQ(game().status.lblStatus.caption, u"¡VICTORIA!");
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 // The time limit: how much there is, and how it follows the wall clock.
+#include "game/rules/scoring.h"
 #include "tests/support/game_test.h"
 
 namespace quillor::testing {
@@ -28,14 +29,14 @@ class TimeLimits : public GameTest, public ::testing::WithParamInterface<TimeLim
 
 TEST_P(TimeLimits, FollowTheLength) {
     play(phraseOf(GetParam().letters));
-    EXPECT_EQ(game().countDown.lblTime.caption, GetParam().time);
-    EXPECT_TRUE(Player::sees(game().countDown.lblTime));
+    EXPECT_EQ(game().clock.lblTime.caption, GetParam().time);
+    EXPECT_TRUE(Player::sees(game().clock.lblTime));
 }
 
 TEST_P(TimeLimits, AreThreefoldWithHiddenLetters) {
     saved.gbHiddenLetters = true;
     play(phraseOf(GetParam().letters));
-    EXPECT_EQ(game().countDown.lblTime.caption, GetParam().withHiddenLetters);
+    EXPECT_EQ(game().clock.lblTime.caption, GetParam().withHiddenLetters);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -55,8 +56,8 @@ class CountDownTest : public GameTest {
         saved.gbAgainstClock = true;
         saved.gbInfiniteScore = true;
     }
-    Text time() { return game().countDown.lblTime.caption; }
-    int left() { return game().countDown.secondsLeft(); }
+    Text time() { return game().clock.lblTime.caption; }
+    int left() { return game().round.secondsLeft; }
 };
 
 TEST_F(CountDownTest, CountsBlanksToo) {
@@ -83,7 +84,7 @@ TEST_F(CountDownTest, ReachesZeroAndKills) {
     EXPECT_EQ(time(), u"0:00");
     EXPECT_EQ(settings.giGameState, kDead);
     EXPECT_EQ(settings.giStrikes, 0);
-    EXPECT_EQ(game().lifeCycle.lblStatus.caption, u"DEAD!");
+    EXPECT_EQ(game().status.lblStatus.caption, u"DEAD!");
 }
 
 TEST_F(CountDownTest, StopsAtTheEndAndKeepsTheTimeLeft) {
@@ -129,7 +130,7 @@ TEST_F(CountDownTest, RunsOutWhileTheLeaveQuestionIsOpen) {
     player.press(key::kReturn);
     EXPECT_EQ(settings.giGameState, kDead);
     EXPECT_EQ(player.screen().name, "frmGame");
-    EXPECT_EQ(game().lifeCycle.lblStatus.caption, u"DEAD!");
+    EXPECT_EQ(game().status.lblStatus.caption, u"DEAD!");
 }
 
 TEST_F(CountDownTest, RunsOutWhileTheQuestionOfGoingBackIsOpen) {
@@ -160,7 +161,7 @@ TEST_F(CountDownTest, GoesOnWhileTheRefusalToLeaveIsOpen) {
 TEST_F(CountDownTest, DoesNotRunWithoutThePreference) {
     saved.gbAgainstClock = false;
     play(u"BEE");
-    EXPECT_FALSE(Player::sees(game().countDown.lblTime));
+    EXPECT_FALSE(Player::sees(game().clock.lblTime));
     desktop.advance(3'600'000);
     EXPECT_EQ(settings.giGameState, kPlaying);
     EXPECT_EQ(left(), 0);
@@ -172,7 +173,7 @@ TEST_F(CountDownTest, IsClearedWhenThePlayerLeaves) {
     player.press(key::kReturn);
     EXPECT_EQ(player.screen().name, "frmWord2");
     EXPECT_EQ(left(), 0);
-    EXPECT_FALSE(Player::sees(game().countDown.lblTime));
+    EXPECT_FALSE(Player::sees(game().clock.lblTime));
     desktop.advance(3'600'000);
     EXPECT_EQ(settings.giGameState, kIdle);
 }

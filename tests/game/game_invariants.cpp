@@ -8,6 +8,7 @@
 
 #include "core/numbers.h"
 #include "core/settings_file.h"
+#include "tests/support/game_test.h"
 #include "toolkit/style.h"
 
 namespace quillor::testing {
@@ -105,7 +106,7 @@ void GameInvariants::followGame(const frmGame& game) {
 GameInvariants::Ended GameInvariants::ended(const frmGame& game) const {
     const GameSettings& settings = program_.settings;
     return {settings.giGameState,    settings.giStrikes,    settings.giGamesPlayed,
-            settings.giLettersFound, settings.giScoreShown, game.countDown.secondsLeft()};
+            settings.giLettersFound, settings.giScoreShown, game.round.secondsLeft};
 }
 
 void GameInvariants::startModel() {
@@ -143,15 +144,15 @@ void GameInvariants::checkScreen(const frmGame& game) {
 
 void GameInvariants::checkIdle(const frmGame& game) {
     for (int cell = 1; cell <= kBoardCells; ++cell)
-        require(!game.board.isLetter(cell) && !game.board.isFound(cell), "a cell shows while idle");
-    for (const Timer* timer : {&game.countDown.tmrTime, &game.animations.tmrUp,
-                               &game.scoring.tmrScore, &game.figure.tmrDead})
+        require(!isLetter(game, cell) && !isFound(game, cell), "a cell shows while idle");
+    for (const Timer* timer :
+         {&game.clock.tmrTime, &game.score.tmrUp, &game.score.tmrScore, &game.figure.tmrDead})
         require(!timer->enabled, "a game's timer runs while idle");
     require(program_.settings.giStrikes == 0, "mistakes while idle");
-    require(game.countDown.secondsLeft() == 0, "time is left while idle");
+    require(game.round.secondsLeft == 0, "time is left while idle");
     require(game.imgBack(0).drawing == style::kIdleDrawing, "the idle page is empty");
-    require(!game.guesses.frmeBoard.visible && !game.board.lblCont.visible &&
-                !game.countDown.lblTime.visible && !game.webSearch.lblFinder(0).visible,
+    require(!game.keyboard.frmeBoard.visible && !game.board.lblCont.visible &&
+                !game.clock.lblTime.visible && !game.webSearch.lblFinder(0).visible,
             "something of a game shows while idle");
 }
 
@@ -163,26 +164,26 @@ void GameInvariants::checkPlaying(const frmGame& game) {
     for (const Picture& page : game.imgBack)
         require(page.drawing.empty(), "a drawing behind the board or the keys");
     const bool clock = program_.settings.gbAgainstClock;
-    require(game.countDown.tmrTime.enabled == clock && game.countDown.lblTime.visible == clock,
+    require(game.clock.tmrTime.enabled == clock && game.clock.lblTime.visible == clock,
             "the clock does not run as wished");
-    const int left = game.countDown.secondsLeft();
+    const int left = game.round.secondsLeft;
     require(clock == (left > 0), "playing without time");
-    require(!clock || game.countDown.lblTime.caption == clockText(left), "the clock shows wrong");
-    require(!game.animations.tmrUp.enabled && !game.scoring.tmrScore.enabled &&
-                !game.figure.tmrDead.enabled,
-            "an ending's timer runs in the next game");
+    require(!clock || game.clock.lblTime.caption == clockText(left), "the clock shows wrong");
+    require(
+        !game.score.tmrUp.enabled && !game.score.tmrScore.enabled && !game.figure.tmrDead.enabled,
+        "an ending's timer runs in the next game");
 }
 
 void GameInvariants::checkBoard(const frmGame& game) {
     const Text folded = eFoldAccents(program_.settings.gsShownPhrase);
     int found = 0;
     int letters = 0;
-    for (int cell = 1; cell <= game.board.cells(); ++cell) {
+    for (int cell = 1; cell <= static_cast<int>(game.round.cells.size()); ++cell) {
         const char16_t letter = folded.at(static_cast<std::size_t>(cell - 1));
-        require(game.board.isLetter(cell) == (letter != u' '), "an underline is wrong");
-        require(game.board.isFound(cell) == (uncovered_.count(letter) > 0),
+        require(isLetter(game, cell) == (letter != u' '), "an underline is wrong");
+        require(isFound(game, cell) == (uncovered_.count(letter) > 0),
                 "the visible cells do not match the guessed letters");
-        found += game.board.isFound(cell) ? 1 : 0;
+        found += isFound(game, cell) ? 1 : 0;
         letters += letter != u' ' ? 1 : 0;
     }
     require(game.board.lblCont.visible, "no counter");
@@ -191,34 +192,34 @@ void GameInvariants::checkBoard(const frmGame& game) {
 }
 
 void GameInvariants::checkKeys(const frmGame& game) {
-    for (int key = 1; key <= Guesses::kLastGuessKey; ++key) {
-        const Label& label = game.guesses.lblKey(key);
+    for (int key = 1; key <= Keyboard::kLastGuessKey; ++key) {
+        const Label& label = game.keyboard.lblKey(key);
         const bool used = uncovered_.count(label.caption.front()) > 0;
         require(label.visible == !used, "a used key is offered, or an unused one is not");
-        require(game.guesses.shpKey(key).visible == label.visible, "a key and its face differ");
+        require(game.keyboard.shpKey(key).visible == label.visible, "a key and its face differ");
     }
 }
 
 void GameInvariants::checkEnded(const frmGame& game) {
     const GameSettings& settings = program_.settings;
-    for (int cell = 1; cell <= game.board.cells(); ++cell) {
+    for (int cell = 1; cell <= static_cast<int>(game.round.cells.size()); ++cell) {
         const char16_t letter = settings.gsCutPhrase.at(static_cast<std::size_t>(cell - 1));
-        require(game.board.isFound(cell) == (letter != u' '), "not all is uncovered at the end");
+        require(isFound(game, cell) == (letter != u' '), "not all is uncovered at the end");
         require(game.board.lblLetter(cell).caption == Text(1, letter),
                 "a cell does not show its character at the end");
     }
-    require(game.lifeCycle.lblStatus.caption ==
+    require(game.status.lblStatus.caption ==
                 program_.lang(settings.giGameState == kDead ? texts::kDead : texts::kVictory),
             "the status does not tell the end");
-    require(!game.countDown.tmrTime.enabled && !game.countDown.lblTime.visible,
+    require(!game.clock.tmrTime.enabled && !game.clock.lblTime.visible,
             "the clock runs after the end");
     require(!game.board.lblCont.visible && !game.menu.mWrite.enabled,
             "the game goes on after the end");
     require(game.webSearch.lblFinder(0).visible && game.webSearch.lblFinder(1).visible,
             "no search is offered");
-    require(settings.giGameState != kWon || settings.giStrikes < Guesses::kStrikes,
+    require(settings.giGameState != kWon || settings.giStrikes < kMostMistakes,
             "won with six mistakes");
-    require(!game.scoring.tmrScore.enabled ||
+    require(!game.score.tmrScore.enabled ||
                 (settings.giGameState == kWon ? settings.giScoreShown >= settings.giScore
                                               : settings.giScoreShown <= settings.giScore),
             "the score can never reach what it counts to");
@@ -227,8 +228,8 @@ void GameInvariants::checkEnded(const frmGame& game) {
 void GameInvariants::checkStrikes(const frmGame& game) {
     std::set<Text> keys;
     int filled = 0;
-    for (int box = 0; box < Guesses::kStrikes; ++box) {
-        const Text& caption = game.guesses.lblStrike(box).caption;
+    for (int box = 0; box < kMostMistakes; ++box) {
+        const Text& caption = game.strikes.lblStrike(box).caption;
         if (caption.empty())
             continue;
         require(filled == box, "a strike box is left out");

@@ -73,7 +73,7 @@ TEST_F(GameKeysTest, AndMenuEntriesDoNothingUnderTheSelectionScreen) {
                            &game().menu.mColor, &game().menu.mDoWayAll(0)})
         desktop.deliver([&] { game().choose(*item); });
     desktop.deliver([&] { game().click(game().sounds.lblWave(0)); });
-    desktop.deliver([&] { game().click(game().lifeCycle.lblPlay(0)); });
+    desktop.deliver([&] { game().click(game().playButton.lblPlay(0)); });
     EXPECT_EQ(player.screen().name, "frmWord2");
     EXPECT_FALSE(settings.gbUseSounds || settings.gbColorTransition);
     EXPECT_EQ(settings.giWay, kManual);

@@ -6,37 +6,39 @@ namespace {
 
 class GuessesTest : public GameTest {
   protected:
-    Guesses& guesses() { return game().guesses; }
+    Keyboard& keyboard() { return game().keyboard; }
     Text counter() { return game().board.lblCont.caption; }
     Text strikes() {
         Text text;
-        for (const Label& box : guesses().lblStrike)
+        for (const Label& box : game().strikes.lblStrike)
             text += box.caption;
         return text;
     }
-    bool offered(int key) { return guesses().lblKey(key).visible && guesses().shpKey(key).visible; }
-    Color flash() { return game().colors.accent(); }
+    bool offered(int key) {
+        return keyboard().lblKey(key).visible && keyboard().shpKey(key).visible;
+    }
+    Color flash() { return game().accent.color(); }
 };
 
 TEST_F(GuessesTest, AreOfferedAsLettersAndDigitsInOrder) {
     play(u"WORLD");
     Text captions;
     for (int key = 1; key <= 37; ++key)
-        captions += guesses().lblKey(key).caption;
+        captions += keyboard().lblKey(key).caption;
     EXPECT_EQ(captions, u"ABCDEFGHIJKLMNÑOPQRSTUVWXYZ1234567890");
-    EXPECT_EQ(guesses().lblKey(38).caption, u"123");
-    EXPECT_EQ(guesses().lblKey(39).caption, u"(x)");
-    EXPECT_EQ(guesses().lblKey(40).caption, u"WRITE");
-    EXPECT_EQ(guesses().lblKey(38).toolTip, u" Numbers ");
-    EXPECT_EQ(guesses().lblKey(40).toolTip, u" Write answer ");
+    EXPECT_EQ(keyboard().lblKey(38).caption, u"123");
+    EXPECT_EQ(keyboard().lblKey(39).caption, u"(x)");
+    EXPECT_EQ(keyboard().lblKey(40).caption, u"WRITE");
+    EXPECT_EQ(keyboard().lblKey(38).toolTip, u" Numbers ");
+    EXPECT_EQ(keyboard().lblKey(40).toolTip, u" Write answer ");
 }
 
 TEST_F(GuessesTest, UncoverEveryAccentedFormAtOnce) {
     play(u"ÁRBOL ALTO");
     player.type(u"a");
     EXPECT_EQ(counter(), u"2/9");
-    EXPECT_TRUE(game().board.isFound(1));
-    EXPECT_TRUE(game().board.isFound(7));
+    EXPECT_TRUE(isFound(game(), 1));
+    EXPECT_TRUE(isFound(game(), 7));
     EXPECT_EQ(game().board.lblLetter(1).caption, u"Á");
     EXPECT_EQ(settings.giLettersFound, 2);
     EXPECT_EQ(flash(), settings.glGreen);
@@ -70,20 +72,20 @@ TEST_F(GuessesTest, WorkByMouseOnTheScreenKeys) {
 
 TEST_F(GuessesTest, OfDigitsStandOnAPanelOfTheirOwn) {
     play(u"ROUTE 66");
-    EXPECT_FALSE(Player::sees(guesses().lblKey(33)));
+    EXPECT_FALSE(Player::sees(keyboard().lblKey(33)));
     player.click("lblKey(38)");
-    EXPECT_TRUE(Player::sees(guesses().lblKey(33)));
+    EXPECT_TRUE(Player::sees(keyboard().lblKey(33)));
     player.click("lblKey(33)");
     EXPECT_EQ(counter(), u"2/7");
     player.click("lblKey(39)");
-    EXPECT_FALSE(Player::sees(guesses().lblKey(28)));
+    EXPECT_FALSE(Player::sees(keyboard().lblKey(28)));
 }
 
 TEST_F(GuessesTest, ThatAreWrongFillTheFirstFreeBox) {
     play(u"WORLD");
     player.type(u"xz");
     EXPECT_EQ(strikes(), u"XZ");
-    EXPECT_EQ(guesses().lblStrike(1).caption, u"Z");
+    EXPECT_EQ(game().strikes.lblStrike(1).caption, u"Z");
     EXPECT_EQ(settings.giStrikes, 2);
     EXPECT_EQ(flash(), settings.glRed);
     EXPECT_EQ(counter(), u"0/5");
@@ -112,17 +114,17 @@ TEST_F(GuessesTest, OfTheFifthMistakeAgainCostNothing) {
 TEST_F(GuessesTest, TheSixthWrongOneKills) {
     play(u"WORLD");
     player.type(u"xzabcf");
-    EXPECT_EQ(guesses().lblStrike(5).caption, u"F");
+    EXPECT_EQ(game().strikes.lblStrike(5).caption, u"F");
     EXPECT_EQ(settings.giStrikes, 6);
     EXPECT_EQ(settings.giGameState, kDead);
-    EXPECT_EQ(game().lifeCycle.lblStatus.caption, u"DEAD!");
+    EXPECT_EQ(game().status.lblStatus.caption, u"DEAD!");
 }
 
 TEST_F(GuessesTest, TheLastLetterWins) {
     play(u"BEE");
     player.type(u"eb");
     EXPECT_EQ(settings.giGameState, kWon);
-    EXPECT_EQ(game().lifeCycle.lblStatus.caption, u"VICTORY!");
+    EXPECT_EQ(game().status.lblStatus.caption, u"VICTORY!");
     EXPECT_FALSE(settings.gbAnswerWritten);
 }
 
@@ -140,7 +142,7 @@ TEST_F(GuessesTest, AreIgnoredOutsidePlay) {
     player.type(u"a1ñ");
     EXPECT_EQ(settings.giStrikes, 0);
     EXPECT_TRUE(offered(1));
-    EXPECT_FALSE(Player::sees(guesses().lblKey(1)));
+    EXPECT_FALSE(Player::sees(keyboard().lblKey(1)));
 }
 
 TEST_F(GuessesTest, AreIgnoredAfterTheEnd) {
@@ -148,7 +150,7 @@ TEST_F(GuessesTest, AreIgnoredAfterTheEnd) {
     player.type(u"be");
     const Text before = strikes();
     player.type(u"xyz");
-    game().click(guesses().lblKey(25));
+    game().click(keyboard().lblKey(25));
     EXPECT_EQ(strikes(), before);
     EXPECT_TRUE(offered(25));
 }
@@ -172,8 +174,8 @@ TEST_F(GuessesTest, ShowAllKeysAgainInTheNextGame) {
 
 TEST_F(GuessesTest, HaveTipsOnTheirBoxes) {
     openArcade();
-    EXPECT_EQ(guesses().lblStrike(0).toolTip, u" First mistake ");
-    EXPECT_EQ(guesses().lblStrike(5).toolTip, u" Sixth mistake ");
+    EXPECT_EQ(game().strikes.lblStrike(0).toolTip, u" First mistake ");
+    EXPECT_EQ(game().strikes.lblStrike(5).toolTip, u" Sixth mistake ");
 }
 
 }  // namespace

@@ -10,8 +10,8 @@ class HintTest : public GameTest {
 
     Text found() {
         Text text;
-        for (int cell = 1; cell <= game().board.cells(); ++cell)
-            if (game().board.isFound(cell))
+        for (int cell = 1; cell <= static_cast<int>(game().round.cells.size()); ++cell)
+            if (isFound(game(), cell))
                 text += game().board.lblLetter(cell).caption;
         return text;
     }
@@ -21,7 +21,7 @@ TEST_F(HintTest, PicksTheFirstCharacterThatOccursOnce) {
     play(u"CASA ROJA");
     EXPECT_EQ(found(), u"C");
     EXPECT_TRUE(settings.gbHintUsed);
-    EXPECT_FALSE(game().guesses.lblKey(3).visible);
+    EXPECT_FALSE(game().keyboard.lblKey(3).visible);
 }
 
 TEST_F(HintTest, PassesOverCharactersThatOccurTwiceAfterFolding) {
@@ -62,25 +62,24 @@ TEST_F(HintTest, ShowsItsLetterEvenAmongHiddenOnes) {
 TEST_F(HintTest, IsSilentAndWithoutColour) {
     saved.gbUseSounds = true;
     play(u"BEEF");
-    EXPECT_EQ(game().colors.accent(), settings.glThemeNow);
+    EXPECT_EQ(game().accent.color(), settings.glThemeNow);
     desktop.advance(1000);
     EXPECT_EQ(desktop.playedSounds, (std::vector<int>{102}));
 }
 
 TEST_F(HintTest, EndsWithThePlayersNextGuess) {
     play(u"BEEF");
-    EXPECT_TRUE(game().guesses.HintReveal);
+    EXPECT_EQ(game().accent.color(), settings.glThemeNow);
     player.type(u"F");
-    EXPECT_FALSE(game().guesses.HintReveal);
-    EXPECT_EQ(game().colors.accent(), settings.glGreen);
+    EXPECT_EQ(game().accent.color(), settings.glGreen);
 }
 
 TEST_F(HintTest, WinsAPhraseOfOneLetterAndBlanks) {
     play(u"  B  ");
     EXPECT_EQ(settings.giGameState, kWon);
-    EXPECT_EQ(game().lifeCycle.lblStatus.caption, u"VICTORY!");
+    EXPECT_EQ(game().status.lblStatus.caption, u"VICTORY!");
     EXPECT_FALSE(game().menu.mWrite.enabled);
-    EXPECT_FALSE(game().countDown.tmrTime.enabled);
+    EXPECT_FALSE(game().clock.tmrTime.enabled);
     EXPECT_EQ(settings.giGamesPlayed, 1);
     EXPECT_TRUE(Player::sees(game().webSearch.lblFinder(0)));
 }
@@ -88,7 +87,7 @@ TEST_F(HintTest, WinsAPhraseOfOneLetterAndBlanks) {
 TEST_F(HintTest, ThatWinsStartsNoClockAndLeavesThePlayButtonUsable) {
     saved.gbAgainstClock = true;
     play(u"  B  ");
-    EXPECT_FALSE(Player::sees(game().countDown.lblTime));
+    EXPECT_FALSE(Player::sees(game().clock.lblTime));
     desktop.advance(600'000);
     EXPECT_EQ(settings.giGameState, kWon);
     deal();

@@ -7,8 +7,8 @@ namespace {
 
 class LifeCycleTest : public GameTest {
   protected:
-    Text status() { return game().lifeCycle.lblStatus.caption; }
-    Text playButton() { return game().lifeCycle.lblPlay(0).caption; }
+    Text status() { return game().status.lblStatus.caption; }
+    Text playButton() { return game().playButton.lblPlay(0).caption; }
     void expectQuestion(bool yes) { desktop.answerQuestion(lang(texts::kLeaveGame), yes); }
 };
 
@@ -18,7 +18,7 @@ TEST_F(LifeCycleTest, StartsIdle) {
     EXPECT_EQ(status(), u"NEW GAME");
     EXPECT_EQ(playButton(), u"PLAY");
     EXPECT_EQ(game().board.lblTopic.caption, u"(TOPIC)");
-    EXPECT_FALSE(game().guesses.frmeBoard.visible);
+    EXPECT_FALSE(game().keyboard.frmeBoard.visible);
 }
 
 TEST_F(LifeCycleTest, PlaysThePhraseThatWasDealt) {
@@ -26,7 +26,7 @@ TEST_F(LifeCycleTest, PlaysThePhraseThatWasDealt) {
     EXPECT_EQ(settings.giGameState, kPlaying);
     EXPECT_EQ(status(), u"PLAYING");
     EXPECT_EQ(playButton(), u"PLAY ANOTHER");
-    EXPECT_TRUE(game().guesses.frmeBoard.visible);
+    EXPECT_TRUE(game().keyboard.frmeBoard.visible);
     EXPECT_TRUE(game().menu.mWrite.enabled);
     EXPECT_EQ(player.screen().name, "frmGame");
 }
@@ -183,7 +183,7 @@ TEST_F(LifeCycleTest, PopsUpTheMenuByARightClickOnPlay) {
 
 TEST_F(LifeCycleTest, ShowsThePlayButtonHoveredPressedAndAtRest) {
     openArcade();
-    const Color& face = game().lifeCycle.shpPlay.backColor;
+    const Color& face = game().playButton.shpPlay.backColor;
     player.hover("lblPlay(0)");
     EXPECT_EQ(face, settings.glGreen);
     player.mouseDown("lblPlay(0)");

@@ -60,7 +60,7 @@ TEST_F(OddPhrasesTest, WithCharactersThatNoKeyOffersAreWonByAnswer) {
 TEST_F(OddPhrasesTest, WithCharactersThatNoKeyOffersMayGetThemByAHint) {
     saved.gbFirstLetter = true;
     play(u"AA'BB");
-    EXPECT_TRUE(game().board.isFound(3));
+    EXPECT_TRUE(isFound(game(), 3));
     player.type(u"ab");
     EXPECT_EQ(settings.giGameState, kWon);
 }

@@ -20,9 +20,9 @@ class PhraseBoardTest : public GameTest {
     // As the board shows it: hidden letters as "_".
     Text shown() {
         Text text;
-        for (int cell = 1; cell <= board().cells(); ++cell)
-            text += !board().isLetter(cell) ? Text(u" ")
-                    : board().isFound(cell) ? board().lblLetter(cell).caption
+        for (int cell = 1; cell <= static_cast<int>(game().round.cells.size()); ++cell)
+            text += !isLetter(game(), cell) ? Text(u" ")
+                    : isFound(game(), cell) ? board().lblLetter(cell).caption
                                             : Text(u"_");
         return text;
     }
@@ -55,7 +55,7 @@ TEST_F(PhraseBoardTest, HasThreeRowsOfFourteenCells) {
 
 TEST_F(PhraseBoardTest, UnderlinesEveryCharacterButTheBlank) {
     play(u"A B");
-    EXPECT_EQ(board().BlankCells, 1);
+    EXPECT_EQ(game().round.blanks(), 1);
     EXPECT_EQ(board().lblCont.caption, u"0/2");
     EXPECT_TRUE(board().lnLetter(1).visible);
     EXPECT_FALSE(board().lnLetter(2).visible);
@@ -107,7 +107,7 @@ TEST_F(PhraseBoardTest, StartsTheSecondRowAtTheFifteenthCharacter) {
 TEST_F(PhraseBoardTest, BreaksBetweenWords) {
     play(u"WASHING MACHINE");
     EXPECT_EQ(settings.gsShownPhrase, u"WASHING       MACHINE");
-    EXPECT_EQ(board().BlankCells, 7);
+    EXPECT_EQ(game().round.blanks(), 7);
     EXPECT_EQ(board().lblCont.caption, u"0/14");
     EXPECT_EQ(board().lblLetter(15).caption, u"M");
     EXPECT_EQ(board().frmeMagic.width, board().lblLetter(7).right());

@@ -227,7 +227,7 @@ class Session {
         press.code = std::array{key::kReturn, key::kF2, key::kF3}.at(event.detail % 3);
         desktop_.deliver([&] { game->keyDown(press); });
         desktop_.deliver([&] { game->keyPress(u'E'); });
-        desktop_.deliver([&] { game->click(game->lifeCycle.lblPlay(0)); });
+        desktop_.deliver([&] { game->click(game->playButton.lblPlay(0)); });
         desktop_.deliver([&] { game->choose(game->menu.mHide); });
         desktop_.deliver([&] { game->closeRequest(); });
     }

@@ -1,4 +1,6 @@
 // What a game is worth, and how the score counts to its new value.
+#include "game/rules/scoring.h"
+
 #include "tests/support/game_test.h"
 
 namespace quillor::testing {
@@ -80,10 +82,10 @@ INSTANTIATE_TEST_SUITE_P(
 // Whole games, with what the score line and the points show afterwards.
 class ScoringTest : public GameTest {
   protected:
-    Text score() { return game().scoring.lblScore.caption; }
-    Text points() { return game().scoring.lblPoints.caption; }
+    Text score() { return game().score.lblScore.caption; }
+    Text points() { return game().score.lblPoints.caption; }
     static constexpr int kLong = 20'000;  // ms; more than any rise or count takes
-    bool counts() { return game().scoring.tmrScore.enabled; }
+    bool counts() { return game().score.tmrScore.enabled; }
     // Lets the points rise to their end, where the counting starts.
     void waitForRise() {
         for (int waited = 0; !counts() && waited < kLong; ++waited)
@@ -104,8 +106,8 @@ TEST_F(ScoringTest, PaysForFiveLetters) {
     play(u"WORLD");
     player.type(u"world");
     EXPECT_EQ(points(), u"+800");
-    EXPECT_TRUE(Player::sees(game().scoring.lblPoints));
-    EXPECT_EQ(game().scoring.lblPoints.textColor, settings.glGreen - rgb(0, 50, 0));
+    EXPECT_TRUE(Player::sees(game().score.lblPoints));
+    EXPECT_EQ(game().score.lblPoints.textColor, settings.glGreen - rgb(0, 50, 0));
     EXPECT_EQ(settings.giScore, 1000);
     waitForScore();
     EXPECT_EQ(score(), u"SCORE/ 1800");
@@ -129,8 +131,8 @@ TEST_F(ScoringTest, PaysTheBonusForATypedAnswer) {
     player.type(u"ab");
     answer(u"abcdefghij");
     EXPECT_EQ(points(), u"+1290");
-    EXPECT_EQ(game().scoring.lblBonus.caption, u"50% BONUS ACHIEVED");
-    EXPECT_EQ(game().scoring.lblBonus.textColor, game().scoring.lblPoints.textColor);
+    EXPECT_EQ(game().score.lblBonus.caption, u"50% BONUS ACHIEVED");
+    EXPECT_EQ(game().score.lblBonus.textColor, game().score.lblPoints.textColor);
 }
 
 TEST_F(ScoringTest, TakesThePenaltyForTheHint) {
@@ -155,7 +157,7 @@ TEST_F(ScoringTest, EndsAtZero) {
     player.type(u"e");
     answer(u"x");
     EXPECT_EQ(points(), u"-500");
-    EXPECT_EQ(game().scoring.lblPoints.textColor, settings.glRed - rgb(50, 0, 0));
+    EXPECT_EQ(game().score.lblPoints.textColor, settings.glRed - rgb(50, 0, 0));
     waitForScore();
     EXPECT_EQ(settings.giScore, 0);
     EXPECT_EQ(score(), u"ZERO SCORE/ 0");
@@ -168,8 +170,8 @@ TEST_F(ScoringTest, AtZeroBlocksTheNextArcadeGame) {
     expectBox(texts::kNoPoints);
     player.press(key::kReturn);
     EXPECT_EQ(settings.giGameState, kDead);
-    EXPECT_EQ(game().lifeCycle.lblStatus.caption, u"DEAD!");
-    EXPECT_TRUE(game().board.isFound(1));
+    EXPECT_EQ(game().status.lblStatus.caption, u"DEAD!");
+    EXPECT_TRUE(isFound(game(), 1));
 }
 
 TEST_F(ScoringTest, OfADeathCarriesTheLettersOfAnEarlierGame) {
@@ -193,7 +195,7 @@ TEST_F(ScoringTest, OfADeathIsNeverAGain) {
     EXPECT_EQ(settings.giScoreStep, 0);
     waitForScore();
     EXPECT_EQ(settings.giScore, before);
-    EXPECT_FALSE(game().scoring.tmrScore.enabled);
+    EXPECT_FALSE(game().score.tmrScore.enabled);
 }
 
 TEST_F(ScoringTest, CountsInTensAndThenInOnes) {
@@ -236,7 +238,7 @@ TEST_F(ScoringTest, IsSettledWhenThePlayerGoesOnWhilePointsRise) {
     deal();
     EXPECT_EQ(settings.giScore, 1800);
     EXPECT_EQ(score(), u"SCORE/ 1800");
-    EXPECT_FALSE(Player::sees(game().scoring.lblPoints));
+    EXPECT_FALSE(Player::sees(game().score.lblPoints));
     waitForScore();
     EXPECT_EQ(settings.giScore, 1800);
 }
@@ -304,11 +306,11 @@ TEST_F(ScoringTest, WhenInfiniteIsNotKept) {
 
 TEST_F(ScoringTest, IsNotShownInClassicMode) {
     playClassic(u"WORLD");
-    EXPECT_FALSE(Player::sees(game().scoring.lblScore));
+    EXPECT_FALSE(Player::sees(game().score.lblScore));
     player.type(u"w");
     answer(u"world");
-    EXPECT_FALSE(Player::sees(game().scoring.lblPoints));
-    EXPECT_FALSE(Player::sees(game().scoring.lblBonus));
+    EXPECT_FALSE(Player::sees(game().score.lblPoints));
+    EXPECT_FALSE(Player::sees(game().score.lblBonus));
     waitForScore();
     EXPECT_EQ(settings.giScore, 1000);
     EXPECT_EQ(settings.giScoreKept, 1000);
@@ -346,7 +348,7 @@ TEST_F(ScoringTest, SpeaksSpanishWhenInfinite) {
     saved.gbInfiniteScore = true;
     openArcade();
     EXPECT_EQ(score(), u"PUNTOS INFINITOS");
-    EXPECT_EQ(game().scoring.lblBonus.caption, u"BONO DEL 50% CONSEGUIDO");
+    EXPECT_EQ(game().score.lblBonus.caption, u"BONO DEL 50% CONSEGUIDO");
 }
 
 }  // namespace

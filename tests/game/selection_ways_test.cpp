@@ -1,5 +1,6 @@
 // Where the next phrase comes from: the five ways, and the tour from topic to
 // topic.
+#include "game/rules/ways.h"
 #include "tests/support/game_test.h"
 
 namespace quillor::testing {
@@ -210,17 +211,17 @@ class TourTest : public SelectionWaysTest {
 TEST_F(TourTest, ShowsThePlaceOfATopic) {
     openWithTopics(5);
     pick(3, kTourSteps);
-    EXPECT_EQ(game().ways.ePutWhere(), u"Tour 1/5");
+    EXPECT_EQ(ePutWhere(settings), u"Tour 1/5");
     playOn(2);
     EXPECT_EQ(settings.giTopicIndex, 0);
-    EXPECT_EQ(game().ways.ePutWhere(), u"Tour 3/5");
+    EXPECT_EQ(ePutWhere(settings), u"Tour 3/5");
 }
 
 TEST_F(TourTest, ShowsThePlaceInSpanish) {
     english = false;
     openWithTopics(5);
     pick(3, kTourSteps);
-    EXPECT_EQ(game().ways.ePutWhere(), u"Turista 1 de 5");
+    EXPECT_EQ(ePutWhere(settings), u"Turista 1 de 5");
 }
 
 TEST_F(TourTest, ShowsThePlaceInTheTitle) {
@@ -250,7 +251,7 @@ TEST_F(TourTest, GoesRoundAgainAfterItsEnd) {
     winTheTour();
     next();
     EXPECT_EQ(topic(), u"T1");
-    EXPECT_EQ(game().ways.ePutWhere(), u"Tour 1/2");
+    EXPECT_EQ(ePutWhere(settings), u"Tour 1/2");
 }
 
 TEST_F(TourTest, OfOneTopicEndsWithEachGame) {
@@ -269,7 +270,7 @@ TEST_F(TourTest, ChosenAfterAVictoryCountsTheTopicJustWon) {
     EXPECT_EQ(settings.giTopicIndex, 1);
     EXPECT_EQ(settings.giTourStart, 0);
     next();
-    EXPECT_EQ(game().ways.ePutWhere(), u"Tour 2/3");
+    EXPECT_EQ(ePutWhere(settings), u"Tour 2/3");
     EXPECT_EQ(playOn(1), u"1");
     EXPECT_EQ(topic(), u"T2");
     winTheTour();
@@ -284,7 +285,7 @@ TEST_F(TourTest, ChosenAfterADeathStartsWithThatTopic) {
     player.press('T', kControl);
     next();
     EXPECT_EQ(topic(), u"T1");
-    EXPECT_EQ(game().ways.ePutWhere(), u"Tour 1/3");
+    EXPECT_EQ(ePutWhere(settings), u"Tour 1/3");
 }
 
 TEST_F(TourTest, IsStartedAnewByChoosingAnotherTopic) {
@@ -294,7 +295,7 @@ TEST_F(TourTest, IsStartedAnewByChoosingAnotherTopic) {
     win();
     player.press('M', kControl);
     pick(3, kTourSteps);
-    EXPECT_EQ(game().ways.ePutWhere(), u"Tour 1/4");
+    EXPECT_EQ(ePutWhere(settings), u"Tour 1/4");
     EXPECT_EQ(playOn(3), u"301");
     winTheTour();
 }
@@ -316,7 +317,7 @@ TEST_F(TourTest, DoesNotMoveOnWhenAGameIsLeft) {
     desktop.answerQuestion(texts::kLeaveGame.english, true);
     next();
     EXPECT_EQ(topic(), u"T1");
-    EXPECT_EQ(game().ways.ePutWhere(), u"Tour 1/3");
+    EXPECT_EQ(ePutWhere(settings), u"Tour 1/3");
 }
 
 TEST_F(TourTest, StopsWithItsBoxOpenWhileTimeGoesOn) {
@@ -324,12 +325,12 @@ TEST_F(TourTest, StopsWithItsBoxOpenWhileTimeGoesOn) {
     saved.gbUseSounds = true;
     openWithTopics(1);
     pick(0, kTourSteps);
-    const int left = game().countDown.secondsLeft();
+    const int left = game().round.secondsLeft;
     desktop.expectMessage(texts::kTourCompleted.english, [this] { desktop.advance(900'000); });
     player.type(u"xaya");
     EXPECT_EQ(settings.giGameState, kWon);
     EXPECT_EQ(settings.giGamesPlayed, 1);
-    EXPECT_EQ(game().countDown.secondsLeft(), left);
+    EXPECT_EQ(game().round.secondsLeft, left);
     desktop.advance(100);
     EXPECT_EQ(desktop.playedSounds.back(), 105);
 }

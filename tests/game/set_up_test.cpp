@@ -116,17 +116,17 @@ TEST_F(SetUpTest, OpensWithoutASettingsFile) {
 
 TEST_F(SetUpTest, ShowsTheMode) {
     openArcade();
-    EXPECT_EQ(game().setUp.lblMode.caption, u"ARCADE MODE");
+    EXPECT_EQ(game().lblMode.caption, u"ARCADE MODE");
     EXPECT_EQ(game().title, u"Quillor | Arcade mode");
     EXPECT_TRUE(game().menu.mAuto.enabled);
-    EXPECT_EQ(game().scoring.lblScore.caption, u"SCORE/ 1000");
+    EXPECT_EQ(game().score.lblScore.caption, u"SCORE/ 1000");
 }
 
 TEST_F(SetUpTest, ShowsTheModeInSpanish) {
     english = false;
     saved.gbHardScore = saved.gbAgainstClock = true;
     openClassic();
-    EXPECT_EQ(game().setUp.lblMode.caption, u"MODO CLÁSICO");
+    EXPECT_EQ(game().lblMode.caption, u"MODO CLÁSICO");
     EXPECT_EQ(game().title, u"Quillor | Modo clásico [Difícil] [Tiempo]");
 }
 
@@ -138,7 +138,7 @@ TEST_F(SetUpTest, ShowsNeitherGamesNorTourInAClassicTitle) {
     player.click("lblOption(1)");
     EXPECT_EQ(game().title, u"Quillor | Classic mode");
     EXPECT_FALSE(game().menu.mAuto.enabled);
-    EXPECT_FALSE(Player::sees(game().scoring.lblScore));
+    EXPECT_FALSE(Player::sees(game().score.lblScore));
 }
 
 TEST_F(SetUpTest, ShowsEveryPieceOfTheTitle) {
@@ -148,7 +148,7 @@ TEST_F(SetUpTest, ShowsEveryPieceOfTheTitle) {
     settings.giGamesPlayed = 3;
     settings.giWay = kTour;
     settings.giTopicIndex = 1;
-    game().setUp.eChangeTitle();
+    game().eChangeTitle();
     EXPECT_EQ(game().title, u"Quillor | Arcade mode [3] [Hard] [Time] [Tour 2/5]");
 }
 
@@ -165,8 +165,8 @@ TEST_F(SetUpTest, ShowsATipForEachDraw) {
     openArcade();
     for (std::size_t tip = 0; tip < texts::kTips.size(); ++tip) {
         desktop.draws = {(static_cast<double>(tip) + 0.5) / 10};
-        game().setUp.ePutSomeLucky();
-        EXPECT_EQ(game().setUp.lblHey.caption, texts::kTips.at(tip).english);
+        game().ePutSomeLucky();
+        EXPECT_EQ(game().lblHey.caption, texts::kTips.at(tip).english);
     }
 }
 
@@ -176,7 +176,7 @@ TEST_F(SetUpTest, ChangesTheTipWithEachGame) {
     desktop.draws = {0.0, 0.75};
     player.press(key::kReturn);
     player.press(key::kReturn);
-    EXPECT_EQ(game().setUp.lblHey.caption, u"Quillor brings different experiences to try!");
+    EXPECT_EQ(game().lblHey.caption, u"Quillor brings different experiences to try!");
 }
 
 TEST_F(SetUpTest, LinesThePicturesUp) {
@@ -192,7 +192,7 @@ TEST_F(SetUpTest, ComesBackWithTheScoreThatWasKept) {
     player.press(key::kF2);
     settings.giScoreKept = 0;
     player.click("lblOption(0)");
-    EXPECT_EQ(game().scoring.lblScore.caption, u"ZERO SCORE/ 0");
+    EXPECT_EQ(game().score.lblScore.caption, u"ZERO SCORE/ 0");
 }
 
 }  // namespace

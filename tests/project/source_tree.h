@@ -24,10 +24,11 @@ inline bool isSource(const std::filesystem::path& file) {
     return ending == ".cpp" || ending == ".h" || ending == ".mm";
 }
 
-/// Every line of every source file in one of the root's folders.
+/// Every line of every source file in one of the root's folders; the folders
+/// inside it are rooms of their own.
 inline std::vector<SourceLine> sourceLines(const std::string& folder) {
     std::vector<SourceLine> lines;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(kSourceRoot / folder)) {
+    for (const auto& entry : std::filesystem::directory_iterator(kSourceRoot / folder)) {
         if (!isSource(entry.path()))
             continue;
         std::ifstream file(entry.path());

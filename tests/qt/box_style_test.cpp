@@ -9,7 +9,7 @@
 
 #include "qt/boxes/box_icon.h"
 #include "qt/windows/qt_values.h"
-#include "ui/colors.h"
+#include "ui/accent.h"
 
 namespace quillor {
 

@@ -19,6 +19,14 @@
 
 namespace quillor::testing {
 
+/// What the board shows of a cell, 1..42: a letter to find, and one that has been uncovered.
+inline bool isLetter(const frmGame& game, int cell) {
+    return game.board.lnLetter(cell).visible;
+}
+inline bool isFound(const frmGame& game, int cell) {
+    return game.board.lblLetter(cell).visible;
+}
+
 class GameTest : public ::testing::Test {
   protected:
     GameTest() {

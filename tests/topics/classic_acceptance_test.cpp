@@ -6,7 +6,7 @@ namespace {
 
 class ClassicAcceptance : public TopicsTest {
   protected:
-    void SetUp() override { show(ScreenId::Word1); }
+    void SetUp() override { open<frmWord1>(ScreenId::Word1); }
 
     frmWord1& screen() { return as<frmWord1>(ScreenId::Word1); }
     bool isOpen() const { return program.find(ScreenId::Word1) != nullptr; }
@@ -20,9 +20,9 @@ TEST_F(ClassicAcceptance, GivesTheGamePhraseAndTopic) {
     player.press(key::kReturn);
     player.type(u"comida");
     player.press(key::kReturn);
-    ASSERT_EQ(game().games.size(), 1U);
-    EXPECT_EQ(game().games[0].phrase, u"EL JALAPEÑO");
-    EXPECT_EQ(game().games[0].topic, u"COMIDA");
+    ASSERT_EQ(games.size(), 1U);
+    EXPECT_EQ(games[0].phrase, u"EL JALAPEÑO");
+    EXPECT_EQ(games[0].topic, u"COMIDA");
     EXPECT_EQ(settings().gsClassicTopic, u"COMIDA");
     EXPECT_FALSE(isOpen());
     EXPECT_TRUE(game().enabled);
@@ -30,12 +30,12 @@ TEST_F(ClassicAcceptance, GivesTheGamePhraseAndTopic) {
 
 TEST_F(ClassicAcceptance, WorksByBothPartsOfTheButton) {
     for (const char* part : {"lblOk(0)", "lblOk(1)"}) {
-        show(ScreenId::Word1);
+        open<frmWord1>(ScreenId::Word1);
         player.type(u"frase");
         player.click(part);
         EXPECT_FALSE(isOpen());
     }
-    EXPECT_EQ(game().games.size(), 2U);
+    EXPECT_EQ(games.size(), 2U);
 }
 
 TEST_F(ClassicAcceptance, TrimsAndFoldsThePhraseAndLaysItOut) {
@@ -49,9 +49,9 @@ TEST_F(ClassicAcceptance, TrimsAndFoldsThePhraseAndLaysItOut) {
 TEST_F(ClassicAcceptance, GivesThePlaceholderForAnUntouchedTopic) {
     player.type(u"frase");
     player.click("lblOk(0)");
-    EXPECT_EQ(game().games[0].topic, u"(NINGÚN TEMA)");
+    EXPECT_EQ(games[0].topic, u"(NINGÚN TEMA)");
     EXPECT_EQ(settings().gsClassicTopic, u"(NINGÚN TEMA)");
-    show(ScreenId::Word1);
+    open<frmWord1>(ScreenId::Word1);
     EXPECT_EQ(screen().txtTheme.text(), u"(NINGÚN TEMA)");
     EXPECT_EQ(screen().txtTheme.textColor, rgb(200, 200, 200));
 }
@@ -60,7 +60,7 @@ TEST_F(ClassicAcceptance, GivesThePlaceholderForATopicLeftEmpty) {
     player.type(u"frase");
     player.press(key::kReturn);
     player.press(key::kReturn);
-    EXPECT_EQ(game().games[0].topic, u"(NINGÚN TEMA)");
+    EXPECT_EQ(games[0].topic, u"(NINGÚN TEMA)");
 }
 
 TEST_F(ClassicAcceptance, OffersTheTopicAgain) {
@@ -68,7 +68,7 @@ TEST_F(ClassicAcceptance, OffersTheTopicAgain) {
     player.press(key::kReturn);
     player.type(u"ríos");
     player.press(key::kReturn);
-    show(ScreenId::Word1);
+    open<frmWord1>(ScreenId::Word1);
     EXPECT_EQ(screen().txtTheme.text(), u"RÍOS");
     EXPECT_EQ(screen().txtWord.text(), u"");
     player.clickInto("txtTheme", 0);
@@ -82,7 +82,7 @@ TEST_F(ClassicAcceptance, RefusesPastedCharactersThatAreNotAllowed) {
     EXPECT_TRUE(isOpen());
     EXPECT_EQ(screen().txtWord.text(), u"HOLA!");
     EXPECT_EQ(settings().gsPhrase, u"");
-    EXPECT_TRUE(game().games.empty());
+    EXPECT_TRUE(games.empty());
 }
 
 TEST_F(ClassicAcceptance, RefusesInEnglish) {
@@ -97,7 +97,7 @@ TEST_F(ClassicAcceptance, DoesNothingOnReturnWithoutAPhrase) {
     player.press(key::kReturn);
     player.press(key::kReturn);
     EXPECT_TRUE(isOpen());
-    EXPECT_TRUE(game().games.empty());
+    EXPECT_TRUE(games.empty());
 }
 
 TEST_F(ClassicAcceptance, HappensOnceHoweverLongReturnIsHeld) {
@@ -107,21 +107,25 @@ TEST_F(ClassicAcceptance, HappensOnceHoweverLongReturnIsHeld) {
         player.press(key::kReturn, kHeld);
     EXPECT_TRUE(isOpen());
     player.press(key::kReturn);
-    EXPECT_EQ(game().games.size(), 1U);
+    EXPECT_EQ(games.size(), 1U);
     EXPECT_FALSE(isOpen());
 }
 
-TEST_F(ClassicAcceptance, TellsTheGameNoWay) {
+TEST_F(ClassicAcceptance, LeavesTheWayAndTheTourAlone) {
+    settings().giWay = kTour;
+    settings().giTourStart = 3;
     player.type(u"frase");
     player.click("lblOk(0)");
-    EXPECT_TRUE(game().ways.empty());
+    EXPECT_EQ(settings().giWay, kTour);
+    EXPECT_EQ(settings().giTourStart, 3);
+    EXPECT_FALSE(settings().gbTourStarted);
 }
 
 TEST_F(ClassicAcceptance, SaysThatATooLongPhraseIsCut) {
     paste(u"aaaaaaaaaa bbbbbbbbbb cccccccccc dddd");
     desktop.expectMessage(u"¡Hasta al tope! La frase ha sido muy larga y fue recortada.");
     player.click("lblOk(0)");
-    EXPECT_EQ(game().games[0].phrase, u"AAAAAAAAAA BBBBBBBBBB CCCCCCCCCC DDDD");
+    EXPECT_EQ(games[0].phrase, u"AAAAAAAAAA BBBBBBBBBB CCCCCCCCCC DDDD");
 }
 
 }  // namespace

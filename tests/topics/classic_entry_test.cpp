@@ -8,10 +8,7 @@ constexpr Color kGreyInk = rgb(200, 200, 200);
 
 class ClassicEntry : public TopicsTest {
   protected:
-    frmWord1& entry() {
-        show(ScreenId::Word1);
-        return as<frmWord1>(ScreenId::Word1);
-    }
+    frmWord1& entry() { return open<frmWord1>(ScreenId::Word1); }
     bool isOpen() const { return program.find(ScreenId::Word1) != nullptr; }
     void setPhrase(TextView text) {
         frmWord1& screen = as<frmWord1>(ScreenId::Word1);
@@ -180,7 +177,7 @@ TEST_F(ClassicEntry, ClosesOnEscapeInEitherField) {
         EXPECT_FALSE(isOpen());
         EXPECT_TRUE(game().enabled);
     }
-    EXPECT_TRUE(game().games.empty());
+    EXPECT_TRUE(games.empty());
     EXPECT_EQ(settings().gsPhrase, u"");
     EXPECT_EQ(settings().gsClassicTopic, u"");
 }
@@ -191,7 +188,7 @@ TEST_F(ClassicEntry, ClosesWithItsWindowAsWithEscape) {
     player.closeWindow();
     EXPECT_FALSE(isOpen());
     EXPECT_TRUE(game().enabled);
-    EXPECT_TRUE(game().games.empty());
+    EXPECT_TRUE(games.empty());
     EXPECT_FALSE(desktop.ended);
 }
 

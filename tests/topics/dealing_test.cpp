@@ -1,20 +1,21 @@
 // Dealing a phrase: which topics qualify, which phrase comes, what the game is told.
 #include "tests/topics/topics_fixture.h"
+#include "topics/choice.h"
 
 namespace quillor::testing {
 namespace {
 
 class Dealing : public TopicsTest {
   protected:
-    frmWord2& selection() {
-        show(ScreenId::Word2);
-        return as<frmWord2>(ScreenId::Word2);
-    }
+    frmWord2& selection() { return open<frmWord2>(ScreenId::Word2); }
     bool isOpen() const { return program.find(ScreenId::Word2) != nullptr; }
     /// As the game does for the ways that choose by themselves.
     void dealUnseen(std::int16_t topic) {
-        auto& screen = dynamic_cast<frmWord2&>(program.load(ScreenId::Word2));
-        desktop.deliver([&] { screen.eChoiceTopic(topic); });
+        settings().gbAutoChoice = true;
+        desktop.deliver([&] {
+            if (eChoiceTopic(program, topic, settings().giWay))
+                note();
+        });
     }
 };
 
@@ -23,9 +24,9 @@ TEST_F(Dealing, GivesTheGameAPhraseAndItsTopic) {
     selection();
     desktop.draws = {0.99};
     player.press(key::kReturn);
-    ASSERT_EQ(game().games.size(), 1U);
-    EXPECT_EQ(game().games[0].phrase, u"GUIRO");
-    EXPECT_EQ(game().games[0].topic, u"AVES");
+    ASSERT_EQ(games.size(), 1U);
+    EXPECT_EQ(games[0].phrase, u"GUIRO");
+    EXPECT_EQ(games[0].topic, u"AVES");
     EXPECT_EQ(settings().gsShownPhrase, u"GÜIRO");
     EXPECT_EQ(settings().gsLastPhrase, u"GÜIRO");
     EXPECT_FALSE(isOpen());
@@ -40,7 +41,7 @@ TEST_F(Dealing, WorksByDoubleClickAndByBothPartsOfTheButton) {
         selection();
         player.click(part);
     }
-    EXPECT_EQ(game().games.size(), 3U);
+    EXPECT_EQ(games.size(), 3U);
 }
 
 TEST_F(Dealing, KeepsTheChosenTopic) {
@@ -60,9 +61,9 @@ TEST_F(Dealing, NeverGivesTheSamePhraseTwiceInARow) {
         selection();
         player.press(key::kReturn);
     }
-    for (std::size_t i = 1; i < game().games.size(); ++i)
-        EXPECT_NE(game().games[i].phrase, game().games[i - 1].phrase);
-    EXPECT_EQ(game().games.size(), 20U);
+    for (std::size_t i = 1; i < games.size(); ++i)
+        EXPECT_NE(games[i].phrase, games[i - 1].phrase);
+    EXPECT_EQ(games.size(), 20U);
 }
 
 TEST_F(Dealing, SeedsBeforeEveryTry) {
@@ -71,7 +72,7 @@ TEST_F(Dealing, SeedsBeforeEveryTry) {
     selection();
     desktop.draws = {0.0, 0.4, 0.6};
     player.press(key::kReturn);
-    EXPECT_EQ(game().games[0].phrase, u"DOS");
+    EXPECT_EQ(games[0].phrase, u"DOS");
     EXPECT_EQ(desktop.seedings, 3);
 }
 
@@ -84,7 +85,7 @@ TEST_F(Dealing, DealsOnlyUpToAGap) {
         player.press(key::kReturn);
     }
     std::vector<Text> dealt;
-    for (const auto& played : game().games)
+    for (const auto& played : games)
         dealt.push_back(played.phrase);
     EXPECT_EQ(dealt, (std::vector<Text>{u"UNO", u"DOS", u"TRES", u"TRES"}));
 }
@@ -97,7 +98,7 @@ TEST_F(Dealing, DealsFromAllFiftyPhrases) {
     selection();
     desktop.draws = {0.9999};
     player.press(key::kReturn);
-    EXPECT_EQ(game().games[0].phrase.size(), 51U);
+    EXPECT_EQ(games[0].phrase.size(), 51U);
 }
 
 TEST_F(Dealing, SkipsPhrasesOfBlanks) {
@@ -105,7 +106,7 @@ TEST_F(Dealing, SkipsPhrasesOfBlanks) {
     selection();
     desktop.draws = {0.0, 0.1, 0.9};
     player.press(key::kReturn);
-    EXPECT_EQ(game().games[0].phrase, u"DOS");
+    EXPECT_EQ(games[0].phrase, u"DOS");
 }
 
 class TooFew : public Dealing, public ::testing::WithParamInterface<std::vector<Text>> {};
@@ -121,7 +122,7 @@ TEST_P(TooFew, IsSaidAndChangesNothing) {
     EXPECT_FALSE(game().enabled);
     EXPECT_EQ(settings().giSavedTopic, 7);
     EXPECT_EQ(settings().gsLastPhrase, u"UNO");
-    EXPECT_TRUE(game().games.empty());
+    EXPECT_TRUE(games.empty());
 }
 
 INSTANTIATE_TEST_SUITE_P(Topics, TooFew,
@@ -144,11 +145,11 @@ TEST_F(Dealing, OfATitleThatIsOnlyTheTagNamesNoTopic) {
     addTopic({u" [ESPAÑOL] ", u"UNO", u"DOS"});
     selection();
     player.press(key::kReturn);
-    EXPECT_EQ(game().games[0].topic, u"(NINGÚN TEMA)");
+    EXPECT_EQ(games[0].topic, u"(NINGÚN TEMA)");
     settings().gbEnglish = true;
     selection();
     player.press(key::kReturn);
-    EXPECT_EQ(game().games[1].topic, u"(NO TOPIC)");
+    EXPECT_EQ(games[1].topic, u"(NO TOPIC)");
 }
 
 TEST_F(Dealing, HidesTheTopicsNameInTheHiddenWay) {
@@ -157,8 +158,8 @@ TEST_F(Dealing, HidesTheTopicsNameInTheHiddenWay) {
     dealUnseen(0);
     settings().gbEnglish = true;
     dealUnseen(0);
-    EXPECT_EQ(game().games.at(0).topic, u"(TEMA OCULTO)");
-    EXPECT_EQ(game().games.at(1).topic, u"(HIDDEN TOPIC)");
+    EXPECT_EQ(games.at(0).topic, u"(TEMA OCULTO)");
+    EXPECT_EQ(games.at(1).topic, u"(HIDDEN TOPIC)");
 }
 
 TEST_F(Dealing, TellsTheGameTheModeBeforeThePhrase) {
@@ -166,9 +167,8 @@ TEST_F(Dealing, TellsTheGameTheModeBeforeThePhrase) {
     selection();
     player.press(key::kRight);
     player.press(key::kReturn);
-    EXPECT_EQ(game().ways, std::vector<int>{kRepeat});
+    EXPECT_EQ(games.at(0).way, kRepeat);
     EXPECT_EQ(settings().giWay, kRepeat);
-    EXPECT_EQ(game().timesRepeatAndTourEnabled, 1);
     EXPECT_FALSE(settings().gbTourStarted);
 }
 
@@ -192,7 +192,7 @@ TEST_F(Dealing, ByTheGameShowsNoScreenAndKeepsTheChoice) {
     EXPECT_FALSE(isOpen());
     EXPECT_TRUE(game().enabled);
     EXPECT_TRUE(settings().gbAutoChoice);
-    EXPECT_EQ(game().ways, std::vector<int>{kAnyTopic});
+    EXPECT_EQ(games.at(0).way, kAnyTopic);
 }
 
 TEST_F(Dealing, ByTheGameOfTooFewPhrasesSaysSo) {
@@ -200,7 +200,7 @@ TEST_F(Dealing, ByTheGameOfTooFewPhrasesSaysSo) {
     settings().giWay = kRepeat;
     desktop.expectMessage(u"El tema seleccionado no tiene suficientes frases, escoge otro.");
     dealUnseen(0);
-    EXPECT_TRUE(game().games.empty());
+    EXPECT_TRUE(games.empty());
 }
 
 TEST_F(Dealing, OfATopicThatThereIsNotIsAnError) {
@@ -209,7 +209,7 @@ TEST_F(Dealing, OfATopicThatThereIsNotIsAnError) {
         desktop.expectCritical(u"Hay un error que impide abrir los temas.");
         dealUnseen(topic);
     }
-    EXPECT_TRUE(game().games.empty());
+    EXPECT_TRUE(games.empty());
 }
 
 TEST_F(Dealing, SaysTheErrorInEnglish) {
@@ -223,7 +223,7 @@ TEST_F(Dealing, TakesAPhraseOfSixtyLettersWithoutABlank) {
     selection();
     desktop.draws = {0.0};
     player.press(key::kReturn);
-    EXPECT_EQ(game().games[0].phrase, Text(60, u'X'));
+    EXPECT_EQ(games[0].phrase, Text(60, u'X'));
 }
 
 TEST_F(Dealing, SaysThatAPhraseIsCut) {
@@ -232,14 +232,14 @@ TEST_F(Dealing, SaysThatAPhraseIsCut) {
     desktop.draws = {0.0};
     desktop.expectMessage(u"¡Hasta al tope! La frase ha sido muy larga y fue recortada.");
     player.press(key::kReturn);
-    EXPECT_EQ(game().games.size(), 1U);
+    EXPECT_EQ(games.size(), 1U);
 }
 
 TEST_F(Dealing, HappensOnceWhileReturnIsHeld) {
     addTopic({u"A", u"UNO", u"DOS"});
     selection();
     player.press(key::kReturn, kHeld);
-    EXPECT_TRUE(game().games.empty());
+    EXPECT_TRUE(games.empty());
     EXPECT_TRUE(isOpen());
 }
 

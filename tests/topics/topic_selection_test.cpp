@@ -11,10 +11,7 @@ class Selection : public TopicsTest {
         addTopic({u"RÍOS", u"EBRO", u"TAJO", u"DUERO"});
         addTopic({u"[ESPAÑOL]", u"UNO", u"DOS"});
     }
-    frmWord2& selection() {
-        show(ScreenId::Word2);
-        return as<frmWord2>(ScreenId::Word2);
-    }
+    frmWord2& selection() { return open<frmWord2>(ScreenId::Word2); }
     bool isOpen() const { return program.find(ScreenId::Word2) != nullptr; }
 };
 
@@ -131,8 +128,7 @@ TEST_F(Selection, ClosesOnEscapeAndChangesNothing) {
     EXPECT_EQ(settings().giTopicIndex, 1);
     EXPECT_EQ(settings().gsPhrase, u"");
     EXPECT_TRUE(settings().gbAutoChoice);
-    EXPECT_TRUE(game().games.empty());
-    EXPECT_TRUE(game().ways.empty());
+    EXPECT_TRUE(games.empty());
 }
 
 TEST_F(Selection, ClosesWithItsWindowAsWithEscape) {

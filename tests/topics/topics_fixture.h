@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "app/phrase_taker.h"
 #include "core/text_codec.h"
 #include "tests/support/open_program.h"
 #include "topics/classic_entry.h"
@@ -13,37 +12,23 @@
 
 namespace quillor::testing {
 
-/// Keeps what it was told, in the order of telling.
-class FakeGame : public Screen, public PhraseTaker {
+/// The screen below, which takes no input meanwhile.
+class FakeGame : public Screen {
   public:
-    explicit FakeGame(Program& program) : Screen("frmGame"), settings_(program.settings) {}
-
-    struct Played {
-        Text phrase;
-        Text topic;
-    };
-    std::vector<Played> games;
-    std::vector<int> ways;
-    int timesRepeatAndTourEnabled = 0;
+    explicit FakeGame(Program&) : Screen("frmGame") {}
     ImageRef itsPaper = std::make_shared<FakeImage>("game's paper");
-
-    void eDoWay(std::int16_t way) override {
-        ways.push_back(way);
-        settings_.giWay = way;
-    }
-    void ePlayNewGame() override { games.push_back({settings_.gsPhrase, settings_.gsTopicName}); }
-    void enableRepeatAndTour() override { ++timesRepeatAndTourEnabled; }
-    void setGameEnabled(bool nowEnabled) override { enabled = nowEnabled; }
-    ImageRef paper() const override { return itsPaper; }
-    const Screen& screen() const override { return *this; }
     void takePaper(const ImageRef&) override {}
 
   protected:
     void onLoad() override {}
     void onCloseRequest() override {}
+};
 
-  private:
-    GameSettings& settings_;
+/// A phrase that was chosen, and the record as it was then.
+struct Played {
+    Text phrase;
+    Text topic;
+    int way = 0;
 };
 
 class TopicsTest : public ::testing::Test, public OpenProgram {
@@ -57,6 +42,18 @@ class TopicsTest : public ::testing::Test, public OpenProgram {
     }
 
     FakeGame& game() { return as<FakeGame>(ScreenId::Game); }
+
+    std::vector<Played> games;
+
+    /// Opens a screen over the game, which notes what is chosen there.
+    template <typename T>
+    T& open(ScreenId id) {
+        desktop.deliver([&] { program.showOver(id, game(), game().itsPaper, [this] { note(); }); });
+        return as<T>(id);
+    }
+    void note() {
+        games.push_back({settings().gsPhrase, settings().gsTopicName, settings().giWay});
+    }
 
     /// Adds a topic: its title and phrases, as loading would leave them.
     void addTopic(std::vector<Text> lines) {

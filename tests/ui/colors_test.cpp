@@ -7,16 +7,16 @@ namespace {
 
 class ColorsTest : public GameTest {
   protected:
-    Color face(int key) { return game().guesses.shpKey(key).backColor; }
-    Color ink(int key) { return game().guesses.lblKey(key).textColor; }
+    Color face(int key) { return game().keyboard.shpKey(key).backColor; }
+    Color ink(int key) { return game().keyboard.lblKey(key).textColor; }
     // The colour of everything that carries the accent.
     std::set<Color> accents() {
         std::set<Color> colors{
-            game().lifeCycle.shpPlay.backColor,   game().sounds.shpWave.backColor,
-            game().webSearch.shpFinder.backColor, game().lifeCycle.lblStatus.backColor,
-            game().scoring.lblScore.backColor,    game().setUp.lblMode.backColor,
+            game().playButton.shpPlay.backColor,  game().sounds.shpWave.backColor,
+            game().webSearch.shpFinder.backColor, game().status.lblStatus.backColor,
+            game().score.lblScore.backColor,      game().lblMode.backColor,
             game().lblBluebar.backColor};
-        for (const Line& line : game().guesses.lnStrike)
+        for (const Line& line : game().strikes.lnStrike)
             colors.insert(line.color);
         return colors;
     }
@@ -138,7 +138,7 @@ TEST_F(ColorsTest, OfTheAccentAreEverywhereTheSame) {
 
 class DriftTest : public ColorsTest {
   protected:
-    Timer& tmrSmooth() { return game().colors.tmrSmooth; }
+    Timer& tmrSmooth() { return game().accent.tmrSmooth; }
     void driftOnce() {
         desktop.deliver([this] { game().tick(tmrSmooth()); });
     }
@@ -170,8 +170,8 @@ TEST_F(DriftTest, ShowsItsNumbers) {
     openArcade();
     desktop.draws = {0.0};
     driftOnce();
-    EXPECT_EQ(game().colors.lblColor.caption, u" 23 140 220");
-    EXPECT_TRUE(Player::sees(game().colors.lblColor));
+    EXPECT_EQ(game().accent.lblColor.caption, u" 23 140 220");
+    EXPECT_TRUE(Player::sees(game().accent.lblColor));
 }
 
 TEST_F(DriftTest, TakesAStepEveryTenthOfASecond) {

@@ -153,7 +153,7 @@ TEST_F(FigureTest, StaysWhenTheGameIsWon) {
 TEST_F(FigureTest, WithoutStrikesLeavesTheSecondLegAsItIs) {
     openArcade();
     figure().shpPrt6.visible = true;
-    figure().ePutItHangman();
+    figure().ePutItHangman(0);
     EXPECT_TRUE(figure().shpPrt6.visible);
     EXPECT_FALSE(figure().shpPrt5.visible);
     EXPECT_FALSE(game().sounds.tmrSound.enabled);

@@ -6,9 +6,9 @@ namespace {
 
 class StatusAnimationsTest : public GameTest {
   protected:
-    Text status() { return game().lifeCycle.lblStatus.caption; }
-    Twips height() { return game().scoring.lblPoints.top; }
-    Color scoreInk() { return game().scoring.lblScore.textColor; }
+    Text status() { return game().status.lblStatus.caption; }
+    Twips height() { return game().score.lblPoints.top; }
+    Color scoreInk() { return game().score.lblScore.textColor; }
 };
 
 TEST_F(StatusAnimationsTest, PutDotsAroundTheStatusWhilePlaying) {
@@ -40,11 +40,22 @@ TEST_F(StatusAnimationsTest, LeaveAnIdleScreenAlone) {
     EXPECT_EQ(status(), u"NEW GAME");
 }
 
-TEST_F(StatusAnimationsTest, LeaveAnUnknownStatusAlone) {
+TEST_F(StatusAnimationsTest, LeaveTheTextOfAnEndingAlone) {
     play(u"WORLD");
-    game().lifeCycle.lblStatus.caption = u"THINKING";
+    desktop.advance(600);
+    answer(u"x");
     desktop.advance(5'000);
-    EXPECT_EQ(status(), u"THINKING");
+    EXPECT_EQ(status(), u"DEAD!");
+}
+
+TEST_F(StatusAnimationsTest, BeginWithoutDotsInANewGame) {
+    play(u"BEE");
+    desktop.advance(600);
+    player.type(u"b");
+    EXPECT_EQ(status(), u". PLAYING .");
+    player.type(u"e");
+    deal();
+    EXPECT_EQ(status(), u"PLAYING");
 }
 
 TEST_F(StatusAnimationsTest, LetThePointsStandForASecondWithoutSound) {
@@ -71,8 +82,8 @@ TEST_F(StatusAnimationsTest, RaisePointsAndBonusTogetherEvery26Milliseconds) {
     answer(u"world");
     desktop.advance(20 + 26 * 5);
     EXPECT_EQ(height(), 660 - 30 * 6);
-    EXPECT_EQ(game().scoring.lblBonus.top, height());
-    EXPECT_TRUE(Player::sees(game().scoring.lblBonus));
+    EXPECT_EQ(game().score.lblBonus.top, height());
+    EXPECT_TRUE(Player::sees(game().score.lblBonus));
 }
 
 TEST_F(StatusAnimationsTest, HideThePointsAtTheTopAndStartTheCount) {
@@ -81,33 +92,59 @@ TEST_F(StatusAnimationsTest, HideThePointsAtTheTopAndStartTheCount) {
     answer(u"world");
     desktop.advance(20 + 26 * 15);
     EXPECT_EQ(height(), 180);
-    EXPECT_FALSE(game().scoring.tmrScore.enabled);
+    EXPECT_FALSE(game().score.tmrScore.enabled);
     desktop.advance(26);
-    EXPECT_FALSE(Player::sees(game().scoring.lblPoints));
-    EXPECT_FALSE(Player::sees(game().scoring.lblBonus));
-    EXPECT_FALSE(game().animations.tmrUp.enabled);
-    EXPECT_TRUE(game().scoring.tmrScore.enabled);
+    EXPECT_FALSE(Player::sees(game().score.lblPoints));
+    EXPECT_FALSE(Player::sees(game().score.lblBonus));
+    EXPECT_FALSE(game().score.tmrUp.enabled);
+    EXPECT_TRUE(game().score.tmrScore.enabled);
 }
 
-TEST_F(StatusAnimationsTest, PulseALowScoreBetweenRedAndWhite) {
+TEST_F(StatusAnimationsTest, PulseALowScoreInAllThreeComponents) {
+    start();
+    settings.giScoreKept = 400;
+    player.click("lblOption(0)");
+    desktop.advance(100);  // at white the direction turns first
+    std::vector<Color> down;
+    for (int tick = 0; tick < 9; ++tick) {
+        desktop.advance(game().score.tmrBlood.interval);
+        down.push_back(scoreInk());
+    }
+    EXPECT_EQ(down.at(0), rgb(245, 225, 225));
+    EXPECT_EQ(down.at(1), rgb(240, 200, 200));
+    EXPECT_EQ(down.at(8), rgb(205, 25, 25));
+    EXPECT_LE(down.at(8), settings.glRed);
+}
+
+TEST_F(StatusAnimationsTest, BringThePulseBackToWhite) {
+    start();
+    settings.giScoreKept = 400;
+    player.click("lblOption(0)");
+    // Nine steps either way, with a hold at each end.
+    desktop.advance(100 + 300 + 8 * 100 + 100 + 300 + 8 * 100);
+    EXPECT_EQ(scoreInk(), settings.glWhite);
+    desktop.advance(100);
+    EXPECT_EQ(game().score.tmrBlood.interval, 300);
+}
+
+TEST_F(StatusAnimationsTest, PulseAlsoAfterPointsWereSettledStraightToALowScore) {
     play(u"A BEE");
     player.type(u"e");
     answer(u"x");
-    waitForScore();
-    ASSERT_EQ(settings.giScore, 500);
-    std::set<Color> seen;
-    for (int i = 0; i < 600; ++i) {
-        desktop.advance(100);
-        const Color ink = scoreInk();
-        seen.insert(ink);
-        EXPECT_EQ(redOf(ink), 250);
-        EXPECT_EQ(greenOf(ink), blueOf(ink));
-        EXPECT_GE(greenOf(ink), 30);
-        EXPECT_LE(greenOf(ink), 250);
-    }
-    EXPECT_EQ(seen.count(settings.glRed), 1U);
-    EXPECT_EQ(seen.count(settings.glWhite), 1U);
-    EXPECT_GE(seen.size(), 8U);
+    desktop.advance(100);
+    player.press(key::kReturn);
+    EXPECT_EQ(settings.giScore, 500);
+    EXPECT_TRUE(game().score.tmrBlood.enabled);
+}
+
+TEST_F(StatusAnimationsTest, PulseAlsoAfterPointsWereSettledStraightToZero) {
+    play(u"WORLD");
+    answer(u"x");
+    desktop.advance(100);
+    expectBox(texts::kNoPoints);
+    player.press(key::kReturn);
+    EXPECT_EQ(settings.giScore, 0);
+    EXPECT_TRUE(game().score.tmrBlood.enabled);
 }
 
 TEST_F(StatusAnimationsTest, HoldThePulseAtItsTurns) {
@@ -115,11 +152,11 @@ TEST_F(StatusAnimationsTest, HoldThePulseAtItsTurns) {
     settings.giScoreKept = 400;
     player.click("lblOption(0)");
     desktop.advance(100);
-    EXPECT_EQ(game().animations.tmrBlood.interval, 300);
+    EXPECT_EQ(game().score.tmrBlood.interval, 300);
     EXPECT_EQ(scoreInk(), settings.glWhite);
     desktop.advance(300);
-    EXPECT_EQ(scoreInk(), settings.glWhite - rgb(0, 25, 25));
-    EXPECT_EQ(game().animations.tmrBlood.interval, 100);
+    EXPECT_EQ(scoreInk(), settings.glWhite - rgb(5, 25, 25));
+    EXPECT_EQ(game().score.tmrBlood.interval, 100);
 }
 
 TEST_F(StatusAnimationsTest, EndThePulseWhenTheScoreIsHighAgain) {
@@ -133,7 +170,7 @@ TEST_F(StatusAnimationsTest, EndThePulseWhenTheScoreIsHighAgain) {
     waitForScore();
     EXPECT_GT(settings.giScore, 500);
     EXPECT_EQ(scoreInk(), settings.glWhite);
-    EXPECT_FALSE(game().animations.tmrBlood.enabled);
+    EXPECT_FALSE(game().score.tmrBlood.enabled);
 }
 
 }  // namespace

@@ -1,0 +1,80 @@
+// What the menu and its keys do beside playing: leaving, restarting, switches.
+#include "app/shared_operations.h"
+#include "core/settings_file.h"
+#include "game/game_screen.h"
+#include "game/rules/ways.h"
+
+namespace quillor {
+
+// False, whatever was answered, when the game ended while the question stood.
+bool frmGame::confirmsLeaving() {
+    const bool yes = program_.desktop.question(program_.lang(texts::kLeaveGame));
+    return yes && settings_.giGameState == kPlaying;
+}
+
+bool frmGame::mayLeaveGame() {
+    if (settings_.giGameState != kPlaying)
+        return true;
+    if (settings_.giStrikes < kTooManyMistakes)
+        return confirmsLeaving();
+    say(texts::kTooManyMistakes);
+    return false;
+}
+
+void frmGame::mBack_Click() {
+    if (mayLeaveGame())
+        eBackStart();
+}
+
+void frmGame::eBackStart() {
+    eResetGame();
+    program_.show(ScreenId::Menu).takePaper(imgBack(0).image);
+    program_.close(*this);
+}
+
+// Unlike going back, restarting is allowed whatever the number of mistakes.
+void frmGame::mReboot_Click() {
+    if (settings_.giGameState != kPlaying || confirmsLeaving())
+        eRestartGame(program_, *this);
+}
+
+void frmGame::mDoWay_Click(int index) {
+    settings_.gbAutoChoice = false;
+    eDoWay(settings_, static_cast<std::int16_t>(index));
+    saveSwitches();
+}
+
+void frmGame::mDoWayAll_Click(int index) {
+    chooseFromAll(settings_, index);
+    saveSwitches();
+}
+
+void frmGame::eChangeSound() {
+    settings_.gbUseSounds = !settings_.gbUseSounds;
+    sounds.eActiveSound();
+    saveSwitches();
+}
+
+// Both helps count from the next board on.
+void frmGame::mHelpy_Click() {
+    settings_.gbFirstLetter = !settings_.gbFirstLetter;
+    saveSwitches();
+}
+
+void frmGame::mHide_Click() {
+    settings_.gbHiddenLetters = !settings_.gbHiddenLetters;
+    saveSwitches();
+}
+
+void frmGame::mColor_Click() {
+    settings_.gbColorTransition = !settings_.gbColorTransition;
+    accent.switchTransition();
+    saveSwitches();
+}
+
+void frmGame::saveSwitches() {
+    menu.show(topicDealt_);
+    eSaveSettings(settings_, program_.folder);
+}
+
+}  // namespace quillor

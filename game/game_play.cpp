@@ -1,0 +1,189 @@
+// A game from the play button to its ending. What a rule says has happened is
+// looked at in one place, `show`, and painted from there.
+#include "core/settings_file.h"
+#include "core/text_rules.h"
+#include "game/game_screen.h"
+#include "game/rules/ending.h"
+#include "game/rules/guess.h"
+#include "game/rules/scoring.h"
+#include "game/rules/ways.h"
+#include "toolkit/style.h"
+#include "topics/choice.h"
+
+namespace quillor {
+
+void frmGame::say(const TextPair& text) {
+    program_.desktop.messageBox(MessageIcon::Information, program_.lang(text));
+}
+
+void frmGame::ePlayButton() {
+    if (settings_.giTopicMax < 0)
+        say(texts::kNoTopics);
+    else if (!score.isCounting() && mayLeaveGame())
+        eContinueToPlay();
+}
+
+void frmGame::eContinueToPlay() {
+    score.settle();
+    if (settings_.gbClassicMode) {
+        eResetGame();
+        program_.showOver(ScreenId::Word1, *this, imgBack(0).image, [this] { ePlayNewGame(); });
+    } else if (settings_.giScore > 0 || settings_.gbInfiniteScore) {
+        eResetGame();
+        dealNextPhrase();
+    } else {
+        say(texts::kNoPoints);
+    }
+}
+
+void frmGame::dealNextPhrase() {
+    const auto play = [this] {
+        topicDealt_ = true;
+        ePlayNewGame();
+    };
+    if (settings_.giWay == kManual) {
+        program_.showOver(ScreenId::Word2, *this, imgBack(0).image, play);
+        return;
+    }
+    drawTopic(settings_, [this] {
+        program_.desktop.seedRandom();
+        return program_.desktop.random();
+    });
+    settings_.gbAutoChoice = true;
+    if (eChoiceTopic(program_, settings_.giTopicIndex, settings_.giWay))
+        play();
+}
+
+void frmGame::eResetGame() {
+    score.settle();
+    clearRound(settings_, round);
+    board.clear(settings_);
+    keyboard.leaveKeys();
+    accent.ePutNewColor(settings_.glThemeNow);
+    figure.eResetHangman();
+    clock.stop();
+    webSearch.offer(false);
+    showIdlePage(true);
+    showRound();
+    eChangeTitle();
+}
+
+void frmGame::ePlayNewGame() {
+    startRound(settings_, round);
+    board.layOut(settings_, round);
+    showIdlePage(false);
+    showRound();
+    if (settings_.gbFirstLetter)
+        takeHint();
+    eSaveSettings(settings_, program_.folder);
+    ePutSomeLucky();
+    eChangeTitle();
+    // A phrase of one letter and blanks is won by its first-letter hint.
+    if (settings_.giGameState != kPlaying)
+        return;
+    announcer.sayNewGame(round);
+    if (settings_.gbAgainstClock) {
+        ePutSomeTime(round, static_cast<int>(settings_.gsPhrase.size()));
+        clock.start(round);
+    }
+    sounds.request(sound::kNewGame);
+}
+
+void frmGame::takeHint() {
+    switch (eHelpLetter(settings_, round)) {
+        case Hint::PhraseTooShort:
+            say(texts::kHintTooShort);
+            break;
+        case Hint::NoSingleLetter:
+            say(texts::kHintNone);
+            break;
+        case Hint::Given:
+            showRound();
+            break;
+        case Hint::Won:
+            show(Happened::Won);
+            break;
+    }
+}
+
+void frmGame::guess(char16_t key) {
+    const std::size_t mistakes = round.mistakes.size();
+    const Happened happened = eEnterKey(settings_, round, key);
+    // Also the sixth one; the ending names its own sound before this one plays.
+    if (round.mistakes.size() > mistakes)
+        sounds.request(sound::kMistake);
+    show(happened);
+    if (settings_.giGameState == kPlaying)
+        announcer.sayGuess(upperCase(key), happened, round);
+}
+
+void frmGame::eEnterWord() {
+    if (settings_.giGameState != kPlaying)
+        return;
+    // The clock may end the game while the box stands: then the answer is no attempt.
+    const Text typed = program_.desktop.inputBox(program_.lang(texts::kEnterAnswer));
+    show(judgeAnswer(settings_, round, typed));
+}
+
+void frmGame::passSecond() {
+    const Happened happened = quillor::passSecond(settings_, round);
+    clock.show(round);
+    show(happened);
+}
+
+void frmGame::show(Happened happened) {
+    switch (happened) {
+        case Happened::Nothing:
+            return;
+        case Happened::Repeated:
+            accent.flash(settings_.glYellow);
+            break;
+        case Happened::Found:
+            accent.flash(settings_.glGreen);
+            sounds.request(sound::kGoodLetter);
+            break;
+        case Happened::Mistake:
+            accent.flash(settings_.glRed);
+            break;
+        case Happened::Won:
+        case Happened::Died:
+            endGame(happened);
+            return;
+    }
+    showRound();
+}
+
+void frmGame::endGame(Happened how) {
+    const bool tourCompleted = eFinalStep(settings_, round, how);
+    const bool dead = how == Happened::Died;
+    accent.ePutNewColor(dead ? settings_.glRed : settings_.glGreen);
+    figure.tmrDead.enabled = dead;
+    showRound();
+    clock.stop();
+    webSearch.offer(true);
+    score.showPoints();
+    announcer.sayEnding();
+    // Named at once: the sixth mistake's own sound must not play under the box.
+    sounds.name(dead ? sound::kDeath : sound::kVictory);
+    if (tourCompleted)
+        say(texts::kTourCompleted);
+    sounds.playNamed();
+}
+
+void frmGame::showRound() {
+    board.show(settings_, round);
+    keyboard.show(settings_, round);
+    strikes.show(round);
+    figure.ePutItHangman(settings_.giStrikes);
+    status.show();
+    playButton.show();
+    menu.show(topicDealt_);
+}
+
+// Between two games something is drawn where the board and the keys will be.
+void frmGame::showIdlePage(bool idle) {
+    for (Picture& picture : imgBack)
+        picture.drawing = idle ? style::kIdleDrawing : "";
+}
+
+}  // namespace quillor

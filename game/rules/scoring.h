@@ -1,0 +1,48 @@
+// What a game is worth, the score that counts to its new value, and the clock.
+#pragma once
+
+#include <cstdint>
+
+#include "game/rules/round.h"
+
+namespace quillor {
+
+/// What a game's worth depends on.
+struct GameResult {
+    int letters = 0;      // to find, blanks not counted
+    int found = 0;        // of them
+    int blanks = 0;       // of the laid-out phrase
+    int length = 0;       // of the laid-out phrase, blanks included
+    int strikes = 0;      // 0..6
+    int secondsLeft = 0;  // 0 without the clock
+    bool hard = false;
+    bool hintUsed = false;
+    bool answerWritten = false;
+};
+
+/// Points won by a victory. Throws std::overflow_error beyond 16 bits.
+std::int16_t victoryPoints(const GameResult& game);
+/// Points lost by a death, 0 or less. Throws as above.
+std::int16_t deathPoints(const GameResult& game);
+
+/// Settles the score of the game that just ended: `giScoreStep` is what it was
+/// worth, `giScoreShown` (0..32767) where the score is to count. Throws as above.
+void eScoreUpDown(GameSettings& settings, const Round& round);
+
+/// Classic games and those with infinite score leave the score alone.
+bool keepsScore(const GameSettings& settings);
+/// One step of `giScore` towards its new value. Returns whether it is there.
+bool countScore(GameSettings& settings);
+/// The score as it is after the count, at once.
+void settleScore(GameSettings& settings);
+
+/// Seconds allowed for a phrase of that length, blanks included; an empty one
+/// counts as 1. Very short phrases get much time, long ones get time for their length.
+int secondsAllowed(int letters, bool hiddenLetters);
+/// Starts the count-down for a phrase of that length.
+void ePutSomeTime(Round& round, int letters);
+/// A second of the time of day is over. Dies with the last one allowed; nothing
+/// happens without the clock or while no game is being played.
+Happened passSecond(const GameSettings& settings, Round& round);
+
+}  // namespace quillor

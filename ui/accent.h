@@ -1,0 +1,53 @@
+// The accent colour of the game screen: its flashes and its slow drift.
+#pragma once
+
+#include <array>
+#include <functional>
+
+#include "app/program.h"
+
+namespace quillor {
+
+class Accent {
+  public:
+    /// `paint` gives everything that shows the accent its colour.
+    Accent(Program& program, std::function<void(Color)> paint);
+
+    Timer tmrColor;
+    Timer tmrSmooth;
+    Label lblColor;  // the drifting colour in numbers
+
+    /// Paints the accent; `glThemeNow` stays as it is.
+    void ePutNewColor(Color color);
+    /// The same for a moment, while a game is going on.
+    void flash(Color color);
+    /// The accent as painted last.
+    Color color() const { return color_; }
+    /// Takes the colour transition up as it is switched.
+    void prepareTransition();
+    /// The switch of the colour transition has been turned.
+    void switchTransition();
+
+  private:
+    struct Channel {
+        int value = 0;
+        bool rising = true;
+    };
+
+    void eGetRGB(Color color);
+    void tmrColor_Timer();
+    void tmrSmooth_Timer();
+    bool mayRise(const Channel& channel) const;
+    Color drifted() const;
+
+    Program& program_;
+    GameSettings& settings_;
+    std::function<void(Color)> paint_;
+    Color color_ = 0;
+    std::array<Channel, 3> channels_{};  // red, green, blue
+};
+
+/// Contrast of the palette's white on a colour: 1 is none, black has about 20.
+double whiteTextContrast(Color background);
+
+}  // namespace quillor
