@@ -29,6 +29,7 @@ Keyboard::Keyboard(Program& program, Told told) : program_(program), told_(std::
             return colors_.at(static_cast<std::size_t>(key)).accent;
         };
         label.onClick = [this, key] { lblKey_Click(key); };
+        label.onRightClick = [] {};  // a key does not open the menu
         label.onMouseMove = [this, key, accent] {
             told_.mouseCame();
             light(key, accent());

@@ -113,6 +113,33 @@ TEST_F(PhraseBoardTest, BreaksBetweenWords) {
     EXPECT_EQ(board().frmeMagic.width, board().lblLetter(7).right());
 }
 
+TEST_F(PhraseBoardTest, PutsNoBlankBehindARowThatIsExactlyFull) {
+    play(u"FRIED CHICKENS NOW");
+    EXPECT_EQ(board().lblLetter(14).caption, u"S");
+    EXPECT_EQ(board().lblLetter(15).caption, u"N");
+    EXPECT_EQ(board().lblCont.caption, u"0/16");
+    answer(u"fried chickens now");
+    EXPECT_EQ(settings.giGameState, kWon);
+}
+
+TEST_F(PhraseBoardTest, IsSpelledWithAGapBetweenAllWords) {
+    play(u"FRIED CHICKENS NOW");
+    EXPECT_TRUE(
+        game().announcer.lblSpoken.caption.ends_with(u"_ _ _ _ _ , _ _ _ _ _ _ _ _ , _ _ _ "));
+    player.type(u"n");
+    EXPECT_TRUE(
+        game().announcer.lblSpoken.caption.ends_with(u"_ _ _ _ _ , _ _ _ _ _ _ N _ , N _ _ "));
+}
+
+TEST_F(PhraseBoardTest, ShowsSignsOfTopicAndPhraseAsTheyStand) {
+    addTopic(u"R&B && 100%S\r\nA&B\r\nC&&D");
+    openArcade();
+    deal();
+    EXPECT_EQ(board().lblTopic.caption, u"R&B && 100%S");
+    EXPECT_TRUE(board().lblTopic.literal);
+    EXPECT_TRUE(board().lblLetter(2).literal);
+}
+
 TEST_F(PhraseBoardTest, StandsALittleLeftOfTheMiddle) {
     play(u"WORLD");
     const Shape& area = board().shpLimit;

@@ -325,6 +325,43 @@ TEST_F(ScoringTest, OfClassicGamesDoesNotReachArcadeMode) {
     EXPECT_EQ(score(), u"SCORE/ 1000");
 }
 
+TEST_F(ScoringTest, OfArcadeModeOutlivesAVisitToClassicMode) {
+    play(u"WORLD");
+    player.type(u"world");
+    waitForScore();
+    player.press(key::kF2);
+    player.click("lblOption(1)");
+    enter(u"BEE");
+    answer(u"x");
+    waitForScore();
+    player.press(key::kF2);
+    player.click("lblOption(0)");
+    EXPECT_EQ(score(), u"SCORE/ 1800");
+    EXPECT_EQ(settings.giScoreKept, 1800);
+}
+
+TEST_F(ScoringTest, IsNotCountedInClassicMode) {
+    playClassic(u"BEE");
+    answer(u"x");
+    for (int waited = 0; waited < 3'000; ++waited) {
+        desktop.advance(1);
+        ASSERT_FALSE(counts()) << waited;
+    }
+    player.press(key::kReturn);
+    EXPECT_EQ(player.screen().name, "frmWord1");
+}
+
+TEST_F(ScoringTest, IsNotCountedWhenInfinite) {
+    saved.gbInfiniteScore = true;
+    play(u"WORLD");
+    answer(u"x");
+    for (int waited = 0; waited < 3'000; ++waited) {
+        desktop.advance(1);
+        ASSERT_FALSE(counts()) << waited;
+    }
+    EXPECT_EQ(settings.giScore, 1000);
+}
+
 TEST_F(ScoringTest, NeverPassesTheLargestNumber) {
     play(u"WORLD");
     settings.giScore = 32'500;

@@ -300,6 +300,44 @@ TEST_F(TourTest, IsStartedAnewByChoosingAnotherTopic) {
     winTheTour();
 }
 
+TEST_F(TourTest, IsNotMovedOnByClassicGames) {
+    openWithTopics(3);
+    pick(0, kTourSteps);
+    win();
+    player.press(key::kF2);
+    player.click("lblOption(1)");
+    enter(u"BEE");
+    answer(u"bee");
+    EXPECT_EQ(settings.giTopicIndex, 1);
+    player.press(key::kF2);
+    player.click("lblOption(0)");
+    next();
+    EXPECT_EQ(topic(), u"T1");
+    EXPECT_EQ(ePutWhere(settings), u"Tour 2/3");
+}
+
+TEST_F(TourTest, ChosenAgainOnItsWayStartsWithTheCurrentTopic) {
+    openWithTopics(3);
+    pick(0, kTourSteps);
+    playOn(1);
+    player.press('T', kControl);
+    EXPECT_EQ(ePutWhere(settings), u"Tour 1/3");
+    EXPECT_EQ(playOn(2), u"12");
+    EXPECT_EQ(topic(), u"T0");
+    winTheTour();
+}
+
+TEST_F(TourTest, FollowedByRepeatComesBackToTheTopicPlayedLast) {
+    openWithTopics(3);
+    pick(1, kTourSteps);
+    win();
+    EXPECT_EQ(settings.giTopicIndex, 2);
+    player.press('R', kControl);
+    EXPECT_FALSE(settings.gbTourStarted);
+    next();
+    EXPECT_EQ(topic(), u"T1");
+}
+
 TEST_F(TourTest, IsLeftByAnotherWay) {
     openWithTopics(3);
     pick(1, kTourSteps);

@@ -47,6 +47,32 @@ TEST_F(GameMenuTest, PopsUpOverTheBackgroundByTheRightButton) {
     EXPECT_EQ(desktop.popUps, (std::vector<std::string>{"mMenu", "mMenu"}));
 }
 
+TEST_F(GameMenuTest, StandsInTheBar) {
+    english = false;
+    openArcade();
+    EXPECT_EQ(game().lblMenu.caption, u"&Menú");
+    EXPECT_TRUE(Player::sees(game().lblMenu));
+    player.click("lblMenu");
+    player.press(key::kF10);
+    EXPECT_EQ(desktop.popUps, (std::vector<std::string>{"mMenu", "mMenu"}));
+}
+
+TEST_F(GameMenuTest, PopsUpByTheRightButtonOnWhateverIsNoKey) {
+    play(u"BEE");
+    for (const char* place : {"lblBluebar", "lblTopic", "lblHey", "lblStatus", "frmeMan"})
+        player.rightClick(place);
+    EXPECT_EQ(desktop.popUps.size(), 5U);
+    player.rightClick("lblKey(1)");
+    EXPECT_EQ(desktop.popUps.size(), 5U);
+}
+
+TEST_F(GameMenuTest, MarksTheWaysAsOneChoice) {
+    openArcade();
+    for (const MenuItem* item : game().menu.mAuto.children)
+        EXPECT_EQ(item->radio, !item->caption.empty()) << item->id;
+    EXPECT_FALSE(game().menu.mWave.radio);
+}
+
 TEST_F(GameMenuTest, AsksBeforeGoingBackWithThreeMistakes) {
     play(u"WORLD");
     player.type(u"xyz");

@@ -58,6 +58,18 @@ TEST_F(SoundsTest, TellDeathAndVictory) {
     EXPECT_EQ(heard(), (Ids{105}));
 }
 
+TEST_F(SoundsTest, TellNothingWhenAGameWithMistakesIsLeft) {
+    saved.gbUseSounds = true;
+    playClassic(u"BEE");
+    player.type(u"xyz");
+    desktop.advance(100);
+    desktop.playedSounds.clear();
+    desktop.answerQuestion(lang(texts::kLeaveGame), true);
+    player.press(key::kReturn);
+    desktop.advance(100);
+    EXPECT_TRUE(desktop.playedSounds.empty());
+}
+
 TEST_F(SoundsTest, ReplaceOneAnotherBeforeTheyPlay) {
     play(u"WORLD");
     heard();
