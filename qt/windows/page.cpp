@@ -7,7 +7,6 @@
 #include <algorithm>
 
 #include "qt/paint/paper.h"
-#include "qt/windows/accessible_label.h"
 #include "qt/windows/drawn_views.h"
 #include "qt/windows/field_view.h"
 #include "qt/windows/label_views.h"
@@ -54,7 +53,6 @@ Page::Page(Shell& shell, Screen& screen, PageWindow& window)
       keys_(*this, link_),
       timers_(link_, screen),
       focused_(screen.initialFocus()) {
-    installLabelAccessibility();
     hide();
     setObjectName(QString::fromStdString(screen.name));
     setAttribute(Qt::WA_InputMethodEnabled);

@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <algorithm>
 
+#include "qt/windows/accessibility.h"
 #include "qt/windows/qt_values.h"
 #include "toolkit/style.h"
 
@@ -34,7 +35,8 @@ QSizeF sizeOf(const Screen& screen) {
 
 }  // namespace
 
-PageWindow::PageWindow(Shell& shell, PageWindow* owner) : QMainWindow(owner), shell_(shell) {
+PageWindow::PageWindow(PageWindow* owner) : QMainWindow(owner) {
+    installAccessibility();
     setContextMenuPolicy(Qt::NoContextMenu);
     auto* pages = new QWidget;
     auto* places = new QGridLayout(pages);  // gives each visible page the whole room
@@ -53,13 +55,14 @@ QSizeF PageWindow::sheet(QSizeF screen) const {
 // The new page appears before the old one goes, so that nothing shines through.
 void PageWindow::turnTo(Page* page) {
     Page* before = std::exchange(page_, page);
+    if (page)
+        syncTitle();
     if (page == before)
         return;
     if (before)
         before->leave();
     if (page) {
         static_cast<QGridLayout&>(*centralWidget()->layout()).addWidget(page, 0, 0);
-        sync();
         page->show();
         page->raise();
         page->enter();
@@ -71,15 +74,16 @@ void PageWindow::turnTo(Page* page) {
         before->hide();
 }
 
-void PageWindow::sync() {
-    const Screen* screen = page_ ? page_->screen() : nullptr;
-    if (!screen)
-        return;
-    const QString title = toQt(screen->title);
-    if (title == windowTitle())
-        return;
-    setWindowTitle(title);
-    setAccessibleName(title);
+void PageWindow::syncTitle() {
+    const QString title = toQt(page_->screen()->title);
+    if (title != windowTitle()) {
+        setWindowTitle(title);
+        setAccessibleName(title);
+    }
+    // A screen reader speaks of a window when the player comes to it, and of a
+    // page when it is turned to; a dialog has one page only.
+    if (!isDialog() && title != page_->accessibleName())
+        page_->setAccessibleName(title);
 }
 
 void PageWindow::open() {

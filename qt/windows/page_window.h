@@ -12,16 +12,14 @@ namespace quillor {
 class PageWindow : public QMainWindow {
   public:
     /// With an owner it is a dialog of it, and the owner deletes it.
-    explicit PageWindow(Shell& shell, PageWindow* owner = nullptr);
+    explicit PageWindow(PageWindow* owner = nullptr);
 
     bool isDialog() const { return parentWidget() != nullptr; }
     /// The page on show; null: none.
     Page* page() const { return page_; }
-    /// Puts a page, made for this window, on show; the window appears with its
-    /// first one. Null takes the window off the display.
+    /// Puts a page, made for this window, on show, and its screen's title on the
+    /// window, which appears with its first page. Null takes it off the display.
     void turnTo(Page* page);
-    /// Takes over what the page's screen says about the window.
-    void sync();
     void comeToFront();
 
     /// What fills the window, in twips, when a screen of that size is shown: a
@@ -33,10 +31,10 @@ class PageWindow : public QMainWindow {
     void closeEvent(QCloseEvent* event) override;
 
   private:
+    void syncTitle();
     void open();
     QRect firstPlace() const;
 
-    Shell& shell_;
     Page* page_ = nullptr;
     bool opened_ = false;
 };

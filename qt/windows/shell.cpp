@@ -36,9 +36,9 @@ Page* Shell::front() const {
 PageWindow& Shell::windowFor(const Screen& screen) {
     const Page* below = screen.over ? find(screen.over) : nullptr;
     if (below)
-        return *dialogs_.emplace_back(new PageWindow(*this, &below->pageWindow()));
+        return *dialogs_.emplace_back(new PageWindow(&below->pageWindow()));
     if (!window_)
-        window_ = std::make_unique<PageWindow>(*this);
+        window_ = std::make_unique<PageWindow>();
     return *window_;
 }
 

@@ -84,6 +84,30 @@ TEST_F(Accessibility, NamesFieldsAndWindows) {
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&window)->text(QAccessible::Name), "Entry");
 }
 
+TEST_F(Accessibility, NamesThePageThatIsTurnedTo) {
+    screen.title = u"Menu";
+    PlainScreen next;
+    next.title = u"Settings";
+    PageWindow& window = open();
+    shell.event([&] { shell.show(next); });
+    const auto* page = QAccessible::queryAccessibleInterface(window.page());
+    EXPECT_EQ(page->role(), QAccessible::Pane);
+    EXPECT_EQ(page->text(QAccessible::Name), "Settings");
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&window)->text(QAccessible::Name), "Settings");
+    shell.event([&] { shell.close(next); });
+}
+
+TEST_F(Accessibility, KnowsDialogsAsSuch) {
+    PlainScreen above;
+    above.title = u"Entry";
+    above.over = &screen;
+    open();
+    const auto* dialog = QAccessible::queryAccessibleInterface(&open(above));
+    EXPECT_EQ(dialog->role(), QAccessible::Dialog);
+    EXPECT_EQ(dialog->text(QAccessible::Name), "Entry");
+    shell.event([&] { shell.close(above); });
+}
+
 }  // namespace
 
 }  // namespace quillor

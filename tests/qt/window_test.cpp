@@ -21,6 +21,13 @@ TEST_F(Windows, ShowTheTitleAndEveryControlInItsPlace) {
     EXPECT_EQ(widgetOf(button).objectName(), "lbl");
 }
 
+TEST_F(Windows, FollowTheTitle) {
+    PageWindow& window = open();
+    shell.event([&] { screen.title = u"Quillor [1]"; });
+    EXPECT_EQ(window.windowTitle(), "Quillor [1]");
+    EXPECT_EQ(window.accessibleName(), "Quillor [1]");
+}
+
 TEST_F(Windows, KeepTheScreensProportions) {
     Label button;
     addButton(button, "lbl", 0, 0);

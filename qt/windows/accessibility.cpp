@@ -1,9 +1,12 @@
-// A factory of accessible objects that know the role, state and press of a label.
-#include "qt/windows/accessible_label.h"
+// A factory of accessible objects: labels know their role, state and press. A page
+// is a named pane, so that it is announced when the focus comes into it: the window
+// has been announced long before.
+#include "qt/windows/accessibility.h"
 
 #include <QAccessibleWidget>
 
 #include "qt/windows/label_views.h"
+#include "qt/windows/page_window.h"
 
 namespace quillor {
 
@@ -58,13 +61,20 @@ class AccessibleLabel : public QAccessibleWidget {
 };
 
 QAccessibleInterface* makeInterface(const QString&, QObject* object) {
-    auto* view = dynamic_cast<LabelView*>(object);
-    return view ? new AccessibleLabel(static_cast<QWidget*>(object), *view) : nullptr;
+    auto* widget = qobject_cast<QWidget*>(object);
+    if (auto* label = dynamic_cast<LabelView*>(object))
+        return new AccessibleLabel(widget, *label);
+    if (dynamic_cast<Page*>(object))
+        return new QAccessibleWidget(widget, QAccessible::Pane);
+    const auto* window = dynamic_cast<PageWindow*>(object);
+    if (window && window->isDialog())
+        return new QAccessibleWidget(widget, QAccessible::Dialog);
+    return nullptr;
 }
 
 }  // namespace
 
-void installLabelAccessibility() {
+void installAccessibility() {
     static const bool kInstalled = (QAccessible::installFactory(makeInterface), true);
     static_cast<void>(kInstalled);
 }

@@ -1,9 +1,9 @@
-// What labels are to a screen reader.
+// What labels, pages and dialogs are to a screen reader.
 #pragma once
 
 namespace quillor {
 
 /// Tells the toolkit about our own roles; once is enough, more do no harm.
-void installLabelAccessibility();
+void installAccessibility();
 
 }  // namespace quillor
