@@ -11,6 +11,7 @@
 #include "app/program.h"
 #include "core/files.h"
 #include "game/game_screen.h"
+#include "qt/boxes/box_style.h"
 #include "qt/command_line.h"
 #include "qt/qt_desktop.h"
 #include "qt/system/platform.h"
@@ -112,6 +113,7 @@ int play(const CommandLine& line, int argc, char** argv) {
     qInstallMessageHandler(onlyFatal);
     QApplication application(argc, argv);
     qInstallMessageHandler(nullptr);
+    QApplication::setStyle(new NotebookStyle);
     QApplication::setApplicationName("Quillor");
     QApplication::setWindowIcon(programIcon());
     QApplication::setQuitOnLastWindowClosed(false);

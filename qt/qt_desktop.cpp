@@ -72,10 +72,9 @@ BoxStyle QtDesktop::boxStyle() const {
 
 void QtDesktop::messageBox(MessageIcon icon, TextView text) {
     shell_.modally([&] {
-        showMessage(
-            boxStyle(),
-            icon == MessageIcon::Critical ? QMessageBox::Critical : QMessageBox::Information,
-            toQt(text), lang(texts::kAccept));
+        const bool critical = icon == MessageIcon::Critical;
+        showMessage(boxStyle(), critical ? BoxSign::Critical : BoxSign::Information, toQt(text),
+                    lang(texts::kAccept));
     });
 }
 

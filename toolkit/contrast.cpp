@@ -7,6 +7,8 @@ namespace quillor {
 
 namespace {
 
+constexpr Color kBlack = rgb(0, 0, 0);
+constexpr Color kWhite = rgb(255, 255, 255);
 constexpr double kFlare = 0.05;  // light that even black gives back
 
 double linear(int component) {
@@ -24,6 +26,24 @@ double luminance(Color color) {
 double contrast(Color one, Color other) {
     const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
     return (lighter + kFlare) / (darker + kFlare);
+}
+
+Color farthestFrom(Color color) {
+    return contrast(color, kBlack) > contrast(color, kWhite) ? kBlack : kWhite;
+}
+
+Color darkEnoughForWhite(Color color, double needed) {
+    while (contrast(color, kWhite) < needed)
+        color = rgb(redOf(color) * 19 / 20, greenOf(color) * 19 / 20, blueOf(color) * 19 / 20);
+    return color;
+}
+
+Color mixed(Color under, Color over, double share) {
+    const auto mix = [share](int one, int other) {
+        return static_cast<int>(std::lround(one + (other - one) * share));
+    };
+    return rgb(mix(redOf(under), redOf(over)), mix(greenOf(under), greenOf(over)),
+               mix(blueOf(under), blueOf(over)));
 }
 
 }  // namespace quillor

@@ -1,4 +1,4 @@
-// The measures that all screens share, so that they look like one program.
+// The measures and colours that all screens share, so that they look like one program.
 #pragma once
 
 #include "core/types.h"
@@ -12,6 +12,19 @@ inline constexpr Twips kScreenWidth = 13200;
 inline constexpr Twips kScreenHeight = 8100;
 
 inline constexpr Twips kButtonRadius = 150;
+
+// Colours that no player's file changes; the palette of GameSettings has the others.
+inline constexpr Color kInk = rgb(40, 40, 40);
+inline constexpr Color kPale = rgb(250, 250, 250);       // text on colour
+inline constexpr Color kFaint = rgb(90, 90, 90);         // small print on paper
+inline constexpr Color kPaper = rgb(252, 251, 247);      // where nothing is ruled
+inline constexpr Color kEdge = rgb(135, 135, 142);       // of fields, lists, quiet buttons
+inline constexpr Color kFineEdge = rgb(200, 204, 208);   // of keys, and between entries
+inline constexpr Color kQuietFace = rgb(244, 243, 239);  // of buttons in boxes
+inline constexpr Color kQuietField = rgb(224, 224, 224);
+inline constexpr Color kBoxHover = rgb(22, 136, 22);  // white text on it has 4.5:1
+inline constexpr Color kBoxPressed = rgb(14, 104, 14);
+inline constexpr Color kAlarm = rgb(225, 35, 35);
 
 /// What is drawn on the notebook page of a screen; see Picture.
 inline constexpr const char* kMenuDrawing = "menu";

@@ -13,6 +13,7 @@ constexpr Twips kLeft = 3240;
 constexpr Twips kFirstRow = 2520;
 constexpr Twips kRow = 900;
 constexpr Twips kBox = 600;
+constexpr Twips kBlank = 90;  // that the options' captions begin with
 
 }  // namespace
 
@@ -82,7 +83,7 @@ void frmOptions::layOut() {
     lblBack(1).textColor = rgb(250, 30, 30);
     lblBack(1).align = Align::Left;
     lblBack(1).tabStop = false;
-    add(lblBack(1)).place(kLeft + 720, 7080, 2700, kBox);
+    add(lblBack(1)).place(kLeft + 720 + kBlank, 7080, 2700, kBox);
 }
 
 }  // namespace quillor

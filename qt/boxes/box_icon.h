@@ -1,14 +1,16 @@
 // The signs of the message boxes.
 #pragma once
 
-#include <QColor>
-#include <QMessageBox>
 #include <QPixmap>
+
+#include "core/types.h"
 
 namespace quillor {
 
-/// The sign of a message box, a filled circle with a white mark, for a square of
-/// `size` logical pixels. Null for QMessageBox::NoIcon.
-QPixmap boxIcon(QMessageBox::Icon icon, const QColor& accent, int size, double density);
+enum class BoxSign { Information, Question, Critical };
+
+/// A filled circle with a white mark, for a square of `size` logical pixels: red
+/// for what is critical, in the accent otherwise.
+QPixmap boxIcon(BoxSign sign, const QColor& accent, int size, double density);
 
 }  // namespace quillor

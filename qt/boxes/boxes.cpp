@@ -1,19 +1,23 @@
-// The toolkit's own boxes in the style of the notebook, sized by their font.
+// Every box is a dialog with a sign or a picture, texts, and a row of buttons,
+// sized by what is in it.
 #include "qt/boxes/boxes.h"
 
+#include <QAccessibleWidget>
+#include <QDialog>
 #include <QDialogButtonBox>
-#include <QEvent>
-#include <QInputDialog>
+#include <QGridLayout>
+#include <QIcon>
 #include <QLabel>
-#include <QLayout>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QScreen>
+#include <QStyleOption>
 #include <algorithm>
 
 #include "core/texts.h"
-#include "qt/boxes/box_icon.h"
 #include "qt/windows/qt_values.h"
+#include "toolkit/style.h"
 
 namespace quillor {
 
@@ -23,227 +27,193 @@ namespace {
 constexpr int kIconSize = 3;
 constexpr int kAboutIconSize = 4;
 constexpr int kInputWidth = 26;
+constexpr double kInputHeight = 2.4;
+constexpr double kInputSide = 0.7;
 constexpr int kTextWidth = 30;  // of a text's lines at most
 constexpr int kBesideText = 9;  // margins, icon and gaps
 constexpr double kTitleSize = 1.5;
-
-QString boxTitle() {
-    return toQt(texts::kProgramName);
-}
+constexpr double kMargin = 1.4;
+constexpr double kRowGap = 0.9;
+constexpr double kColumnGap = 1.2;
+constexpr double kButtonGap = 0.5;
 
 constexpr double kLowPlace = 0.72;  // of the window's height, for a low box's middle
 
-// The toolkit's names for the parts of its message box.
-constexpr const char* kSign = "qt_msgboxex_icon_label";
-constexpr const char* kText = "qt_msgbox_label";
-constexpr const char* kFurtherText = "qt_msgbox_informativelabel";
+QAccessibleInterface* makeInterface(const QString&, QObject* object);
 
-/// A box that knows its place as soon as it knows its size.
-template <typename Box>
-class Placed : public Box {
+class Box : public QDialog {
   public:
-    explicit Placed(const BoxStyle& style)
-        : Box(style.parent), low_(style.low), ringShown_(style.ringShown) {}
-
-  protected:
-    // A fine edge, where paper would lie on paper.
-    void paintEvent(QPaintEvent* event) override {
-        Box::paintEvent(event);
-        paintBoxEdge(*this);
-    }
-    void showEvent(QShowEvent* event) override {
-        Box::showEvent(event);
-        this->setAttribute(Qt::WA_KeyboardFocusChange, ringShown_);
-        putInPlace();
-    }
-    void putInPlace() {
-        const QWidget* owner = this->parentWidget();
-        if (!low_ || !owner)
-            return;
-        const QRect below = owner->geometry();
-        QRect place = this->frameGeometry();
-        place.moveCenter(
-            {below.center().x(), below.top() + static_cast<int>(below.height() * kLowPlace)});
-        const QRect space = owner->screen()->availableGeometry();
-        place.moveBottom(std::min(place.bottom(), space.bottom()));
-        this->move(place.topLeft());
+    Box(const BoxStyle& style, QAccessible::Role boxRole)
+        : QDialog(style.parent), role(boxRole), style_(style), rows_(new QGridLayout(this)) {
+        QAccessible::installFactory(makeInterface);
+        setWindowTitle(toQt(texts::kProgramName));
+        setFont(style.font);
+        setPalette(notebookColors(style.accent, style::kPaper));
+        const int margin = px(kMargin);
+        rows_->setContentsMargins(margin, margin, margin, margin);
+        rows_->setVerticalSpacing(px(kRowGap));
+        rows_->setHorizontalSpacing(px(kColumnGap));
+        rows_->setSizeConstraint(QLayout::SetFixedSize);
+        connect(&buttons_, &QDialogButtonBox::accepted, this, &QDialog::accept);
+        connect(&buttons_, &QDialogButtonBox::rejected, this, &QDialog::reject);
     }
 
-  private:
-    bool low_;
-    bool ringShown_;
-};
+    const QAccessible::Role role;
 
-/// Sized by what is in it. The toolkit's own limits are in pixels, too few of
-/// them for a large font.
-class MessageWindow : public Placed<QMessageBox> {
-  public:
-    using Placed::Placed;
+    int px(double sizes) const { return static_cast<int>(sizes * style_.font.pixelSize()); }
 
-  protected:
-    bool event(QEvent* event) override {
-        if (event->type() != QEvent::LayoutRequest)
-            return Placed::event(event);
-        fit();
-        return QDialog::event(event);
+    /// Stands at the left of all texts.
+    void addPicture(const QPixmap& picture) {
+        auto* label = new QLabel;
+        label->setObjectName("picture");
+        label->setPixmap(picture);
+        rows_->addWidget(label, 0, 0, -1, 1, Qt::AlignTop);
     }
-    // Its size is settled only after it was shown.
-    void resizeEvent(QResizeEvent* event) override {
-        QDialog::resizeEvent(event);
-        if (isVisible())
-            putInPlace();
+    QLabel& addText(QString text, const QFont& font) {
+        auto* label = new QLabel(text.replace("\r\n", "\n"));
+        label->setFont(font);
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+        label->setMinimumWidth(lineLength(*label));
+        addRow(*label);
+        return *label;
     }
-    void showEvent(QShowEvent* event) override {
-        QMessageBox::showEvent(event);
-        fit();
-        Placed::showEvent(event);
-    }
+    void addRow(QWidget& row) { rows_->addWidget(&row, row_++, 1); }
 
-  private:
-    void fit() {
-        for (const char* name : {kText, kFurtherText})
-            if (auto* label = findChild<QLabel*>(name))
-                label->setWordWrap(true);
-        layout()->activate();
-        const int width =
-            std::min(layout()->totalMinimumSize().width(), screen()->availableGeometry().width());
-        setFixedSize(width, layout()->totalHeightForWidth(width));
-    }
-};
-
-QString oneLineEnds(QString text) {
-    return text.replace("\r\n", "\n");
-}
-
-// Long texts are set in lines of a good length, whatever the font's size.
-void setLineLength(QLabel& label, const BoxStyle& style) {
-    const QSize whole = QFontMetrics(label.font()).size(Qt::TextExpandTabs, label.text());
-    const int em = style.font.pixelSize();
-    const int space = label.screen()->availableGeometry().width() - em * kBesideText;
-    label.setMinimumWidth(std::min({whole.width() + 1, em * kTextWidth, space}));
-}
-
-/// A message box whose parts all have the program's look.
-class Message {
-  public:
-    Message(const BoxStyle& style, QMessageBox::Icon icon, const QString& text)
-        : style_(style), look_(style), box_(style) {
-        box_.setWindowTitle(boxTitle());
-        box_.setFont(style.font);
-        box_.setTextFormat(Qt::PlainText);
-        box_.setText(oneLineEnds(text));
-        box_.setIcon(icon);
-    }
-
-    QMessageBox& box() { return box_; }
-
-    /// The first button is the main one; Escape means the last one.
-    QPushButton* addButton(const QString& caption, QMessageBox::ButtonRole role) {
-        QPushButton* button = box_.addButton(caption, role);
-        if (!box_.defaultButton())
-            box_.setDefaultButton(button);
-        box_.setEscapeButton(button);
+    /// The first button is the main one.
+    QPushButton& addButton(const QString& caption, QDialogButtonBox::ButtonRole meaning) {
+        const bool main = buttons_.buttons().isEmpty();
+        QPushButton& button = *buttons_.addButton(caption, meaning);
+        button.setFont(style_.buttonFont);
+        button.setCursor(Qt::PointingHandCursor);
+        button.setDefault(main);
+        if (main) {
+            QPalette colors = palette();
+            colors.setColor(QPalette::Button, colors.color(QPalette::Highlight));
+            button.setPalette(colors);
+        }
         return button;
     }
 
-    /// Shows it until it is answered. A picture takes the place of the sign.
-    void ask(const QPixmap& picture = {}) {
-        look_.dress(box_, box_.defaultButton());
-        // After the style, which brings signs of its own.
-        const QPixmap shown = picture.isNull() ? sign() : picture;
-        if (auto* label = box_.findChild<QLabel*>(kSign))
-            label->setPixmap(shown);
-        setTexts(shown.height() / shown.devicePixelRatio());
-        box_.exec();
+    /// Shows it, the focus on that widget, until it is answered. True: accepted.
+    bool ask(QWidget& focus) {
+        buttons_.layout()->setSpacing(px(kButtonGap));
+        rows_->addWidget(&buttons_, row_, 0, 1, -1);
+        focus.setFocus();
+        layout()->activate();
+        putInPlace(style_.parent);
+        return exec() == Accepted;
+    }
+
+  protected:
+    // A fine edge, where paper would lie on paper.
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        QStyleOption frame;
+        frame.initFrom(this);
+        style()->drawPrimitive(QStyle::PE_FrameMenu, &frame, &painter, this);
+    }
+    void showEvent(QShowEvent* event) override {
+        setAttribute(Qt::WA_KeyboardFocusChange, style_.ringShown);
+        QDialog::showEvent(event);
+        if (role != QAccessible::AlertMessage)
+            return;
+        QAccessibleEvent alert(this, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
+    }
+    void resizeEvent(QResizeEvent* event) override {
+        QDialog::resizeEvent(event);
+        if (isVisible())
+            putInPlace(this);
     }
 
   private:
-    QPixmap sign() const {
-        return boxIcon(box_.icon(), look_.accent(), style_.font.pixelSize() * kIconSize,
-                       box_.devicePixelRatioF());
+    // Long texts are set in lines of a good length, whatever the font's size.
+    int lineLength(const QLabel& label) const {
+        const QSize whole = QFontMetrics(label.font()).size(Qt::TextExpandTabs, label.text());
+        const int space = screen()->availableGeometry().width() - px(kBesideText);
+        return std::min({whole.width() + 1, px(kTextWidth), space});
     }
 
-    // A text by itself stands beside the middle of the sign; one with a further
-    // text below it is a title.
-    void setTexts(double signHeight) {
-        auto* text = box_.findChild<QLabel*>(kText);
-        auto* further = box_.findChild<QLabel*>(kFurtherText);
-        if (text && further) {
-            text->setFont(titleFont());
-            further->setContentsMargins(0, 0, 0, style_.font.pixelSize());
-        } else if (text) {
-            text->setAlignment(Qt::AlignVCenter | Qt::AlignLeft);
-            text->setMinimumHeight(static_cast<int>(signHeight));
-        }
-        for (QLabel* label : {text, further})
-            if (label)
-                setLineLength(*label, style_);
-    }
-
-    QFont titleFont() const {
-        QFont font = style_.buttonFont;
-        font.setPixelSize(static_cast<int>(style_.font.pixelSize() * kTitleSize));
-        return font;
+    // Low in its window, so that what is above can be read. The edges that the
+    // desktop adds are those of `framed`, a window that it shows already.
+    void putInPlace(const QWidget* framed) {
+        if (!style_.low || !style_.parent)
+            return;
+        const QRect below = style_.parent->geometry();
+        QRect place(QPoint(), size() + framed->frameGeometry().size() - framed->size());
+        place.moveCenter(
+            {below.center().x(), below.top() + static_cast<int>(below.height() * kLowPlace)});
+        const QRect space = style_.parent->screen()->availableGeometry();
+        place.moveBottom(std::min(place.bottom(), space.bottom()));
+        move(place.topLeft());
     }
 
     const BoxStyle& style_;
-    NotebookStyle look_;  // outlives the box
-    MessageWindow box_;
+    QGridLayout* rows_;
+    int row_ = 0;
+    QDialogButtonBox buttons_;
 };
 
-// The field, its prompt and the buttons of an input box.
-void prepareInput(QInputDialog& box, const BoxStyle& style, const QString& prompt) {
-    if (auto* field = box.findChild<QLineEdit*>()) {
-        field->setMinimumWidth(style.font.pixelSize() * kInputWidth);
-        field->setAccessibleName(prompt);
-        field->setContextMenuPolicy(Qt::NoContextMenu);  // not in the program's language
-    }
-    // Some styles put icons on these buttons; the other boxes have none.
-    for (QPushButton* button : box.findChildren<QPushButton*>())
-        button->setIcon({});
+// A message is announced as what it is, as soon as it appears.
+QAccessibleInterface* makeInterface(const QString&, QObject* object) {
+    auto* box = dynamic_cast<Box*>(object);
+    return box ? new QAccessibleWidget(box, box->role) : nullptr;
 }
+
+/// A box with a sign beside one text.
+class Message : public Box {
+  public:
+    Message(const BoxStyle& style, BoxSign sign, const QString& text)
+        : Box(style, QAccessible::AlertMessage) {
+        const QPixmap picture =
+            boxIcon(sign, palette().color(QPalette::Highlight), px(kIconSize), devicePixelRatioF());
+        addPicture(picture);
+        // A short one stands beside the middle of the sign.
+        addText(text, style.font).setMinimumHeight(px(kIconSize));
+    }
+};
 
 }  // namespace
 
-void showMessage(const BoxStyle& style, QMessageBox::Icon icon, const QString& text,
-                 const QString& accept) {
-    Message message(style, icon, text);
-    message.addButton(accept, QMessageBox::AcceptRole);
-    message.ask();
+void showMessage(const BoxStyle& style, BoxSign sign, const QString& text, const QString& accept) {
+    Message box(style, sign, text);
+    box.ask(box.addButton(accept, QDialogButtonBox::AcceptRole));
 }
 
 bool askQuestion(const BoxStyle& style, const QString& text, const QString& yes,
                  const QString& no) {
-    Message message(style, QMessageBox::Question, text);
-    const QPushButton* agree = message.addButton(yes, QMessageBox::YesRole);
-    message.addButton(no, QMessageBox::NoRole);
-    message.ask();
-    return message.box().clickedButton() == agree;
+    Message box(style, BoxSign::Question, text);
+    QPushButton& agree = box.addButton(yes, QDialogButtonBox::YesRole);
+    box.addButton(no, QDialogButtonBox::NoRole);
+    return box.ask(agree);
 }
 
 QString askText(const BoxStyle& style, const QString& prompt, const QString& accept,
                 const QString& cancel) {
-    NotebookStyle look(style);
-    Placed<QInputDialog> box(style);
-    box.setWindowTitle(boxTitle());
-    box.setFont(style.font);
-    box.setLabelText(oneLineEnds(prompt));
-    box.setOkButtonText(accept);
-    box.setCancelButtonText(cancel);
-    prepareInput(box, style, oneLineEnds(prompt));
-    const auto* buttons = box.findChild<QDialogButtonBox*>();
-    look.dress(box, buttons ? buttons->button(QDialogButtonBox::Ok) : nullptr);
-    return box.exec() == QDialog::Accepted ? box.textValue() : QString();
+    Box box(style, QAccessible::Dialog);
+    const QLabel& words = box.addText(prompt, style.font);
+    QLineEdit field;
+    field.setMinimumSize(box.px(kInputWidth), box.px(kInputHeight));
+    field.setTextMargins(box.px(kInputSide), 0, box.px(kInputSide), 0);
+    field.setAccessibleName(words.text());
+    field.setContextMenuPolicy(Qt::NoContextMenu);  // not in the program's language
+    box.addRow(field);
+    box.addButton(accept, QDialogButtonBox::AcceptRole);
+    box.addButton(cancel, QDialogButtonBox::RejectRole);
+    return box.ask(field) ? field.text() : QString();
 }
 
 void showAbout(const BoxStyle& style, const QString& title, const QString& text,
                const QString& accept) {
-    Message message(style, QMessageBox::Information, title);
-    message.box().setInformativeText(oneLineEnds(text));
-    message.addButton(accept, QMessageBox::AcceptRole);
+    Box box(style, QAccessible::AlertMessage);
     const QIcon program = style.parent ? style.parent->windowIcon() : QIcon();
-    message.ask(program.pixmap(QSize(1, 1) * style.font.pixelSize() * kAboutIconSize,
-                               message.box().devicePixelRatioF()));
+    box.addPicture(program.pixmap(QSize(1, 1) * box.px(kAboutIconSize), box.devicePixelRatioF()));
+    QFont large = style.buttonFont;
+    large.setPixelSize(box.px(kTitleSize));
+    box.addText(title, large);
+    box.addText(text, style.font).setContentsMargins(0, 0, 0, box.px(1));
+    box.ask(box.addButton(accept, QDialogButtonBox::AcceptRole));
 }
 
 }  // namespace quillor

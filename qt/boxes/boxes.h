@@ -1,15 +1,14 @@
 // The small boxes that stand over a window until they are answered.
 #pragma once
 
-#include <QMessageBox>
 #include <QString>
 
+#include "qt/boxes/box_icon.h"
 #include "qt/boxes/box_style.h"
 
 namespace quillor {
 
-void showMessage(const BoxStyle& style, QMessageBox::Icon icon, const QString& text,
-                 const QString& accept);
+void showMessage(const BoxStyle& style, BoxSign sign, const QString& text, const QString& accept);
 
 /// True for yes; Escape and the close button mean no.
 bool askQuestion(const BoxStyle& style, const QString& text, const QString& yes, const QString& no);

@@ -4,13 +4,14 @@
 #include <QActionGroup>
 #include <QMenu>
 
+#include "qt/boxes/accessible_entry.h"
 #include "qt/windows/qt_values.h"
 
 namespace quillor {
 
 namespace {
 
-void fill(QMenu& menu, const MenuItem& source, NotebookStyle& look);
+void fill(QMenu& menu, const MenuItem& source);
 
 // The menu's one group of entries of which one is checked.
 QActionGroup* radioGroup(QMenu& menu) {
@@ -18,7 +19,7 @@ QActionGroup* radioGroup(QMenu& menu) {
     return group ? group : new QActionGroup(&menu);
 }
 
-void addItem(QMenu& menu, MenuItem& item, NotebookStyle& look) {
+void addItem(QMenu& menu, MenuItem& item) {
     const QString caption = toQt(item.caption);
     if (caption.isEmpty()) {
         menu.addSeparator();
@@ -27,8 +28,9 @@ void addItem(QMenu& menu, MenuItem& item, NotebookStyle& look) {
     if (!item.children.empty()) {
         QMenu* inner = menu.addMenu(caption);
         inner->setFont(menu.font());
+        inner->setPalette(menu.palette());
         inner->setEnabled(item.enabled);
-        fill(*inner, item, look);
+        fill(*inner, item);
         return;
     }
     // What stands behind a tab is shown at the entry's right edge.
@@ -43,20 +45,20 @@ void addItem(QMenu& menu, MenuItem& item, NotebookStyle& look) {
     action->setData(QVariant::fromValue(static_cast<void*>(&item)));
 }
 
-void fill(QMenu& menu, const MenuItem& source, NotebookStyle& look) {
-    look.dress(menu);
+void fill(QMenu& menu, const MenuItem& source) {
     for (MenuItem* item : source.children)
-        addItem(menu, *item, look);
+        addItem(menu, *item);
 }
 
 }  // namespace
 
 MenuItem* choosePopUp(const BoxStyle& style, const MenuItem& menu, QPoint at) {
-    NotebookStyle look(style);
+    installEntryAccessibility();
     QMenu popup(toQt(menu.caption), style.parent);
     popup.setAccessibleName(toQt(menu.caption));
     popup.setFont(style.font);
-    fill(popup, menu, look);
+    popup.setPalette(notebookColors(style.accent, rgb(255, 255, 255)));
+    fill(popup, menu);
     const QAction* chosen = popup.exec(at);
     return chosen ? static_cast<MenuItem*>(chosen->data().value<void*>()) : nullptr;
 }

@@ -9,35 +9,43 @@
 
 #include "qt/boxes/box_icon.h"
 #include "qt/windows/qt_values.h"
-#include "ui/accent.h"
+#include "toolkit/contrast.h"
 
 namespace quillor {
 
 namespace {
 
-BoxStyle styleOf(int fontSize) {
-    BoxStyle style;
-    style.font.setPixelSize(fontSize);
-    style.buttonFont.setPixelSize(fontSize);
-    return style;
+constexpr Color kAccent = rgb(20, 140, 220);
+
+QFont fontOf(int size) {
+    QFont font;
+    font.setPixelSize(size);
+    return font;
+}
+
+QColor shownAccent(Color color) {
+    return notebookColors(color, rgb(255, 255, 255)).color(QPalette::Highlight);
 }
 
 QStyleOptionMenuItem entry(bool checked, QStyle::State state) {
     QStyleOptionMenuItem item;
     item.rect = QRect(0, 0, 300, 38);
     item.state = state;
+    item.font = fontOf(20);
     item.text = "Entry\tF2";
     item.checkType = QStyleOptionMenuItem::NonExclusive;
     item.checked = checked;
     return item;
 }
 
-QImage painted(const QStyleOptionMenuItem& item) {
-    const NotebookStyle look(styleOf(20));
+QImage painted(QStyleOptionMenuItem item) {
+    QMenu menu;
+    menu.setFont(item.font);
+    item.palette = notebookColors(kAccent, rgb(255, 255, 255));
     QImage image(item.rect.size(), QImage::Format_ARGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
-    look.drawControl(QStyle::CE_MenuItem, &item, &painter, nullptr);
+    NotebookStyle().drawControl(QStyle::CE_MenuItem, &item, &painter, &menu);
     return image;
 }
 
@@ -47,30 +55,29 @@ QImage checkOf(const QImage& image) {
 }
 
 TEST(BoxIcon, IsSharpAtTheDisplaysDensity) {
-    const QPixmap icon = boxIcon(QMessageBox::Question, Qt::blue, 30, 1.5);
+    const QPixmap icon = boxIcon(BoxSign::Question, Qt::blue, 30, 1.5);
     EXPECT_EQ(icon.size(), QSize(45, 45));
     EXPECT_EQ(icon.deviceIndependentSize(), QSizeF(30, 30));
 }
 
 TEST(BoxIcon, IsACircleInTheAccentOrInRed) {
     const QColor accent(20, 140, 220);
-    const QImage calm = boxIcon(QMessageBox::Information, accent, 100, 1).toImage();
+    const QImage calm = boxIcon(BoxSign::Information, accent, 100, 1).toImage();
     EXPECT_EQ(calm.pixelColor(15, 50), accent);
     EXPECT_EQ(calm.pixelColor(50, 60), QColor(Qt::white));
     EXPECT_EQ(calm.pixelColor(2, 2).alpha(), 0);
-    const QImage alarm = boxIcon(QMessageBox::Critical, accent, 100, 1).toImage();
+    const QImage alarm = boxIcon(BoxSign::Critical, accent, 100, 1).toImage();
     EXPECT_GT(alarm.pixelColor(15, 50).red(), 200);
     EXPECT_LT(alarm.pixelColor(15, 50).blue(), 60);
 }
 
 TEST(BoxStyle, DarkensAnAccentThatWhiteCannotBeReadOn) {
-    BoxStyle style = styleOf(20);
-    for (const Color color : {rgb(255, 255, 255), rgb(240, 210, 30), rgb(20, 140, 220)}) {
-        style.accent = color;
-        const QColor used = NotebookStyle(style).accent();
-        EXPECT_GE(whiteTextContrast(rgb(used.red(), used.green(), used.blue())), 3);
+    for (const Color color : {rgb(255, 255, 255), rgb(240, 210, 30), kAccent}) {
+        const QColor used = shownAccent(color);
+        EXPECT_GE(contrast(rgb(255, 255, 255), rgb(used.red(), used.green(), used.blue())), 4.5);
     }
-    EXPECT_EQ(NotebookStyle(style).accent(), toQt(style.accent));
+    const Color dark = rgb(20, 80, 160);
+    EXPECT_EQ(shownAccent(dark), toQt(dark));
 }
 
 TEST(MenuEntry, ShowsItsCheckMarkInEveryState) {
@@ -83,6 +90,15 @@ TEST(MenuEntry, ShowsItsCheckMarkInEveryState) {
     }
 }
 
+TEST(MenuEntry, HasARoundMarkWhenItIsOneOfSeveral) {
+    QStyleOptionMenuItem item = entry(false, QStyle::State_Enabled);
+    const QImage square = painted(item);
+    item.checkType = QStyleOptionMenuItem::Exclusive;
+    EXPECT_NE(checkOf(painted(item)), checkOf(square));
+    item.checked = true;
+    EXPECT_NE(checkOf(painted(item)), checkOf(painted(entry(true, QStyle::State_Enabled))));
+}
+
 TEST(MenuEntry, FadesWhenItIsDisabledAndIgnoresTheMouse) {
     const QImage disabled = painted(entry(true, QStyle::State_None));
     EXPECT_NE(disabled, painted(entry(true, QStyle::State_Enabled)));
@@ -91,7 +107,7 @@ TEST(MenuEntry, FadesWhenItIsDisabledAndIgnoresTheMouse) {
 
 TEST(MenuEntry, IsInTheAccentUnderTheMouse) {
     const QImage hovered = painted(entry(false, QStyle::State_Enabled | QStyle::State_Selected));
-    EXPECT_EQ(hovered.pixelColor(150, 2), NotebookStyle(styleOf(20)).accent());
+    EXPECT_EQ(hovered.pixelColor(150, 2), shownAccent(kAccent));
     EXPECT_EQ(painted(entry(false, QStyle::State_Enabled)).pixelColor(150, 2), QColor(Qt::white));
 }
 
@@ -105,9 +121,8 @@ TEST(MenuEntry, HasItsShortcutAtTheRightEdge) {
 }
 
 TEST(PopUpMenu, FitsTheScreenHoweverLongItIs) {
-    NotebookStyle look(styleOf(20));
     QMenu menu;
-    look.dress(menu);
+    menu.setFont(fontOf(20));
     for (int i = 0; i < 100; ++i)
         menu.addAction("entry");
     menu.popup({0, 0});

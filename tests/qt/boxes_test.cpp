@@ -1,6 +1,7 @@
 // What the boxes say, give back and look like.
 #include "qt/boxes/boxes.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QDialog>
 #include <QLabel>
@@ -39,6 +40,12 @@ class Boxes : public ::testing::Test {
                 return each;
         return nullptr;
     }
+    static QLabel* textOf(QDialog& box) {
+        for (QLabel* each : box.findChildren<QLabel*>())
+            if (!each->text().isEmpty())
+                return each;
+        return nullptr;
+    }
     static void type(QDialog& box, Qt::Key key) { QTest::keyClick(box.focusWidget(), key); }
 
     BoxStyle style;
@@ -47,12 +54,21 @@ class Boxes : public ::testing::Test {
 
 TEST_F(Boxes, KeepTheirIconUnderASignOfTheFontsSize) {
     whenOpen([](QDialog& box) {
-        EXPECT_EQ(dynamic_cast<QMessageBox&>(box).icon(), QMessageBox::Critical);
-        const auto* sign = box.findChild<QLabel*>("qt_msgboxex_icon_label");
+        const auto* sign = box.findChild<QLabel*>("picture");
         ASSERT_TRUE(sign);
         EXPECT_EQ(sign->pixmap().deviceIndependentSize(), QSizeF(60, 60));
     });
-    showMessage(style, QMessageBox::Critical, "text", "Accept");
+    showMessage(style, BoxSign::Critical, "text", "Accept");
+    EXPECT_TRUE(opened);
+}
+
+TEST_F(Boxes, AreAlertsOnceTheySaySomething) {
+    whenOpen([](QDialog& box) {
+        const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&box);
+        EXPECT_EQ(spoken->role(), QAccessible::AlertMessage);
+        EXPECT_EQ(spoken->text(QAccessible::Name), "Quillor");
+    });
+    askQuestion(style, "text", "&Yes", "&No");
     EXPECT_TRUE(opened);
 }
 
@@ -82,11 +98,53 @@ TEST_F(Boxes, StayBelowTheMiddleOfTheirWindowWhenTheyGrow) {
     style.low = true;
     whenOpen([&](QDialog& box) {
         const int width = box.width();
-        box.findChild<QLabel*>("qt_msgbox_label")->setMinimumWidth(width + 100);
+        textOf(box)->setMinimumWidth(width + 100);
         ASSERT_TRUE(QTest::qWaitFor([&] { return box.width() > width; }));
         const QPoint middle = box.frameGeometry().center();
         EXPECT_NEAR(middle.x(), window.geometry().center().x(), 2);
         EXPECT_GT(middle.y(), window.geometry().center().y());
+    });
+    askQuestion(style, "Leave?", "&Yes", "&No");
+    EXPECT_TRUE(opened);
+}
+
+/// Counts what happens to a box while it is on show.
+class Watch : public QObject {
+  public:
+    explicit Watch(QEvent::Type type) : type_(type) { qApp->installEventFilter(this); }
+    int count = 0;
+    bool eventFilter(QObject* object, QEvent* event) override {
+        const auto* box = qobject_cast<QDialog*>(object);
+        count += box && box->isVisible() && event->type() == type_ ? 1 : 0;
+        return false;
+    }
+
+  private:
+    QEvent::Type type_;
+};
+
+TEST_F(Boxes, OpenWhereTheyStay) {
+    QWidget window;
+    window.setGeometry(0, 0, 700, 600);
+    window.show();
+    style.parent = &window;
+    style.low = true;
+    Watch moves(QEvent::Move);
+    whenOpen([&](QDialog& box) {
+        EXPECT_GT(box.frameGeometry().center().y(), window.geometry().center().y());
+        EXPECT_EQ(moves.count, 0);
+    });
+    askQuestion(style, "Leave?", "&Yes", "&No");
+    EXPECT_TRUE(opened);
+}
+
+TEST_F(Boxes, RestWhileTheyWaitForTheirAnswer) {
+    Watch layouts(QEvent::LayoutRequest);
+    whenOpen([&](QDialog&) {
+        QTest::qWait(50);
+        layouts.count = 0;
+        QTest::qWait(200);
+        EXPECT_EQ(layouts.count, 0);
     });
     askQuestion(style, "Leave?", "&Yes", "&No");
     EXPECT_TRUE(opened);
@@ -142,6 +200,16 @@ TEST_F(Boxes, SpeakThePromptAsTheFieldsName) {
     EXPECT_TRUE(opened);
 }
 
+TEST_F(Boxes, ShowTheFocusOfTheirField) {
+    whenOpen([](QDialog& box) {
+        QLineEdit& field = *box.findChild<QLineEdit*>();
+        const QColor accent = box.palette().color(QPalette::Highlight);
+        EXPECT_EQ(field.grab().toImage().pixelColor(field.width() / 2, 1), accent);
+    });
+    askText(style, "prompt", "Accept", "Cancel");
+    EXPECT_TRUE(opened);
+}
+
 TEST_F(Boxes, GrowWithTheFont) {
     QSize small;
     QSize large;
@@ -158,13 +226,13 @@ TEST_F(Boxes, GrowWithTheFont) {
 TEST_F(Boxes, ShowAllOfALongTextInALargeFont) {
     style.font.setPixelSize(44);
     whenOpen([](QDialog& box) {
-        const auto* text = box.findChild<QLabel*>("qt_msgbox_label");
+        const auto* text = textOf(box);
         ASSERT_TRUE(text);
         EXPECT_GE(text->height(), text->heightForWidth(text->width()));
         EXPECT_TRUE(box.rect().contains(text->geometry()));
     });
     const QString text = QString("word ").repeated(40);
-    showMessage(style, QMessageBox::Information, text, "Accept");
+    showMessage(style, BoxSign::Information, text, "Accept");
     EXPECT_TRUE(opened);
 }
 

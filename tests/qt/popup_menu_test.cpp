@@ -1,6 +1,7 @@
 // How a screen's menu pops up: where, and what its entries are.
 #include "qt/boxes/popup_menu.h"
 
+#include <QAccessible>
 #include <QActionGroup>
 #include <QApplication>
 #include <QMenu>
@@ -18,6 +19,7 @@ namespace {
 class PopUp : public ShellTest {
   protected:
     PopUp() {
+        style.font.setPixelSize(20);
         menu.caption = u"Menu";
         way.caption = u"Way";
         menu.children = {&way};
@@ -34,6 +36,7 @@ class PopUp : public ShellTest {
         });
     }
 
+    BoxStyle style;
     MenuItem menu;
     MenuItem way;
     bool opened = false;
@@ -56,14 +59,40 @@ TEST_F(PopUp, OpensBelowTheControlThatItIsAskedFor) {
     EXPECT_TRUE(window.isVisible());
 }
 
+TEST_F(PopUp, AnnouncesEntriesAsWhatTheyAre) {
+    MenuItem inner;
+    inner.caption = u"Selection";
+    inner.children = {&way};
+    MenuItem sounds;
+    sounds.caption = u"&Sounds";
+    sounds.shortcut = u"Ctrl+S";
+    sounds.checkable = sounds.checked = true;
+    MenuItem radio;
+    radio.caption = u"Tour";
+    radio.radio = true;
+    menu.children = {&way, &inner, &sounds, &radio};
+    whenOpen([](QMenu& popup) {
+        QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&popup);
+        EXPECT_EQ(spoken->child(0)->role(), QAccessible::MenuItem);
+        EXPECT_EQ(spoken->child(1)->role(), QAccessible::PopupMenu);
+        EXPECT_TRUE(spoken->child(1)->state().hasPopup);
+        EXPECT_EQ(spoken->child(2)->role(), QAccessible::CheckBox);
+        EXPECT_TRUE(spoken->child(2)->state().checked);
+        EXPECT_EQ(spoken->child(2)->text(QAccessible::Name), "Sounds");
+        EXPECT_EQ(spoken->child(2)->text(QAccessible::Accelerator), "Ctrl+S");
+        EXPECT_EQ(spoken->child(3)->role(), QAccessible::RadioButton);
+        EXPECT_FALSE(spoken->child(3)->state().checked);
+    });
+    choosePopUp(style, menu, {});
+    EXPECT_TRUE(opened);
+}
+
 TEST_F(PopUp, HoldsItsRadioEntriesTogether) {
     MenuItem other;
     other.caption = u"Other";
     way.radio = other.radio = true;
     other.checked = true;
     menu.children.push_back(&other);
-    BoxStyle style;
-    style.font.setPixelSize(20);
     whenOpen([](QMenu& popup) {
         const QList<QAction*> entries = popup.actions();
         ASSERT_TRUE(entries[0]->actionGroup());
