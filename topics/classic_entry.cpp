@@ -93,14 +93,10 @@ void frmWord1::txtTheme_LostFocus() {
         txtTheme.setText(placeholder());
 }
 
+// A held Return is one press: it must not run on through the topic.
 void frmWord1::field_KeyDown(KeyEvent& event) {
-    if (event.code == key::kEscape) {
-        event.handled = true;
-        program_.close(*this);
-    } else if (event.code == key::kReturn) {
-        // A held Return is one press: it must not run on through the topic.
+    if (event.code == key::kReturn)
         event.handled = event.autoRepeat;
-    }
 }
 
 void frmWord1::lblOk_Click() {

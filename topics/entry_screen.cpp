@@ -49,4 +49,11 @@ void EntryScreen::colour() {
     shpOk.backColor = settings_.glRed;
 }
 
+void EntryScreen::onKeyDown(KeyEvent& event) {
+    if (event.code != key::kEscape)
+        return;
+    event.handled = true;
+    program_.close(*this);
+}
+
 }  // namespace quillor

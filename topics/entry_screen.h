@@ -37,6 +37,8 @@ class EntryScreen : public Screen {
 
     /// Panel and button in the colours of the game.
     void colour();
+    /// Escape closes the screen, whatever has the focus.
+    void onKeyDown(KeyEvent& event) override;
     void onCloseRequest() override { program_.close(*this); }
 
     Program& program_;

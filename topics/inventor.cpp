@@ -1,9 +1,7 @@
-// From typed phrases to a topic file whose name every system takes.
+// From typed phrases to a topic file.
 #include "topics/inventor.h"
 
 #include <algorithm>
-#include <array>
-#include <stdexcept>
 
 #include "app/shared_operations.h"
 #include "core/files.h"
@@ -11,26 +9,13 @@
 #include "core/numbers.h"
 #include "core/text_rules.h"
 #include "core/topic_library.h"
+#include "topics/file_name.h"
 
 namespace quillor {
 
 namespace {
 
-constexpr TextView kForbidden = u"\\/:*?\"<>|";
-constexpr std::size_t kLongestFileName = 200;  // characters; systems take 255 of their own units
 constexpr int kCounted = 50;
-constexpr char16_t kFirstPrintable = 32;
-
-bool isReserved(TextView name) {
-    constexpr std::array<TextView, 4> kDevices{u"CON", u"PRN", u"AUX", u"NUL"};
-    const Text base = trimmed(upperCase(name.substr(0, name.find(u'.'))));
-    if (std::find(kDevices.begin(), kDevices.end(), base) != kDevices.end())
-        return true;
-    const TextView port = TextView(base).substr(0, 3);
-    constexpr TextView kPortDigits = u"0123456789¹²³";
-    return base.size() == 4 && (port == u"COM" || port == u"LPT") &&
-           kPortDigits.find(base.back()) != TextView::npos;
-}
 
 // A line break that was pasted would make two lines of one.
 Text oneLine(Text text) {
@@ -40,21 +25,17 @@ Text oneLine(Text text) {
     return text;
 }
 
+// As it is derived from a topic's name.
+Text fileNameFor(TextView topic) {
+    return besideDevices(withoutForbidden(upperCase(topic)));
+}
+
 Text twoDigits(int value) {
     const Text digits = inDigits(value);
     return digits.size() < 2 ? u"0" + digits : digits;
 }
 
 }  // namespace
-
-bool isPortableFileName(TextView name) {
-    if (name.empty() || name.size() > kLongestFileName || isReserved(name))
-        return false;
-    const bool legal = std::all_of(name.begin(), name.end(), [](char16_t character) {
-        return character >= kFirstPrintable && kForbidden.find(character) == TextView::npos;
-    });
-    return legal && name.back() != u'.' && name.back() != u' ';
-}
 
 frmInventor::frmInventor(Program& program)
     : Screen("frmInventor"), program_(program), settings_(program.settings) {
@@ -69,9 +50,10 @@ void frmInventor::connect() {
 }
 
 void frmInventor::connectFields() {
-    txtTheme.onChange = [this] { txtFile.setText(upperCase(txtTheme.text())); };
+    txtTheme.onChange = [this] { txtFile.setText(fileNameFor(txtTheme.text())); };
     txtTheme.onKeyPress = [this](char16_t character) { return txtTheme_KeyPress(character); };
     txtFile.onChange = [this] { txtFile_Change(); };
+    txtFile.onLostFocus = [this] { txtFile.setText(besideDevices(txtFile.text())); };
     txtWord.onKeyPress = [this](char16_t character) { return txtWord_KeyPress(character); };
     txtWord.onKeyDown = [this](KeyEvent& event) { txtWord_KeyDown(event); };
 }
@@ -167,11 +149,15 @@ char16_t frmInventor::txtTheme_KeyPress(char16_t character) {
     }
 }
 
+// The caret stays between the signs that it was between.
 void frmInventor::txtFile_Change() {
-    Text fileName = txtFile.text();
-    std::erase_if(fileName,
-                  [](char16_t character) { return kForbidden.find(character) != TextView::npos; });
-    txtFile.setText(fileName);
+    const Text legal = withoutForbidden(txtFile.text());
+    if (legal != txtFile.text()) {
+        const auto caret = static_cast<std::size_t>(txtFile.caret());
+        const Text before = withoutForbidden(txtFile.text().substr(0, caret));
+        txtFile.setText(legal);
+        txtFile.setCaret(static_cast<int>(before.size()));
+    }
     eRefreshButton();
 }
 
@@ -267,8 +253,7 @@ void frmInventor::lblSave_Click() {
 }
 
 void frmInventor::saveTopic() {
-    if (!isPortableFileName(txtFile.text()))
-        throw std::runtime_error("not a file name everywhere");
+    txtFile.setText(besideDevices(txtFile.text()));
     std::vector<Text> lines;
     lines.push_back(oneLine(upperCase(txtTheme.text())));
     if (!settings_.gbEnglish)

@@ -58,6 +58,7 @@ class frmInventor : public Screen {
     void lblOk_Click();
     void lblDel_Click();
     void lblSave_Click();
+    /// Throws std::runtime_error when the file cannot be written.
     void saveTopic();
     void lblHelp_Click();
     void lblBack_Click() { program_.close(*this); }
@@ -66,9 +67,5 @@ class frmInventor : public Screen {
     GameSettings& settings_;
     bool restarting_ = false;
 };
-
-/// Whether every system takes the name, with ".txt" behind it, as a file name:
-/// nothing reserved, no dot or blank at its end.
-bool isPortableFileName(TextView name);
 
 }  // namespace quillor

@@ -182,6 +182,15 @@ TEST_F(ClassicEntry, ClosesOnEscapeInEitherField) {
     EXPECT_EQ(settings().gsClassicTopic, u"");
 }
 
+TEST_F(ClassicEntry, ClosesOnEscapeOnItsButton) {
+    frmWord1& screen = entry();
+    player.type(u"frase");
+    desktop.deliver([&] { desktop.moveFocus(screen, &screen.lblOk(1)); });
+    player.press(key::kEscape);
+    EXPECT_FALSE(isOpen());
+    EXPECT_TRUE(game().games.empty());
+}
+
 TEST_F(ClassicEntry, ClosesWithItsWindowAsWithEscape) {
     entry();
     player.type(u"frase");

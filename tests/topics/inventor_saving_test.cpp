@@ -160,15 +160,47 @@ TEST_F(InventorSaving, FailsSilentlyWhereAFolderHasTheName) {
     EXPECT_EQ(screen().txtTheme.text(), u"Frutas");
 }
 
-TEST_F(InventorSaving, RefusesNamesThatNotEverySystemTakes) {
-    fill(u"Frutas", {u"pera"});
-    for (const TextView name : {u"CON", u"nul", u"com1", u"LPT9", u"COM²", u"a.", u"a ", u"a\tb"}) {
-        fileName(name);
+TEST_F(InventorSaving, TakesNamesThatEndInAStopOrABlank) {
+    for (const TextView name : {u"EE.UU.", u"Mi tema "}) {
+        fill(name, {u"pera"});
+        desktop.answerQuestion(kAskSpanish, false);
         player.click("lblSave(0)");
     }
-    EXPECT_TRUE(std::filesystem::is_empty(folder / "Temas"));
-    EXPECT_EQ(screen().lstTopics.items.size(), 1U);
+    EXPECT_TRUE(folder.has("Temas/EE.UU..txt"));
+    EXPECT_TRUE(folder.has("Temas/MI TEMA .txt"));
 }
+
+TEST_F(InventorSaving, NeverWritesUnderAReservedName) {
+    fill(u"Con", {u"pera"});
+    fileName(u"nul");
+    desktop.answerQuestion(kAskSpanish, false);
+    player.click("lblSave(0)");
+    EXPECT_TRUE(folder.has("Temas/nul_.txt"));
+    EXPECT_FALSE(folder.has("Temas/nul.txt"));
+}
+
+// One that fails each of the operations that saving is made of.
+class InventorSavingFault : public InventorSaving,
+                            public ::testing::WithParamInterface<FaultyDisk::Operation> {};
+
+TEST_P(InventorSavingFault, LosesNothingThatWasTyped) {
+    fill(u"Frutas", {u"pera", u"uva"});
+    player.type(u"half");
+    disk.breakDown(GetParam());
+    player.click("lblSave(0)");
+    EXPECT_EQ(screen().txtTheme.text(), u"Frutas");
+    EXPECT_EQ(screen().txtFile.text(), u"FRUTAS");
+    EXPECT_EQ(screen().txtWord.text(), u"half");
+    EXPECT_EQ(screen().lstTopics.items.size(), 2U);
+    EXPECT_TRUE(screen().lblSave(0).enabled);
+    EXPECT_TRUE(std::filesystem::is_empty(folder / "Temas"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Operations, InventorSavingFault,
+    ::testing::Values(FaultyDisk::Operation::Look, FaultyDisk::Operation::Create,
+                      FaultyDisk::Operation::Write, FaultyDisk::Operation::Flush,
+                      FaultyDisk::Operation::Close, FaultyDisk::Operation::Replace));
 
 TEST_F(InventorSaving, IsReadBackAsItWasAdded) {
     fill(u"Mi tema", {u"jazmín", u"pingüino", u"año 1"});

@@ -63,6 +63,33 @@ TEST_F(Inventor, TakesForbiddenCharactersOutOfAPastedFileName) {
     EXPECT_EQ(screen.txtFile.text(), u"abcdefghij");
 }
 
+TEST_F(Inventor, KeepsTheCaretOfAFileNameThatAForbiddenSignIsTypedInto) {
+    frmInventor& screen = inventor();
+    typeInto("txtFile", u"AVES");
+    player.clickInto("txtFile", 2);
+    player.type(u":");
+    EXPECT_EQ(screen.txtFile.caret(), 2);
+    player.type(u"X?Y");
+    EXPECT_EQ(screen.txtFile.text(), u"AVXYES");
+    EXPECT_EQ(screen.txtFile.caret(), 4);
+}
+
+TEST_F(Inventor, ShowsAReservedNameWithASignBehindIt) {
+    frmInventor& screen = inventor();
+    player.type(u"Con");
+    EXPECT_EQ(screen.txtFile.text(), u"CON_");
+    player.type(u"e");
+    EXPECT_EQ(screen.txtFile.text(), u"CONE");
+}
+
+TEST_F(Inventor, ShowsAReservedNameThatWasTypedOnceItsFieldIsLeft) {
+    frmInventor& screen = inventor();
+    typeInto("txtFile", u"aux.1");
+    EXPECT_EQ(screen.txtFile.text(), u"aux.1");
+    typeInto("txtWord", u"");
+    EXPECT_EQ(screen.txtFile.text(), u"aux_.1");
+}
+
 TEST_F(Inventor, NamesTheFileAnewWheneverTheTopicChanges) {
     frmInventor& screen = inventor();
     player.type(u"aves");

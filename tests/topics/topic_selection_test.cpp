@@ -131,6 +131,15 @@ TEST_F(Selection, ClosesOnEscapeAndChangesNothing) {
     EXPECT_TRUE(games.empty());
 }
 
+TEST_F(Selection, ClosesOnEscapeOnAnyOfItsButtons) {
+    for (const int way : {0, 1}) {
+        frmWord2& screen = selection();
+        desktop.deliver([&] { desktop.moveFocus(screen, &screen.lblChng(way)); });
+        player.press(key::kEscape);
+        EXPECT_FALSE(isOpen());
+    }
+}
+
 TEST_F(Selection, ClosesWithItsWindowAsWithEscape) {
     selection();
     player.closeWindow();
