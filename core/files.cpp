@@ -88,12 +88,12 @@ bool isFile(const Place& place) {
     }
 }
 
-std::string readFile(const Place& file, std::size_t most) {
+std::optional<std::string> readFile(const Place& file, std::size_t most) {
     const auto reader = file.disk().open(file);
     std::string bytes;
     while (readChunk(*reader, bytes)) {
         if (bytes.size() > most)
-            fail("too large: ", file);
+            return std::nullopt;
     }
     return bytes;
 }

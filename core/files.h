@@ -1,6 +1,7 @@
 // Whole files in and out of the program, and what their names and lines are as text.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,9 +16,9 @@ bool eFileExists(const Place& place);
 /// Whether it names a regular file; the same of errors.
 bool isFile(const Place& place);
 
-/// A file's bytes. Throws std::runtime_error when it is no readable file or has
-/// more than `most` bytes.
-std::string readFile(const Place& file, std::size_t most);
+/// A file's bytes; nothing when it has more than `most`. Throws
+/// std::runtime_error when it is no readable file.
+std::optional<std::string> readFile(const Place& file, std::size_t most);
 
 /// The start of a text file, however large it is: all bytes of its first `lines`
 /// lines and at least one more where there are more. Throws std::runtime_error

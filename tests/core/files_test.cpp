@@ -68,8 +68,8 @@ TEST(ReadingFiles, GivesTheBytes) {
 TEST(ReadingFiles, TakesAWholeFileOnlyUpToItsLimit) {
     TempFolder folder;
     folder.write("f", std::string(100'000, 'x'));
-    EXPECT_EQ(readFile(folder / "f", 100'000).size(), 100'000U);
-    EXPECT_THROW(readFile(folder / "f", 99'999), std::runtime_error);
+    EXPECT_EQ(readFile(folder / "f", 100'000)->size(), 100'000U);
+    EXPECT_FALSE(readFile(folder / "f", 99'999).has_value());
 }
 
 TEST(ReadingFiles, RefusesFoldersAndWhatIsNotThere) {

@@ -1,13 +1,18 @@
 // Pictures of any size and kind, and files that are none.
 #include "qt/paint/picture_loader.h"
 
+#include <QBuffer>
 #include <QImage>
-#include <algorithm>
+#include <QImageWriter>
+#include <chrono>
 #include <stdexcept>
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
+#include "qt/paint/jpeg_header.h"
 #include "qt/paint/paper.h"
+#include "tests/support/faulty_disk.h"
 #include "tests/support/temp_folder.h"
 
 namespace quillor {
@@ -20,45 +25,133 @@ QSize sizeOf(const ImageRef& image) {
     return static_cast<const DecodedImage&>(*image).image.size();
 }
 
-TEST(PictureLoader, DecodesAPictureWhateverItsNameSays) {
-    const TempFolder folder;
-    QImage picture(30, 20, QImage::Format_RGB32);
-    picture.fill(Qt::red);
-    picture.save(QString::fromStdString((folder / "Pic.jpg").string()), "PNG");
-    EXPECT_EQ(sizeOf(loadPictureFile(folder / "Pic.jpg")), QSize(30, 20));
+std::string encoded(const QImage& picture, const char* format, bool progressive = false) {
+    QBuffer buffer;
+    QImageWriter writer(&buffer, format);
+    writer.setProgressiveScanWrite(progressive);
+    writer.write(picture);
+    return buffer.data().toStdString();
 }
 
-TEST(PictureLoader, RefusesWhatIsNoPicture) {
-    const TempFolder folder;
-    folder.write("Pic.jpg", "\xFF\xD8\xFF garbage after a promising start");
-    EXPECT_THROW(loadPictureFile(folder / "Pic.jpg"), std::runtime_error);
+QImage filled(int width, int height, QImage::Format format = QImage::Format_RGB32) {
+    QImage picture(width, height, format);
+    picture.fill(Qt::red);
+    return picture;
+}
+
+// A small JPEG file whose header claims another size.
+std::string claiming(int width, int height, bool progressive) {
+    std::string bytes = encoded(filled(16, 16), "jpg", progressive);
+    const std::size_t frame = bytes.find(progressive ? "\xFF\xC2" : "\xFF\xC0");
+    int value = height;
+    for (const std::size_t field : {frame + 5, frame + 7}) {
+        bytes[field] = static_cast<char>(value / 256);
+        bytes[field + 1] = static_cast<char>(value % 256);
+        value = width;
+    }
+    return bytes;
+}
+
+// In kilobytes, at its highest so far.
+long memoryUsed() {
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss;
+}
+
+class PictureLoader : public ::testing::Test {
+  protected:
+    ImageRef load(std::string_view bytes) {
+        folder.write("Pic.jpg", bytes);
+        return loadPictureFile(folder / "Pic.jpg");
+    }
+    TempFolder folder;
+};
+
+TEST_F(PictureLoader, DecodesAPictureWhateverItsNameSays) {
+    for (const char* format : {"png", "jpg", "bmp"})
+        EXPECT_EQ(sizeOf(load(encoded(filled(30, 20), format))), QSize(30, 20)) << format;
+}
+
+TEST_F(PictureLoader, RefusesWhatIsNoPicture) {
+    EXPECT_THROW(load(""), std::runtime_error);
+    EXPECT_THROW(load("\xFF\xD8\xFF garbage after a promising start"), std::runtime_error);
     EXPECT_THROW(loadPictureFile(folder / "missing.jpg"), std::runtime_error);
     EXPECT_THROW(loadPictureFile(folder.path()), std::runtime_error);
 }
 
-TEST(PictureLoader, ScalesAVeryWidePictureDownWhileReading) {
-    const TempFolder folder;
-    QImage picture(20000, 500, QImage::Format_Grayscale8);
-    picture.fill(Qt::gray);
-    picture.save(QString::fromStdString((folder / "Pic.jpg").string()), "JPG");
-    const QSize size = sizeOf(loadPictureFile(folder / "Pic.jpg"));
+TEST_F(PictureLoader, RefusesAFileThatCannotBeReadToItsEnd) {
+    folder.write("Pic.jpg", encoded(filled(30, 20), "jpg"));
+    testing::FaultyDisk disk;
+    disk.breakDown(testing::FaultyDisk::Operation::Read, 2);
+    EXPECT_THROW(loadPictureFile({folder / "Pic.jpg", disk}), std::runtime_error);
+}
+
+TEST_F(PictureLoader, ScalesAVeryWidePictureDownWhileReading) {
+    const QSize size = sizeOf(load(encoded(filled(20000, 500, QImage::Format_Grayscale8), "jpg")));
     EXPECT_EQ(size.width(), kLongestPictureEdge);
     EXPECT_NEAR(size.height(), 102, 1);
 }
 
-TEST(PictureLoader, RefusesASizeThatWouldExhaustTheMemory) {
-    const TempFolder folder;
-    // A bitmap's header promising 60,000 by 60,000 pixels, and nothing behind it.
-    QImage picture(1, 1, QImage::Format_RGB32);
-    const QString name = QString::fromStdString((folder / "Pic.jpg").string());
-    picture.save(name, "BMP");
-    std::string bytes = folder.read("Pic.jpg");
+TEST_F(PictureLoader, TakesAJpegOfManyMegapixels) {
+    EXPECT_EQ(sizeOf(load(encoded(filled(8000, 6000), "jpg"))),
+              QSize(kLongestPictureEdge, kLongestPictureEdge * 3 / 4));
+}
+
+TEST_F(PictureLoader, HasNoUseForMoreThanAHundredMegapixels) {
+    const long before = memoryUsed();
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(load(claiming(20000, 20000, true)), nullptr);
+    EXPECT_EQ(load(claiming(10001, 10000, false)), nullptr);
+    EXPECT_LT(memoryUsed() - before, 50'000);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
+}
+
+TEST_F(PictureLoader, HasNoUseForAProgressivePictureThatIsKeptWholeWhileDecoded) {
+    EXPECT_EQ(load(claiming(9000, 9000, true)), nullptr);
+}
+
+TEST_F(PictureLoader, HasNoUseForWhatOnlyManyScansTellAndHoldsUpNobody) {
+    std::string bytes = claiming(4000, 4000, true);
+    const std::size_t scan = bytes.find("\xFF\xDA");
+    const std::string scans = bytes.substr(scan, bytes.size() - scan - 2);
+    for (int i = 0; i < 100; ++i)
+        bytes.insert(scan, scans);
+    EXPECT_EQ(load(bytes), nullptr);
+}
+
+TEST_F(PictureLoader, HasNoUseForAPictureThatTakesTooMuchMemoryInItsFormat) {
+    // A bitmap's header promising 9,000 by 9,000 pixels, and nothing behind it.
+    std::string bytes = encoded(filled(1, 1), "bmp");
     for (const std::size_t field : {18, 22}) {
-        bytes[field] = '\x60';
-        bytes[field + 1] = '\xEA';
+        bytes[field] = '\x28';
+        bytes[field + 1] = '\x23';
     }
-    folder.write("Pic.jpg", bytes);
-    EXPECT_THROW(loadPictureFile(folder / "Pic.jpg"), std::runtime_error);
+    EXPECT_EQ(load(bytes), nullptr);
+}
+
+TEST_F(PictureLoader, HasNoUseForAnEnormousFile) {
+    folder.write("Pic.jpg", encoded(filled(30, 20), "jpg"));
+    std::filesystem::resize_file(folder / "Pic.jpg", 65 << 20);
+    EXPECT_EQ(loadPictureFile(folder / "Pic.jpg"), nullptr);
+}
+
+TEST(JpegHeader, TellsWhatAProgressiveFileKeeps) {
+    const JpegScans found = jpegScans(claiming(1000, 1000, true));
+    EXPECT_GE(found.keptBytes, 3'000'000U);  // two colours of a quarter of the samples
+    EXPECT_LE(found.keptBytes, 6'000'000U);  // or of all
+    EXPECT_GT(found.scans, 2);
+}
+
+TEST(JpegHeader, TellsOfNothingKeptInOneScan) {
+    EXPECT_EQ(jpegScans(claiming(1000, 1000, false)).keptBytes, 0U);
+}
+
+TEST(JpegHeader, TakesAnyBytes) {
+    const std::string bytes = claiming(1000, 1000, true);
+    for (std::size_t size = 0; size <= bytes.size(); ++size)
+        EXPECT_LE(jpegScans(std::string_view(bytes).substr(0, size)).keptBytes, 6'000'000U);
+    EXPECT_EQ(jpegScans("no picture at all").keptBytes, 0U);
 }
 
 }  // namespace
