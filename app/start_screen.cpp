@@ -116,7 +116,7 @@ void frmStart::eTranslate() {
 
 void frmStart::checkFont() {
     mbFontMissing_ = !program_.desktop.fontPresent(texts::kDisplayFont);
-    if (mbFontMissing_ && eFileExists(program_.folder / kFontFile))
+    if (mbFontMissing_ && isFile(program_.folder / kFontFile))
         lblAction.caption = program_.lang(texts::kOpenFont);
 }
 
@@ -180,7 +180,7 @@ void frmStart::lblAction_Click() {
         return;
     }
     const auto fontFile = program_.folder / kFontFile;
-    if (eFileExists(fontFile))
+    if (isFile(fontFile))
         program_.desktop.open(fontFile);
     else
         program_.desktop.openAddress(kSearchEngine, texts::kDisplayFont);

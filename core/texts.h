@@ -293,12 +293,49 @@ inline constexpr TextPair kSpokenHelp{u"Información", u"Information"};
 
 // What is spoken while a game is played.
 inline constexpr TextPair kSpokenFound{u": sí. ", u": yes. "};
-inline constexpr TextPair kSpokenRepeated{u": ya usada. ", u": used before. "};
+inline constexpr TextPair kSpokenRepeated{u": ya se usó. ", u": used before. "};
 inline constexpr TextPair kSpokenMistake{u": no. ", u": no. "};
 inline constexpr TextPair kSpokenMistakes{u"Errores: ", u"Mistakes: "};
 inline constexpr TextPair kSpokenOfSix{u" de 6. ", u" of 6. "};
 inline constexpr TextPair kSpokenLetters{u"Letras: ", u"Letters: "};
 inline constexpr TextPair kSpokenAnswer{u"La respuesta: ", u"The answer: "};
+
+// On the terminal, in the system's language.
+inline constexpr TextPair kTerminalHelp{
+    u"\n"
+    u"El ahorcado con frases completas, en español y en inglés.\n"
+    u"\n"
+    u"Uso: quillor [opciones]\n"
+    u"\n"
+    u"  --folder CARPETA   guarda ajustes y temas en CARPETA\n"
+    u"  --tour CARPETA     juega solo una partida corta y deja imágenes de ella\n"
+    u"                     en CARPETA\n"
+    u"  --version          muestra la versión y termina\n"
+    u"  --help             muestra este texto y termina\n"
+    u"\n"
+    u"Sin --folder todo se guarda en la carpeta del programa o, si está protegida\n"
+    u"contra escritura, en la carpeta de datos del usuario. Con un archivo\n"
+    u"English.txt en ella, el juego está en inglés.\n",
+    u"\n"
+    u"Hangman on whole phrases, in Spanish and English.\n"
+    u"\n"
+    u"Usage: quillor [options]\n"
+    u"\n"
+    u"  --folder DIR   keep settings and topics in DIR\n"
+    u"  --tour DIR     play a short game by itself and write pictures of it to DIR\n"
+    u"  --version      print the version and exit\n"
+    u"  --help         print this text and exit\n"
+    u"\n"
+    u"Without --folder everything is kept in the folder of the program itself or,\n"
+    u"where that is write-protected, in the user's data folder. A file English.txt\n"
+    u"in it makes the interface English.\n"};
+inline constexpr TextPair kUnknownOption{u"opción desconocida: ", u"unknown option: "};
+inline constexpr TextPair kNeedsFolder{u"falta la carpeta de la opción: ",
+                                       u"a folder is missing for the option: "};
+inline constexpr TextPair kTryHelp{u" (prueba --help)", u" (try --help)"};
+inline constexpr TextPair kNoDisplay{
+    u"no se puede abrir ninguna pantalla (¿tiene valor DISPLAY o WAYLAND_DISPLAY?)",
+    u"no display can be opened (is DISPLAY or WAYLAND_DISPLAY set?)"};
 
 }  // namespace texts
 }  // namespace quillor

@@ -2,17 +2,11 @@
 #include "qt/command_line.h"
 
 #include "config/version.h"
+#include "qt/windows/qt_values.h"
 
 namespace quillor {
 
 namespace {
-
-CommandLine refused(const QString& reason) {
-    CommandLine result;
-    result.action = CommandLine::Action::Refuse;
-    result.error = reason + " (try --help)";
-    return result;
-}
 
 // The place where an option's value goes; null for one that is not known.
 QString* valueOf(const QString& option, CommandLine& line) {
@@ -23,8 +17,27 @@ QString* valueOf(const QString& option, CommandLine& line) {
 
 }  // namespace
 
-CommandLine parseCommandLine(const QStringList& arguments) {
+bool prefersEnglish(const QStringList& languages) {
+    for (const QString& language : languages) {
+        if (language.startsWith("es"))
+            return false;
+        if (language.startsWith("en"))
+            return true;
+    }
+    return true;
+}
+
+QString onTerminal(const TextPair& text, bool english) {
+    return toQt(english ? text.english : text.spanish);
+}
+
+CommandLine parseCommandLine(const QStringList& arguments, bool english) {
     CommandLine result;
+    const auto refused = [&](const TextPair& reason, const QString& word) {
+        result.action = CommandLine::Action::Refuse;
+        result.error = onTerminal(reason, english) + word + onTerminal(texts::kTryHelp, english);
+        return result;
+    };
     for (qsizetype i = 0; i < arguments.size(); ++i) {
         const QString& word = arguments[i];
         if (word == "--help" || word == "--version") {
@@ -36,11 +49,11 @@ CommandLine parseCommandLine(const QStringList& arguments) {
         const QString option = equals < 0 ? word : word.left(equals);
         QString* value = valueOf(option, result);
         if (!value)
-            return refused("unknown option '" + word + "'");
+            return refused(texts::kUnknownOption, word);
         const bool hasNext = i + 1 < arguments.size();
         *value = equals >= 0 ? word.mid(equals + 1) : hasNext ? arguments[++i] : QString();
         if (value->isEmpty())
-            return refused("option '" + option + "' needs a folder");
+            return refused(texts::kNeedsFolder, option);
     }
     return result;
 }
@@ -49,21 +62,8 @@ QString versionLine() {
     return QStringLiteral("Quillor " QUILLOR_VERSION);
 }
 
-QString helpText() {
-    return versionLine() + QStringLiteral(R"(
-Hangman on whole phrases, in Spanish and English.
-
-Usage: quillor [options]
-
-  --folder DIR   keep settings and topics in DIR
-  --tour DIR     play a short game by itself and write pictures of it to DIR
-  --version      print the version and exit
-  --help         print this text and exit
-
-Without --folder everything is kept in the folder of the program itself or,
-where that is write-protected, in the user's data folder. A file English.txt
-in it makes the interface English.
-)");
+QString helpText(bool english) {
+    return versionLine() + onTerminal(texts::kTerminalHelp, english);
 }
 
 }  // namespace quillor

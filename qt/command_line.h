@@ -1,10 +1,19 @@
-// What the program was started with.
+// What the program was started with, and what it says on the terminal.
 #pragma once
 
 #include <QString>
 #include <QStringList>
 
+#include "core/texts.h"
+
 namespace quillor {
+
+/// Whether the terminal is spoken to in English, by the languages that the user
+/// wants, best first, as "es-MX": in Spanish if that comes before English.
+bool prefersEnglish(const QStringList& languages);
+
+/// A text of the terminal.
+QString onTerminal(const TextPair& text, bool english);
 
 struct CommandLine {
     enum class Action { Play, Version, Help, Refuse };
@@ -14,11 +23,13 @@ struct CommandLine {
     QString error;   // one line, for Refuse
 };
 
-/// `arguments` is the command line without the program's name.
-CommandLine parseCommandLine(const QStringList& arguments);
+/// `arguments` is the command line without the program's name. Never fails: what
+/// is wrong with it is in the result.
+CommandLine parseCommandLine(const QStringList& arguments, bool english);
 
 /// "Quillor" and the version.
 QString versionLine();
-QString helpText();
+/// Several lines, each of at most 80 characters.
+QString helpText(bool english);
 
 }  // namespace quillor

@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QIcon>
+#include <QLocale>
 #include <QTemporaryDir>
 #include <cstdio>
 #include <cstdlib>
@@ -29,6 +30,15 @@ namespace {
 constexpr int kFailedTour = 1;
 constexpr int kBadUsage = 2;
 
+// Known before there is an application; the game itself goes by its marker file.
+bool systemIsEnglish() {
+    return prefersEnglish(QLocale::system().uiLanguages());
+}
+
+void say(const QString& text) {
+    std::printf("%s", text.toLocal8Bit().constData());
+}
+
 void complain(const QString& line) {
     std::fprintf(stderr, "quillor: %s\n", line.toLocal8Bit().constData());
 }
@@ -37,7 +47,7 @@ void complain(const QString& line) {
 void onlyFatal(QtMsgType type, const QMessageLogContext&, const QString&) {
     if (type != QtFatalMsg)
         return;
-    complain("no display can be opened (is DISPLAY or WAYLAND_DISPLAY set?)");
+    complain(onTerminal(texts::kNoDisplay, systemIsEnglish()));
     std::_Exit(kBadUsage);
 }
 
@@ -125,13 +135,14 @@ int play(const CommandLine& line, int argc, char** argv) {
 }
 
 int run(int argc, char** argv) {
-    const CommandLine line = parseCommandLine(platform::arguments(argc, argv));
+    const bool english = systemIsEnglish();
+    const CommandLine line = parseCommandLine(platform::arguments(argc, argv), english);
     switch (line.action) {
         case CommandLine::Action::Version:
-            std::printf("%s\n", qUtf8Printable(versionLine()));
+            say(versionLine() + "\n");
             return 0;
         case CommandLine::Action::Help:
-            std::printf("%s", qUtf8Printable(helpText()));
+            say(helpText(english));
             return 0;
         case CommandLine::Action::Refuse:
             complain(line.error);

@@ -56,14 +56,15 @@ install_packages() {
 tell_other_systems() {
     cat <<'END'
 This system has no apt, so nothing is installed for you. Quillor needs a C++20
-compiler, CMake 3.25, Ninja, Qt 6.4, SDL 2 and mpg123; its tests GoogleTest and
-Google Benchmark, and its window tests (Linux only) an X server in memory:
+compiler, CMake 3.25, Ninja, Qt 6.4, SDL 2, mpg123 and a rounded font; its tests
+GoogleTest and Google Benchmark, and its window tests (Linux only) an X server in memory:
   Fedora: sudo dnf install gcc-c++ cmake ninja-build qt6-qtbase-devel SDL2-devel mpg123-devel \
-            gtest-devel gmock-devel google-benchmark-devel xorg-x11-server-Xvfb openbox xdotool \
+            aajohan-comfortaa-fonts gtest-devel gmock-devel google-benchmark-devel xorg-x11-server-Xvfb openbox xdotool \
             ImageMagick weston dbus-daemon at-spi2-core python3-gobject python3-xlib
-  Arch:   sudo pacman -S --needed gcc cmake ninja qt6-base sdl2 mpg123 gtest benchmark \
+  Arch:   sudo pacman -S --needed gcc cmake ninja qt6-base sdl2 mpg123 ttf-nunito gtest benchmark \
             xorg-server-xvfb openbox xdotool imagemagick weston at-spi2-core python-gobject python-xlib
   macOS:  xcode-select --install; brew install cmake ninja qt sdl2 mpg123 googletest google-benchmark
+            brew install --cask font-quicksand
 END
 }
 

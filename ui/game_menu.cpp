@@ -133,7 +133,7 @@ void GameMenu::mAbout_Click() const {
 
 void GameMenu::mHelp_Click() const {
     const auto manual = program_.folder / "Quillor-Manual.txt";
-    if (eFileExists(manual))
+    if (isFile(manual))
         program_.desktop.open(manual);
     else
         program_.desktop.messageBox(MessageIcon::Information, program_.lang(texts::kHelpMissing));

@@ -1,12 +1,13 @@
 // Whether a folder can be written to is found out by writing.
 #include "qt/system/program_folder.h"
 
-#include <QTemporaryFile>
 #include <stdexcept>
 #include <system_error>
 
+#include "core/draft.h"
 #include "core/files.h"
-#include "qt/windows/qt_values.h"
+#include "core/guard.h"
+#include "qt/system/system_disk.h"
 
 namespace quillor {
 
@@ -14,16 +15,24 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr const char* kManual = "Quillor-Manual.txt";
+constexpr std::size_t kMostManualBytes = 1'000'000;
+
 // Permissions do not tell on every system and file system: trying does.
 bool canWriteTo(const fs::path& folder) {
-    QTemporaryFile probe(toQt(fromPath(folder / "quillor-XXXXXX")));
-    return probe.open();
+    return quietly("try the folder", [&] { const Draft probe({folder, platform::systemDisk()}); });
 }
 
-void bringManual(const fs::path& from, const fs::path& to) {
-    std::error_code ignored;
-    fs::copy_file(from / "Quillor-Manual.txt", to / "Quillor-Manual.txt",
-                  fs::copy_options::update_existing, ignored);
+// A newer program brings a newer manual.
+void bringManual(const fs::path& fromFolder, const fs::path& toFolder) {
+    quietly("bring the manual", [&] {
+        const Place from(fromFolder / kManual, platform::systemDisk());
+        const Place to(toFolder / kManual, platform::systemDisk());
+        if (isFile(to) && fs::last_write_time(to) >= fs::last_write_time(from))
+            return;
+        if (const auto bytes = readFile(from, kMostManualBytes))
+            writeFile(to, *bytes);
+    });
 }
 
 }  // namespace

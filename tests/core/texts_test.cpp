@@ -48,6 +48,15 @@ TEST(Language, ChoosesTheTextWhenItIsShown) {
               u"Up to the top! The phrase has been very long and was cut.");
 }
 
+// "Una letra ya usada", but "un número ya usado".
+TEST(Texts, SpeakOfAKeyThatMayBeALetterOrANumber) {
+    for (const TextPair& text :
+         {texts::kSpokenFound, texts::kSpokenRepeated, texts::kSpokenMistake}) {
+        EXPECT_EQ(text.spanish.find(u"ada"), TextView::npos) << toUtf8(text.spanish);
+        EXPECT_EQ(text.spanish.find(u"ado"), TextView::npos) << toUtf8(text.spanish);
+    }
+}
+
 TEST(Texts, TipsStandBetweenBlanks) {
     for (const TextPair& tip :
          {texts::kCloseTip,       texts::kModeTip,   texts::kScoreTip,        texts::kFinderTip,

@@ -188,7 +188,7 @@ TEST_F(ClassicEntry, ClosesOnEscapeOnItsButton) {
     desktop.deliver([&] { desktop.moveFocus(screen, &screen.lblOk(1)); });
     player.press(key::kEscape);
     EXPECT_FALSE(isOpen());
-    EXPECT_TRUE(game().games.empty());
+    EXPECT_TRUE(games.empty());
 }
 
 TEST_F(ClassicEntry, ClosesWithItsWindowAsWithEscape) {
