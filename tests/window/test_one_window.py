@@ -36,10 +36,12 @@ class OneWindow(Player):
 
     def test_stays_where_the_player_puts_it(self):
         windows = self.desktop.windows
-        self.tool("windowsize", "--sync", self.window, 900, 700)
-        self.tool("windowmove", "--sync", self.window, 111, 77)
-        place = until(lambda: windows.place(self.window), "the window's place")
-        self.assertEqual(place[2:], (900, 700))
+        first = windows.place(self.window)
+        self.tool("windowsize", self.window, 900, 700)
+        until(lambda: windows.place(self.window)[2:] == (900, 700), "another size")
+        self.tool("windowmove", self.window, 111, 77)
+        until(lambda: windows.place(self.window)[:2] != first[:2], "another place")
+        place = windows.place(self.window)
 
         def look():
             self.expect_same()
