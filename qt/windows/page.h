@@ -18,7 +18,7 @@ class PageWindow;
 
 class Page : public QWidget {
   public:
-    /// Is shown by `window`, which is asked for it.
+    /// Stands hidden in `window` until that turns to it.
     Page(Shell& shell, Screen& screen, PageWindow& window);
     ~Page() override;
 

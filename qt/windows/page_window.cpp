@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <algorithm>
+#include <utility>
 
 #include "qt/windows/accessibility.h"
 #include "qt/windows/qt_values.h"
@@ -38,10 +39,9 @@ QSizeF sizeOf(const Screen& screen) {
 PageWindow::PageWindow(PageWindow* owner) : QMainWindow(owner) {
     installAccessibility();
     setContextMenuPolicy(Qt::NoContextMenu);
-    auto* pages = new QWidget;
-    auto* places = new QGridLayout(pages);  // gives each visible page the whole room
-    places->setContentsMargins({});
-    setCentralWidget(pages);
+    setCentralWidget(new QWidget);
+    room_ = new QGridLayout(centralWidget());
+    room_->setContentsMargins({});
     if (!owner)
         return;
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
@@ -62,7 +62,7 @@ void PageWindow::turnTo(Page* page) {
     if (before)
         before->leave();
     if (page) {
-        static_cast<QGridLayout&>(*centralWidget()->layout()).addWidget(page, 0, 0);
+        room_->addWidget(page, 0, 0);
         page->show();
         page->raise();
         page->enter();
@@ -97,19 +97,18 @@ void PageWindow::open() {
 // In the middle of the display, or of the owner and in its scale.
 QRect PageWindow::firstPlace() const {
     const auto* owner = static_cast<const PageWindow*>(parentWidget());
-    const double scale = owner && owner->page() ? owner->page()->scale().pixels : firstScale();
+    const double scale = owner ? owner->page()->scale().pixels : firstScale();
     QRect place(QPoint(), (sheet(sizeOf(*page_->screen())) * scale).toSize());
     const QScreen* display = owner ? owner->screen() : QGuiApplication::primaryScreen();
-    if (owner)
-        place.moveCenter(owner->geometry().center());
-    else if (display)
-        place.moveCenter(display->availableGeometry().center());
+    if (!display)
+        return place;
+    const QRect space = display->availableGeometry();
+    place.moveCenter(owner ? owner->geometry().center() : space.center());
+    // The owner may be half off the display.
+    place.moveBottomRight(
+        {std::min(place.right(), space.right()), std::min(place.bottom(), space.bottom())});
+    place.moveTopLeft({std::max(place.left(), space.left()), std::max(place.top(), space.top())});
     return place;
-}
-
-void PageWindow::comeToFront() {
-    raise();
-    activateWindow();
 }
 
 // A key that finds no widget with the focus is the page's all the same.

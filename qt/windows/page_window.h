@@ -7,6 +7,8 @@
 
 #include "qt/windows/page.h"
 
+class QGridLayout;
+
 namespace quillor {
 
 class PageWindow : public QMainWindow {
@@ -20,7 +22,6 @@ class PageWindow : public QMainWindow {
     /// Puts a page, made for this window, on show, and its screen's title on the
     /// window, which appears with its first page. Null takes it off the display.
     void turnTo(Page* page);
-    void comeToFront();
 
     /// What fills the window, in twips, when a screen of that size is shown: a
     /// dialog fits its screen, pages of one window have one scale.
@@ -35,6 +36,7 @@ class PageWindow : public QMainWindow {
     void open();
     QRect firstPlace() const;
 
+    QGridLayout* room_;  // has one cell, which each visible page fills
     Page* page_ = nullptr;
     bool opened_ = false;
 };

@@ -171,6 +171,17 @@ TEST_F(Windows, StandOverTheWindowOfTheirScreen) {
     shell.event([&] { shell.close(above); });
 }
 
+TEST_F(Windows, OpenADialogWhereTheDisplayIs) {
+    PlainScreen above;
+    above.over = &screen;
+    PageWindow& below = open();
+    const QRect display = below.screen()->availableGeometry();
+    below.setGeometry({display.bottomRight() - QPoint(60, 50), below.size()});
+    PageWindow& window = open(above);
+    EXPECT_TRUE(display.contains(window.geometry()));
+    shell.event([&] { shell.close(above); });
+}
+
 TEST_F(Windows, ShowOneLargeScreenAfterTheOther) {
     PlainScreen next;
     next.title = u"Quillor | Next";
