@@ -14,7 +14,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::size_t kChunk = 64 * 1024;
+// Most files are small; a large one is read in larger and larger pieces.
+constexpr std::size_t kFirstChunk = 4 * 1024;
+constexpr std::size_t kLargestChunk = 256 * 1024;
 constexpr std::size_t kMostBytes = 16 * 1024 * 1024;
 
 [[noreturn]] void fail(const char* what, const fs::path& path) {
@@ -24,7 +26,7 @@ constexpr std::size_t kMostBytes = 16 * 1024 * 1024;
 // Appends the next bytes of the file; false at its end.
 bool readChunk(FileReader& file, std::string& bytes) {
     const std::size_t size = bytes.size();
-    bytes.resize(size + kChunk);
+    bytes.resize(size + std::clamp(size, kFirstChunk, kLargestChunk));
     bytes.resize(size + file.read(std::span(bytes).subspan(size)));
     return bytes.size() > size;
 }

@@ -64,7 +64,7 @@ void frmGame::eResetGame() {
     clock.stop();
     webSearch.offer(false);
     showIdlePage(true);
-    showRound();
+    showState();
     eChangeTitle();
 }
 
@@ -72,7 +72,7 @@ void frmGame::ePlayNewGame() {
     startRound(settings_, round);
     board.layOut(settings_, round);
     showIdlePage(false);
-    showRound();
+    showState();
     if (settings_.gbFirstLetter)
         takeHint();
     eSaveSettings(settings_, program_.folder);
@@ -158,7 +158,7 @@ void frmGame::endGame(Happened how) {
     const bool dead = how == Happened::Died;
     accent.ePutNewColor(dead ? settings_.glRed : settings_.glGreen);
     figure.tmrDead.enabled = dead;
-    showRound();
+    showState();
     clock.stop();
     webSearch.offer(true);
     score.showPoints();
@@ -175,6 +175,10 @@ void frmGame::showRound() {
     keyboard.show(settings_, round);
     strikes.show(round);
     figure.ePutItHangman(settings_.giStrikes);
+}
+
+void frmGame::showState() {
+    showRound();
     status.show();
     playButton.show();
     menu.show(topicDealt_);

@@ -91,7 +91,8 @@ class frmGame : public Screen {
     void passSecond();
     void show(Happened happened);
     void endGame(Happened how);
-    void showRound();
+    void showRound();  // what a guess changes
+    void showState();  // and what a game's beginning and end change
     void showIdlePage(bool idle);
 
     // game_commands.cpp: what else the menu and the keys do.

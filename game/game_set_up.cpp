@@ -24,7 +24,7 @@ void frmGame::onLoad() {
     alignPaper(imgBack(1), figure.frmeMan);
     alignPaper(imgBack(2), board.frmeMagic);
     showIdlePage(true);
-    showRound();
+    showState();
     score.showOnOpening();
     lblMode.caption =
         program_.lang(settings_.gbClassicMode ? texts::kClassicMode : texts::kArcadeMode);
