@@ -99,7 +99,7 @@ void frmMenu::choose(int option) {
             open(ScreenId::Inventor);
             break;
         default:
-            open(ScreenId::Options);
+            open(ScreenId::Settings);
             break;
     }
     program_.close(*this);

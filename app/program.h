@@ -14,7 +14,7 @@
 
 namespace quillor {
 
-enum class ScreenId { Start, Menu, Game, Options, Word1, Word2, Inventor };
+enum class ScreenId { Start, Menu, Game, Settings, Word1, Word2, Inventor };
 
 class Program {
   public:

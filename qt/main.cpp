@@ -21,7 +21,7 @@
 #include "qt/tour/tour_script.h"
 #include "qt/windows/qt_values.h"
 #include "topics/register_screens.h"
-#include "ui/options.h"
+#include "ui/settings_screen.h"
 
 namespace quillor {
 

@@ -26,7 +26,7 @@ class AppTest : public ::testing::Test, public OpenProgram {
   protected:
     AppTest() {
         for (const auto& [id, name] :
-             {std::pair{ScreenId::Game, "frmGame"}, std::pair{ScreenId::Options, "frmOptions"},
+             {std::pair{ScreenId::Game, "frmGame"}, std::pair{ScreenId::Settings, "frmOptions"},
               std::pair{ScreenId::Inventor, "frmInventor"}})
             program.addScreen(
                 id, [name = name](Program&) { return std::make_unique<OtherScreen>(name); });

@@ -56,7 +56,7 @@ class MenuOptions : public Menu, public ::testing::WithParamInterface<Option> {
         {"Arcade", 'A', "lblOption(4)", ScreenId::Game, "frmGame", false},
         {"Classic", 'C', "lblOption(5)", ScreenId::Game, "frmGame", true},
         {"Inventor", 'I', "lblOption(6)", ScreenId::Inventor, "frmInventor", false},
-        {"Settings", 'S', "lblOption(7)", ScreenId::Options, "frmOptions", false},
+        {"Settings", 'S', "lblOption(7)", ScreenId::Settings, "frmOptions", false},
     };
 };
 

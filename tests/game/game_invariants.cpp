@@ -59,7 +59,7 @@ void GameInvariants::require(bool holds, const char* what) {
 void GameInvariants::beforeEvent() {
     before_.state = program_.settings.giGameState;
     before_.gameOpen = program_.find(ScreenId::Game) != nullptr;
-    before_.optionsOpen = program_.find(ScreenId::Options) != nullptr;
+    before_.optionsOpen = program_.find(ScreenId::Settings) != nullptr;
     before_.lastPhrase = program_.settings.gsLastPhrase;
     before_.gamesPlayed = program_.settings.giGamesPlayed;
 }

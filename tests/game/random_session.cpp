@@ -12,7 +12,7 @@
 #include "tests/support/player.h"
 #include "tests/support/temp_folder.h"
 #include "topics/register_screens.h"
-#include "ui/options.h"
+#include "ui/settings_screen.h"
 
 namespace quillor::testing {
 

@@ -11,7 +11,7 @@
 #include "tests/support/open_program.h"
 #include "toolkit/caption.h"
 #include "topics/register_screens.h"
-#include "ui/options.h"
+#include "ui/settings_screen.h"
 
 namespace quillor::testing {
 namespace {
@@ -187,8 +187,8 @@ INSTANTIATE_TEST_SUITE_P(All, EveryScreen,
                                            Place{"MenuEnglish", ScreenId::Menu, true},
                                            Place{"GameSpanish", ScreenId::Game, false},
                                            Place{"GameEnglish", ScreenId::Game, true},
-                                           Place{"OptionsSpanish", ScreenId::Options, false},
-                                           Place{"OptionsEnglish", ScreenId::Options, true},
+                                           Place{"OptionsSpanish", ScreenId::Settings, false},
+                                           Place{"OptionsEnglish", ScreenId::Settings, true},
                                            Place{"Word1Spanish", ScreenId::Word1, false},
                                            Place{"Word1English", ScreenId::Word1, true},
                                            Place{"Word2Spanish", ScreenId::Word2, false},

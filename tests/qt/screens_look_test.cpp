@@ -65,7 +65,7 @@ TEST_F(ScreensLook, CutsNoCaption) {
     expectNothingCut(player.screen());
     desktop.advance(2000);
     expectNothingCut(player.screen());
-    for (const ScreenId id : {ScreenId::Options, ScreenId::Inventor})
+    for (const ScreenId id : {ScreenId::Settings, ScreenId::Inventor})
         expectNothingCut(run.show(id));
 }
 
@@ -77,7 +77,7 @@ TEST_F(ScreensLook, ShowsTheWholeOfEveryLetterOnTheBoard) {
 
 TEST_F(ScreensLook, KeepsItsColumns) {
     openArcade();
-    const auto& settingsScreen = dynamic_cast<frmOptions&>(run.show(ScreenId::Options));
+    const auto& settingsScreen = dynamic_cast<frmOptions&>(run.show(ScreenId::Settings));
     EXPECT_EQ(settingsScreen.shpBack.left, settingsScreen.shpCheck(1).left);
     EXPECT_EQ(settingsScreen.shpBack.right(), settingsScreen.shpCheck(1).right());
     const auto& topics = dynamic_cast<frmWord2&>(run.show(ScreenId::Word2));

@@ -15,7 +15,7 @@
 #include "tests/support/open_program.h"
 #include "topics/register_screens.h"
 #include "topics/topic_selection.h"
-#include "ui/options.h"
+#include "ui/settings_screen.h"
 
 namespace quillor::testing {
 

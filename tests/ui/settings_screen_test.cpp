@@ -6,7 +6,7 @@ namespace {
 
 class OptionsTest : public GameTest {
   protected:
-    frmOptions& options() { return run.as<frmOptions>(ScreenId::Options); }
+    frmOptions& options() { return run.as<frmOptions>(ScreenId::Settings); }
     void openOptions() {
         start();
         player.click("lblOption(3)");

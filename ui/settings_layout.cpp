@@ -1,7 +1,7 @@
 // Where everything on the settings screen stands, in twips.
 #include "toolkit/style.h"
 #include "toolkit/symbols.h"
-#include "ui/options.h"
+#include "ui/settings_screen.h"
 
 namespace quillor {
 

@@ -13,6 +13,7 @@ class frmOptions : public Screen {
     explicit frmOptions(Program& program);
 
     static constexpr int kLastOption = 4;  // option 0 is the heading of the designs
+    static constexpr int kFirstOption = 1;
     static constexpr int kLastDesign = kDesigns - 1;
     static constexpr int kLastTile = 6;
 
@@ -37,7 +38,7 @@ class frmOptions : public Screen {
     void onCloseRequest() override { program_.close(*this); }
 
   private:
-    void layOut();  // options_layout.cpp
+    void layOut();  // settings_layout.cpp
     void connect();
     void eTranslate();
     void eLoadColor();
@@ -47,8 +48,8 @@ class frmOptions : public Screen {
     void lblDs_Click(int design);
     void markDesign(int design);
     void paintTiles(int design);
-    void setTick(int option, bool on);
-    bool isTicked(int option) const;
+    bool& settingOf(int option);
+    void showTicks();
 
     Program& program_;
     GameSettings& settings_;

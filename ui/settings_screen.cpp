@@ -1,10 +1,11 @@
-// What is ticked goes through the record into the file; loading goes the other way.
-#include "ui/options.h"
+// A switch is turned in the record, shown, and saved at once.
+#include "ui/settings_screen.h"
 
 #include <memory>
 
 #include "core/settings_file.h"
 #include "core/text_rules.h"
+#include "toolkit/press_feedback.h"
 #include "toolkit/symbols.h"
 
 namespace quillor {
@@ -16,23 +17,20 @@ frmOptions::frmOptions(Program& program)
 }
 
 void frmOptions::connect() {
+    const GameSettings& colours = settings_;
     for (int i = 0; i <= kLastOption; ++i)
         for (Label* label : {&lblCheck(i), &lblOpts(i)}) {
             label->onClick = [this, i] { ePressCheck(i); };
-            if (i == 0)
-                continue;
-            label->onMouseDown = [this, i] { shpCheck(i).backColor = settings_.glGreen; };
-            label->onMouseUp = [this, i] { shpCheck(i).backColor = settings_.glTheme; };
+            if (i >= kFirstOption)
+                showPress(*label, shpCheck(i).backColor, colours.glGreen, colours.glTheme);
         }
     for (int i = 0; i <= kLastDesign; ++i) {
         lblDs(i).onClick = [this, i] { lblDs_Click(i); };
-        lblDs(i).onMouseDown = [this, i] { shpDs(i).backColor = settings_.glGreen; };
-        lblDs(i).onMouseUp = [this, i] { shpDs(i).backColor = settings_.glTheme; };
+        showPress(lblDs(i), shpDs(i).backColor, colours.glGreen, colours.glTheme);
     }
     for (Label& label : lblBack) {
         label.onClick = [this] { program_.close(*this); };
-        label.onMouseDown = [this] { shpBack.backColor = settings_.glGreen; };
-        label.onMouseUp = [this] { shpBack.backColor = settings_.glRed; };
+        showPress(label, shpBack.backColor, colours.glGreen, colours.glRed);
     }
 }
 
@@ -80,34 +78,39 @@ void frmOptions::eLoadColor() {
 void frmOptions::eLoadData() {
     loadForSettingsScreen(settings_, program_.folder);
     markDesign(settings_.giDesign);
-    setTick(1, settings_.gbUseWikipedia);
-    setTick(2, settings_.gbHardScore);
-    setTick(3, settings_.gbInfiniteScore);
-    setTick(4, settings_.gbAgainstClock);
+    showTicks();
 }
 
-void frmOptions::eSaveData() {
-    settings_.gbUseWikipedia = isTicked(1);
-    settings_.gbHardScore = isTicked(2);
-    settings_.gbInfiniteScore = isTicked(3);
-    settings_.gbAgainstClock = isTicked(4);
-    saveFromSettingsScreen(settings_, program_.folder);
+bool& frmOptions::settingOf(int option) {
+    switch (option) {
+        case 1:
+            return settings_.gbUseWikipedia;
+        case 2:
+            return settings_.gbHardScore;
+        case 3:
+            return settings_.gbInfiniteScore;
+        default:
+            return settings_.gbAgainstClock;
+    }
 }
 
-void frmOptions::setTick(int option, bool on) {
-    lblCheck(option).caption = on ? symbols::kTick : TextView();
-    lblCheck(option).checked = on;
-}
-
-bool frmOptions::isTicked(int option) const {
-    return lblCheck(option).caption == symbols::kTick;
+void frmOptions::showTicks() {
+    for (int i = kFirstOption; i <= kLastOption; ++i) {
+        lblCheck(i).checked = settingOf(i);
+        lblCheck(i).caption = settingOf(i) ? symbols::kTick : TextView();
+    }
 }
 
 void frmOptions::ePressCheck(int option) {
-    if (option <= 0)
+    if (option < kFirstOption)
         return;
-    setTick(option, !isTicked(option));
+    settingOf(option) = !settingOf(option);
+    showTicks();
     eSaveData();
+}
+
+void frmOptions::eSaveData() {
+    saveFromSettingsScreen(settings_, program_.folder);
 }
 
 // A design that the file should not hold marks no button.
@@ -159,7 +162,7 @@ void frmOptions::onKeyDown(KeyEvent& event) {
 }
 
 void addSettingsScreen(Program& program) {
-    program.addScreen(ScreenId::Options,
+    program.addScreen(ScreenId::Settings,
                       [](Program& owner) { return std::make_unique<frmOptions>(owner); });
 }
 
