@@ -112,6 +112,21 @@ Text trimmed(TextView text) {
     return Text(text.substr(first, text.find_last_not_of(u' ') - first + 1));
 }
 
+Text oneLine(TextView text) {
+    constexpr TextView kBreaks = u"\r\n\v\f\u0085\u2028\u2029";
+    const std::size_t first = text.find_first_not_of(kBreaks);
+    if (first == TextView::npos)
+        return {};
+    Text line;
+    for (std::size_t i = first; i <= text.find_last_not_of(kBreaks); ++i) {
+        const bool breaks = kBreaks.find(text[i]) != TextView::npos;
+        if (text[i] == u'\r' && text[i + 1] == u'\n')
+            ++i;  // both are one break
+        line += breaks ? u' ' : text[i];
+    }
+    return line;
+}
+
 Text replaceAll(TextView text, TextView what, TextView with) {
     Text result;
     std::size_t from = 0;

@@ -21,6 +21,9 @@ char16_t lowerCase(char16_t character);
 /// Without the blanks (U+0020 only) at both ends.
 Text trimmed(TextView text);
 
+/// In one line: a line break within the text becomes one blank, those at its ends go.
+Text oneLine(TextView text);
+
 /// The text with every occurrence of `what` replaced; `what` empty changes nothing.
 Text replaceAll(TextView text, TextView what, TextView with);
 

@@ -1,38 +1,39 @@
-// Fields and lists keep caret and selection within what they hold.
+// What a control's frames do to it, and what lists hold.
 #include "toolkit/controls.h"
 
-#include <algorithm>
 #include <stdexcept>
 
 namespace quillor {
 
-Text TextField::selectedText() const {
-    return text_.substr(static_cast<std::size_t>(caret_),
-                        static_cast<std::size_t>(selectionLength_));
+bool isSeen(const Control& control) {
+    for (const Control* each = &control; each; each = each->parent)
+        if (!each->visible)
+            return false;
+    return true;
 }
 
-void TextField::setText(Text text) {
-    if (maxLength > 0 && text.size() > static_cast<std::size_t>(maxLength))
-        text.resize(static_cast<std::size_t>(maxLength));
-    const bool changed = text != text_;
-    text_ = std::move(text);
-    select(caret_, 0);
-    if (changed && onChange)
-        onChange();
+bool isUsable(const Control& control) {
+    for (const Control* each = &control; each; each = each->parent)
+        if (!each->visible || !each->enabled)
+            return false;
+    return true;
 }
 
-void TextField::select(int start, int length) {
-    const int size = static_cast<int>(text_.size());
-    caret_ = std::clamp(start, 0, size);
-    selectionLength_ = std::clamp(length, 0, size - caret_);
+Area areaOnScreen(const Control& control) {
+    Area area{control.left, control.top, control.width, control.height};
+    for (const Frame* frame = control.parent; frame; frame = frame->parent) {
+        area.left += frame->left;
+        area.top += frame->top;
+    }
+    return area;
 }
 
-void TextField::userEdited(Text text, int selectionStart, int selectionLength) {
-    const bool changed = text != text_;
-    text_ = std::move(text);
-    select(selectionStart, selectionLength);
-    if (changed && onChange)
-        onChange();
+bool isButton(const Label& label) {
+    return label.role != LabelRole::Plain && label.role != LabelRole::Notification;
+}
+
+bool isPressable(const Label& label) {
+    return label.onClick && isUsable(label);
 }
 
 void ListBox::select(int index) {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/types.h"
+#include "toolkit/edit_history.h"
 #include "toolkit/keys.h"
 
 namespace quillor {
@@ -34,6 +35,18 @@ struct Font {
 
 enum class Align { Left, Center, Right };
 
+/// A rectangle, in twips.
+struct Area {
+    Twips left = 0;
+    Twips top = 0;
+    Twips width = 0;
+    Twips height = 0;
+
+    Twips right() const { return left + width; }
+    Twips bottom() const { return top + height; }
+    bool operator==(const Area&) const = default;
+};
+
 /// What every control has. Lengths are twips, relative to the parent.
 struct Control {
     std::string id;           // its name in the code, e.g. "lblKey(5)"; unique on its screen
@@ -56,6 +69,13 @@ struct Control {
     Twips right() const { return left + width; }
     Twips bottom() const { return top + height; }
 };
+
+/// Whether the control and all the frames that it stands on are visible.
+bool isSeen(const Control& control);
+/// Whether they are visible and enabled.
+bool isUsable(const Control& control);
+/// Where it stands on the screen.
+Area areaOnScreen(const Control& control);
 
 /// What a label is to someone who cannot see it.
 enum class LabelRole {
@@ -86,6 +106,11 @@ struct Label : Control {
     std::function<void()> onMouseUp;
     std::function<void()> onMouseMove;  // also when the mouse enters it
 };
+
+/// Whether it is a button of any kind, which may have the focus.
+bool isButton(const Label& label);
+/// Whether pressing it does something now.
+bool isPressable(const Label& label);
 
 enum class ShapeKind { RoundedRectangle, Oval };
 
@@ -158,22 +183,51 @@ struct TextField : Control {
     int selectionLength() const { return selectionLength_; }
     Text selectedText() const;
 
-    /// Sets the text, cut to maxLength; the caret is held within it and nothing
-    /// is selected. Raises onChange when the text differs.
+    /// Sets the text, in one line and cut to maxLength; the caret is held within it and
+    /// nothing is selected. Raises onChange when the text differs. Outside of what the
+    /// player does in this field it cannot be undone, nor can anything before it.
     void setText(Text text);
     void setCaret(int caret) { select(caret, 0); }
     /// Both are held within the text.
     void select(int start, int length);
     void selectAll() { select(0, static_cast<int>(text_.size())); }
 
-    /// What the player did in the field; for the shell. Raises onChange when
-    /// the text differs.
+    // What the player does in the field; each raises onChange when the text differs.
+
+    /// The text as the player has left it. What has been put into it is taken in one
+    /// line and cut so that the whole is no longer than maxLength.
     void userEdited(Text text, int selectionStart, int selectionLength);
+    /// Puts one character in place of the selection; nothing where there is no room.
+    void type(char16_t character);
+    /// Deletes the selection, or the character before the caret.
+    void eraseBack();
+    void undo();
+    void redo();
+
+    /// While it lives, whatever happens to the text is one step of the player's, to be
+    /// undone at once; within another one it is part of that.
+    class Step {
+      public:
+        explicit Step(TextField& field);
+        ~Step();
+        Step(const Step&) = delete;
+        Step& operator=(const Step&) = delete;
+
+      private:
+        TextField& field_;
+    };
 
   private:
+    EditState state() const { return {text_, caret_, selectionLength_}; }
+    void take(EditState state);
+    void goTo(EditState state);
+
     Text text_;
     int caret_ = 0;
     int selectionLength_ = 0;
+    EditHistory history_;
+    EditState before_;  // the innermost steps' common beginning
+    int steps_ = 0;     // how many live
 };
 
 /// A single-column list with at most one selected entry.

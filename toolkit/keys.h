@@ -6,10 +6,16 @@ namespace quillor {
 /// Letters are the codes of their capitals, 65..90; digits 48..57.
 namespace key {
 inline constexpr int kBackspace = 8;
+inline constexpr int kTab = 9;
 inline constexpr int kReturn = 13;  // main and keypad
 inline constexpr int kEscape = 27;
+inline constexpr int kSpace = 32;
+inline constexpr int kEnd = 35;
+inline constexpr int kHome = 36;
 inline constexpr int kLeft = 37;
+inline constexpr int kUp = 38;
 inline constexpr int kRight = 39;
+inline constexpr int kDown = 40;
 inline constexpr int kDelete = 46;
 inline constexpr int kContextMenu = 93;
 inline constexpr int kKeypad0 = 96;  // keypad digits are 96..105

@@ -125,8 +125,10 @@ void Screen::edit(TextField& field, Text text, int selectionStart, int selection
 }
 
 void Screen::fieldKeyDown(TextField& field, KeyEvent& event) {
-    if (enabled && field.onKeyDown)
-        quietly(field.id + "_KeyDown", [&] { field.onKeyDown(event); });
+    if (!enabled || !field.onKeyDown)
+        return;
+    const TextField::Step step(field);
+    quietly(field.id + "_KeyDown", [&] { field.onKeyDown(event); });
 }
 
 char16_t Screen::fieldKeyPress(TextField& field, char16_t character) {
@@ -134,6 +136,27 @@ char16_t Screen::fieldKeyPress(TextField& field, char16_t character) {
     if (enabled && field.onKeyPress)
         quietly(field.id + "_KeyPress", [&] { result = field.onKeyPress(character); });
     return result;
+}
+
+void Screen::type(TextField& field, char16_t character) {
+    if (!enabled)
+        return;
+    quietly(field.id + "_Change", [&] {
+        if (character == kCharBackspace)
+            field.eraseBack();
+        else if (character >= u' ')
+            field.type(character);
+    });
+}
+
+void Screen::undo(TextField& field) {
+    if (enabled)
+        quietly(field.id + "_Change", [&] { field.undo(); });
+}
+
+void Screen::redo(TextField& field) {
+    if (enabled)
+        quietly(field.id + "_Change", [&] { field.redo(); });
 }
 
 void Screen::focusChanged(TextField& field, bool gained) {

@@ -29,6 +29,14 @@ class Screen {
     const std::vector<ControlRef>& controls() const { return controls_; }
     const std::vector<Timer*>& timers() const { return timers_; }
 
+    /// A control as what it is; null when it is of another kind, or not of this screen.
+    template <typename T>
+    T* as(const Control* control) const {
+        const ControlRef* ref = control ? find(*control) : nullptr;
+        T* const* found = ref ? std::get_if<T*>(ref) : nullptr;
+        return found ? *found : nullptr;
+    }
+
     /// The control that has the focus when the screen opens, and that gets it
     /// back when the focused one is hidden; null: none.
     virtual Control* initialFocus() { return nullptr; }
@@ -63,6 +71,9 @@ class Screen {
     void fieldKeyDown(TextField& field, KeyEvent& event);
     /// The character to type in place of this one; 0: none.
     char16_t fieldKeyPress(TextField& field, char16_t character);
+    void type(TextField& field, char16_t character);  // a printable one, or Backspace
+    void undo(TextField& field);
+    void redo(TextField& field);
     void focusChanged(TextField& field, bool gained);
     void selectItem(ListBox& list, int index);  // -1: none
     void doubleClick(ListBox& list);

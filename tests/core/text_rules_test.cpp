@@ -75,6 +75,13 @@ TEST(Folding, LeavesOtherAccents) {
     EXPECT_EQ(eFoldAccents(u"äçõ"), u"ÄÇÕ");
 }
 
+TEST(OneLine, HasABlankForEachBreakWithinAndNoneAtItsEnds) {
+    EXPECT_EQ(oneLine(u"\r\na\nb\r\nc\r\rd\n"), u"a b c  d");
+    EXPECT_EQ(oneLine(u" a\u2028b "), u" a b ");
+    EXPECT_EQ(oneLine(u"\r\n\n"), u"");
+    EXPECT_EQ(oneLine(u""), u"");
+}
+
 TEST(Trimming, TakesOffBlanksAtBothEndsOnly) {
     EXPECT_EQ(trimmed(u"  two  words "), u"two  words");
     EXPECT_EQ(trimmed(u"   "), u"");

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QTest>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -10,60 +9,17 @@
 
 #include "qt/windows/page_window.h"
 #include "qt/windows/shell.h"
-#include "toolkit/screen.h"
-#include "toolkit/style.h"
+#include "tests/support/plain_screen.h"
 
 namespace quillor {
-
-class PlainScreen : public Screen {
-  public:
-    PlainScreen() : Screen("frmPlain") {
-        width = style::kScreenWidth;
-        height = style::kScreenHeight;
-    }
-    using Screen::add;
-
-    std::function<void(KeyEvent&)> keyDownHandler;
-    std::function<void(char16_t)> keyPressHandler;
-    std::function<void()> closeHandler;
-    std::function<void()> menuHandler;
-    Control* firstFocus = nullptr;
-
-    Control* initialFocus() override { return firstFocus; }
-    void takePaper(const ImageRef&) override {}
-
-  protected:
-    void onLoad() override {}
-    void onKeyDown(KeyEvent& event) override {
-        if (keyDownHandler)
-            keyDownHandler(event);
-    }
-    void onKeyPress(char16_t character) override {
-        if (keyPressHandler)
-            keyPressHandler(character);
-    }
-    void onContextMenu() override {
-        if (menuHandler)
-            menuHandler();
-    }
-    void onCloseRequest() override {
-        if (closeHandler)
-            closeHandler();
-    }
-};
 
 class ShellTest : public ::testing::Test {
   protected:
     Label& addButton(Label& label, const char* id, Twips left, Twips top) {
-        label.id = id;
-        label.role = LabelRole::Button;
-        screen.add(label).place(left, top, 900, 300);
-        return label;
+        return screen.addButton(label, id, left, top);
     }
     TextField& addField(TextField& field, const char* id, Twips left, Twips top) {
-        field.id = id;
-        screen.add(field).place(left, top, 1800, 300);
-        return field;
+        return screen.addField(field, id, left, top);
     }
 
     PageWindow& open() { return open(screen); }

@@ -29,13 +29,6 @@ MenuItem* findItem(MenuItem& menu, const std::string& id) {
     return nullptr;
 }
 
-bool onShow(const Control& control) {
-    for (const Control* c = &control; c; c = c->parent)
-        if (!c->visible || !c->enabled)
-            return false;
-    return true;
-}
-
 }  // namespace
 
 FakeDesktop::FakeDesktop() {
@@ -78,6 +71,7 @@ Text FakeDesktop::answer(const std::string& kind, TextView text) {
     boxes_.pop_front();
     EXPECT_EQ(box.kind, kind) << toUtf8(text);
     EXPECT_EQ(toUtf8(box.text), toUtf8(text));
+    keys.letGo();
     if (box.whileOpen) {
         ++boxesOpen_;
         box.whileOpen();
@@ -103,28 +97,25 @@ void FakeDesktop::aboutBox(TextView title, TextView text) {
 }
 
 void FakeDesktop::advance(int milliseconds) {
-    const std::int64_t until = time_.now() + milliseconds;
-    time_.look(openScreens_);
+    const std::int64_t until = now_ + milliseconds;
+    clock_.look(openScreens_, now_);
     while (!ended) {
-        const VirtualTime::Due due = time_.next(until);
-        if (!due.timer)
+        const std::optional<std::int64_t> due = clock_.nextDue();
+        now_ = std::max(now_, due ? std::min(*due, until) : until);
+        if (!due || *due > until)
             return;
-        if (!inTick_.insert(due.timer).second)
-            continue;
-        deliver([&] {
-            due.screen->tick(*due.timer);
-            inTick_.erase(due.timer);
-        });
+        clock_.tick(now_,
+                    [&](Screen& screen, Timer& timer) { deliver([&] { screen.tick(timer); }); });
     }
 }
 
 void FakeDesktop::setTimeOfDay(TimeOfDay time) {
     const std::int64_t wanted = ((time.hour * 60 + time.minute) * 60 + time.second) * 1000LL;
-    dayStart_ = ((wanted - time_.now()) % kDay + kDay) % kDay;
+    dayStart_ = ((wanted - now_) % kDay + kDay) % kDay;
 }
 
 TimeOfDay FakeDesktop::timeOfDay() {
-    const auto seconds = static_cast<int>((dayStart_ + time_.now()) % kDay / 1000);
+    const auto seconds = static_cast<int>((dayStart_ + now_) % kDay / 1000);
     return {seconds / 3600, seconds / 60 % 60, seconds % 60};
 }
 
@@ -142,32 +133,14 @@ void FakeDesktop::settle() {
         onIdle();
     const std::vector<Screen*> screens = openScreens_;
     for (Screen* screen : screens)
-        grantFocus(*screen);
-    time_.look(openScreens_);
+        if (const auto found = focus_.find(screen); found != focus_.end())
+            found->second.settle();
+    clock_.look(openScreens_, now_);
 }
 
 Control* FakeDesktop::focusOf(const Screen& screen) const {
     const auto found = focus_.find(&screen);
-    return found == focus_.end() ? nullptr : found->second;
-}
-
-void FakeDesktop::moveFocus(Screen& screen, Control* control) {
-    Control* before = std::exchange(focus_[&screen], control);
-    if (before == control)
-        return;
-    if (auto* field = controlAs<TextField>(screen, before))
-        screen.focusChanged(*field, false);
-    if (auto* field = controlAs<TextField>(screen, control))
-        screen.focusChanged(*field, true);
-}
-
-void FakeDesktop::grantFocus(Screen& screen) {
-    Control* wish = screen.takeFocusRequest();
-    if (wish && onShow(*wish))
-        moveFocus(screen, wish);
-    Control* focused = focusOf(screen);
-    if (!focused || !onShow(*focused))
-        moveFocus(screen, screen.initialFocus());
+    return found == focus_.end() ? nullptr : found->second.control();
 }
 
 ImageRef FakeDesktop::loadPicture(const Place& file) {
@@ -197,24 +170,27 @@ double FakeDesktop::random() {
 
 void FakeDesktop::seedRandom() {
     ++seedings;
-    random_.reseed(static_cast<std::uint64_t>(time_.now()));
+    random_.reseed(static_cast<std::uint64_t>(now_));
 }
 
 void FakeDesktop::show(Screen& screen) {
     shown.push_back(screen.name);
     std::erase(openScreens_, &screen);
     openScreens_.push_back(&screen);
+    focus_.try_emplace(&screen, screen);
 }
 
 void FakeDesktop::close(Screen& screen) {
     closed.push_back(screen.name);
     std::erase(openScreens_, &screen);
+    keys.forget(screen);
     focus_.erase(&screen);
 }
 
 void FakeDesktop::popUp(Screen& screen, MenuItem& menu, const Control* under) {
     popUps.push_back(menu.id);
     popUpUnder = under;
+    keys.letGo();
     if (menuChoice_.empty())
         return;
     const std::string wanted = std::exchange(menuChoice_, {});

@@ -5,13 +5,15 @@
 #include <array>
 #include <deque>
 #include <functional>
-#include <set>
+#include <map>
 #include <string>
 #include <vector>
 
 #include "core/random.h"
-#include "tests/support/virtual_time.h"
 #include "toolkit/desktop.h"
+#include "toolkit/focus.h"
+#include "toolkit/key_route.h"
+#include "toolkit/timer_clock.h"
 
 namespace quillor::testing {
 
@@ -20,15 +22,6 @@ struct FakeImage : Image {
     explicit FakeImage(std::filesystem::path path) : file(std::move(path)) {}
     std::filesystem::path file;
 };
-
-/// A screen's control as what it is; null when it is of another kind.
-template <typename T>
-T* controlAs(const Screen& screen, const Control* control) {
-    for (const ControlRef& ref : screen.controls())
-        if (auto* const* found = std::get_if<T*>(&ref); found && *found == control)
-            return *found;
-    return nullptr;
-}
 
 /// A box that no one scripted fails the test; so does, at the end, an answer
 /// that no box has asked for.
@@ -69,7 +62,10 @@ class FakeDesktop : public Desktop {
     Screen* front() const { return openScreens_.empty() ? nullptr : openScreens_.back(); }
     /// The control that has the focus in an open screen; null: none.
     Control* focusOf(const Screen& screen) const;
-    void moveFocus(Screen& screen, Control* control);
+    /// Of an open screen. Throws std::out_of_range for any other.
+    Focus& focus(const Screen& screen) { return focus_.at(&screen); }
+    void moveFocus(const Screen& screen, Control* control) { focus(screen).take(*control); }
+    KeyRoute keys;
 
     // What the machine is like.
     bool fontInstalled = true;
@@ -123,18 +119,17 @@ class FakeDesktop : public Desktop {
     };
     Text answer(const std::string& kind, TextView text);
     void settle();
-    void grantFocus(Screen& screen);
 
     std::deque<Box> boxes_;
     int boxesOpen_ = 0;
     std::string menuChoice_;
-    VirtualTime time_;
-    std::int64_t dayStart_ = 0;  // what the time of day was at the virtual time 0, in ms
+    TimerClock clock_;
+    std::int64_t now_ = 0;       // ms since the test began
+    std::int64_t dayStart_ = 0;  // what the time of day was at that moment, in ms
     Random random_{1};
     int depth_ = 0;  // events that run within one another
-    std::set<const Timer*> inTick_;
     std::vector<Screen*> openScreens_;
-    std::map<const Screen*, Control*> focus_;
+    std::map<const Screen*, Focus> focus_;
     std::array<std::byte, 7> sounds_;
 };
 

@@ -27,21 +27,32 @@ int codeOf(char16_t character) {
     return plain ? capital : 0;
 }
 
-// What typing a character, or a line of them, makes of a field.
-void insertInto(Screen& screen, TextField& field, TextView typed) {
-    Text text = field.text();
-    text.replace(static_cast<std::size_t>(field.caret()),
-                 static_cast<std::size_t>(field.selectionLength()), typed);
-    if (field.maxLength > 0 && text.size() > static_cast<std::size_t>(field.maxLength))
-        return;
-    screen.edit(field, std::move(text), field.caret() + static_cast<int>(typed.size()), 0);
+KeyPress typing(char16_t character) {
+    KeyPress press;
+    press.key.code = codeOf(character);
+    press.typed = Text(1, character);
+    press.sign = character;
+    press.id = character;
+    return press;
 }
 
-void eraseFrom(Screen& screen, TextField& field, int start, int length) {
+KeyPress pressing(int keyCode, Modifiers modifiers) {
+    KeyPress press;
+    press.key = {keyCode,       modifiers.shift,      modifiers.control,
+                 modifiers.alt, modifiers.autoRepeat, false};
+    press.id = keyCode;
+    if (modifiers.control || modifiers.alt)
+        return press;
+    if (keyCode == key::kReturn || keyCode == key::kBackspace)
+        press.typed = Text(1, static_cast<char16_t>(keyCode));
+    return press;
+}
+
+void eraseFrom(Screen& screen, TextField& field) {
     Text text = field.text();
-    if (start < 0 || start >= static_cast<int>(text.size()))
-        return;
-    text.erase(static_cast<std::size_t>(start), static_cast<std::size_t>(length));
+    const int start = field.caret();
+    text.erase(static_cast<std::size_t>(start),
+               static_cast<std::size_t>(std::max(field.selectionLength(), 1)));
     screen.edit(field, std::move(text), start, 0);
 }
 
@@ -51,13 +62,6 @@ Screen& Player::screen() const {
     if (!desktop_.front())
         throw std::logic_error("no screen is open");
     return *desktop_.front();
-}
-
-bool Player::sees(const Control& control) {
-    for (const Control* c = &control; c; c = c->parent)
-        if (!c->visible)
-            return false;
-    return true;
 }
 
 Control& Player::control(const std::string& id) const {
@@ -72,21 +76,16 @@ T& Player::usable(const std::string& id, const char* action) const {
     Control& found = control(id);
     EXPECT_FALSE(desktop_.boxOpen()) << "a box stands over " << id << " at " << action;
     EXPECT_TRUE(screen().enabled) << screen().name << " takes no " << action;
-    EXPECT_TRUE(sees(found)) << id << " is hidden from " << action;
+    EXPECT_TRUE(isSeen(found)) << id << " is hidden from " << action;
     EXPECT_TRUE(takesInput(found)) << id << " is not enabled for " << action;
     if constexpr (std::is_same_v<T, Control>)
         return found;
     else {
-        T* result = controlAs<T>(screen(), &found);
+        T* result = screen().as<T>(&found);
         if (!result)
             throw std::logic_error(id + " is of another kind, no " + action);
         return *result;
     }
-}
-
-template <typename T>
-T* Player::focused() const {
-    return controlAs<T>(screen(), desktop_.focusOf(screen()));
 }
 
 void Player::click(const std::string& id) {
@@ -127,14 +126,14 @@ void Player::clickInto(const std::string& fieldId, int caret) {
 void Player::selectText(const std::string& fieldId, int start, int length) {
     TextField& field = usable<TextField>(fieldId, "click");
     Screen& where = screen();
-    desktop_.deliver([&] { desktop_.moveFocus(where, &field); });
+    desktop_.deliver([&] { desktop_.focus(where).take(field); });
     desktop_.deliver([&] { where.edit(field, field.text(), start, length); });
 }
 
 void Player::selectItem(const std::string& listId, int index) {
     ListBox& list = usable<ListBox>(listId, "select");
     Screen& where = screen();
-    desktop_.deliver([&] { desktop_.moveFocus(where, &list); });
+    desktop_.deliver([&] { desktop_.focus(where).take(list); });
     desktop_.deliver([&] { where.selectItem(list, index); });
 }
 
@@ -146,80 +145,94 @@ void Player::doubleClickItem(const std::string& listId, int index) {
 
 void Player::type(TextView text) {
     for (const char16_t character : text)
-        key(codeOf(character), {}, character);
+        sendHeld(typing(character), 0, {});
 }
 
 void Player::press(int keyCode, Modifiers modifiers) {
-    const bool plain = !modifiers.control && !modifiers.alt;
-    if (plain && keyCode == key::kReturn)
-        key(keyCode, modifiers, kCharReturn);
-    else if (plain && keyCode == key::kBackspace)
-        key(keyCode, modifiers, kCharBackspace);
+    if (modifiers.autoRepeat)
+        send(pressing(keyCode, modifiers));
     else
-        key(keyCode, modifiers, 0);
+        sendHeld(pressing(keyCode, modifiers), 0, {});
 }
 
-void Player::key(int code, Modifiers modifiers, char16_t typed) {
-    EXPECT_FALSE(desktop_.boxOpen()) << "a box stands over the screen at key " << code;
+void Player::hold(char16_t character, int repeats, const std::function<void()>& meanwhile) {
+    sendHeld(typing(character), repeats, meanwhile);
+}
+
+void Player::holdKey(int keyCode, int repeats, const std::function<void()>& meanwhile) {
+    sendHeld(pressing(keyCode, {}), repeats, meanwhile);
+}
+
+void Player::pressAccessKey(char16_t sign) {
+    KeyPress press = typing(sign);
+    press.typed.clear();
+    press.key.alt = true;
+    sendHeld(press, 0, {});
+}
+
+void Player::compose(TextView text) {
     Screen& where = screen();
-    KeyEvent event{code,          modifiers.shift,      modifiers.control,
-                   modifiers.alt, modifiers.autoRepeat, false};
+    desktop_.deliver([&] { desktop_.keys.commit(where, desktop_.focus(where), text); });
+}
+
+void Player::sendHeld(KeyPress press, int repeats, const std::function<void()>& meanwhile) {
+    send(press);
+    if (meanwhile)
+        meanwhile();
+    press.key.autoRepeat = true;
+    for (int i = 0; i < repeats; ++i)
+        send(press);
+    desktop_.deliver([&] { desktop_.keys.release(press.id); });
+}
+
+void Player::send(const KeyPress& press) {
+    EXPECT_FALSE(desktop_.boxOpen()) << "a box stands over the screen at key " << press.key.code;
+    Screen& where = screen();
     desktop_.deliver([&] {
-        where.keyDown(event);
-        if (event.handled || desktop_.front() != &where)
-            return;
-        if (auto* field = focused<TextField>())
-            where.fieldKeyDown(*field, event);
-        else if (auto* list = focused<ListBox>())
-            where.listKeyDown(*list, event);
+        const KeyRoute::Rest rest = desktop_.keys.press(where, desktop_.focus(where), press);
+        if (rest == KeyRoute::Rest::Field)
+            editKey(*where.as<TextField>(desktop_.focusOf(where)), press.key);
+        else if (rest == KeyRoute::Rest::List)
+            moveKey(*where.as<ListBox>(desktop_.focusOf(where)), press.key);
     });
-    if (event.handled || desktop_.front() != &where)
-        return;
-    if (typed == kCharReturn && modifiers.autoRepeat && focused<Label>())
-        return;  // a button held down is pressed once
-    if (typed)
-        desktop_.deliver([&] { character(typed); });
-    else if (auto* field = focused<TextField>())
-        desktop_.deliver([&] { editKey(*field, code); });
 }
 
-// As a window does: a focused field takes characters, a focused button takes
-// the blank and Return, and the screen the rest.
-void Player::character(char16_t typed) {
-    Screen& where = screen();
-    auto* button = focused<Label>();
-    if (auto* field = focused<TextField>())
-        typeInto(*field, typed);
-    else if (button && (typed == u' ' || typed == kCharReturn))
-        where.click(*button);
-    else
-        where.keyPress(typed);
-}
-
-void Player::typeInto(TextField& field, char16_t typed) {
-    Screen& where = screen();
-    const char16_t passed = where.fieldKeyPress(field, typed);
-    if (desktop_.front() != &where)
-        return;
-    if (passed == kCharBackspace)
-        editKey(field, key::kBackspace);
-    else if (passed >= u' ')
-        insertInto(where, field, TextView(&passed, 1));
-}
-
-void Player::editKey(TextField& field, int code) {
+// What a native field does with a key that is left to it, as far as a test needs it.
+void Player::editKey(TextField& field, const KeyEvent& event) {
     Screen& where = screen();
     const int caret = field.caret();
     const int selected = field.selectionLength();
-    switch (code) {
-        case key::kBackspace:
-            return eraseFrom(where, field, selected ? caret : caret - 1, std::max(selected, 1));
+    switch (event.code) {
         case key::kDelete:
-            return eraseFrom(where, field, caret, std::max(selected, 1));
+            return eraseFrom(where, field);
         case key::kLeft:
             return where.edit(field, field.text(), selected ? caret : caret - 1, 0);
         case key::kRight:
             return where.edit(field, field.text(), caret + std::max(selected, 1), 0);
+        case key::kHome:
+            return where.edit(field, field.text(), 0, 0);
+        case key::kEnd:
+            return where.edit(field, field.text(), static_cast<int>(field.text().size()), 0);
+        default:
+            return;
+    }
+}
+
+// The same for a list.
+void Player::moveKey(ListBox& list, const KeyEvent& event) {
+    const int last = static_cast<int>(list.items.size()) - 1;
+    const int at = list.listIndex();
+    if (last < 0)
+        return;
+    switch (event.code) {
+        case key::kDown:
+            return screen().selectItem(list, std::min(at + 1, last));
+        case key::kUp:
+            return screen().selectItem(list, at < 0 ? last : std::max(at - 1, 0));
+        case key::kHome:
+            return screen().selectItem(list, 0);
+        case key::kEnd:
+            return screen().selectItem(list, last);
         default:
             return;
     }

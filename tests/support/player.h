@@ -2,6 +2,7 @@
 // could, and fails the test where a person could not.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "tests/support/fake_desktop.h"
@@ -39,25 +40,31 @@ class Player {
 
     /// Types text key by key, into the field that has the focus if one has.
     void type(TextView text);
-    /// Presses a key that types no text, or one with Control.
+    /// Presses a key that types no text, or one with Control, and lets it go.
     void press(int keyCode, Modifiers modifiers = {});
+    /// Holds a key that types a character, or one that types none: it repeats so many
+    /// times, and `meanwhile` runs before it does.
+    void hold(char16_t character, int repeats, const std::function<void()>& meanwhile = {});
+    void holdKey(int keyCode, int repeats, const std::function<void()>& meanwhile = {});
+    /// Presses Alt and the key of an access key.
+    void pressAccessKey(char16_t sign);
+    /// An input method hands over a whole text.
+    void compose(TextView text);
     /// Opens the screen's menu by its key and chooses an entry by its id.
     void chooseMenu(const std::string& itemId);
     void closeWindow();
 
-    /// Whether a person sees the control: it and all its frames are visible.
-    static bool sees(const Control& control);
+    /// Whether a person sees the control.
+    static bool sees(const Control& control) { return isSeen(control); }
 
   private:
     Control& control(const std::string& id) const;
     template <typename T>
     T& usable(const std::string& id, const char* action) const;
-    template <typename T>
-    T* focused() const;
-    void key(int code, Modifiers modifiers, char16_t typed);
-    void character(char16_t typed);
-    void typeInto(TextField& field, char16_t typed);
-    void editKey(TextField& field, int code);
+    void send(const KeyPress& press);
+    void sendHeld(KeyPress press, int repeats, const std::function<void()>& meanwhile);
+    void editKey(TextField& field, const KeyEvent& event);
+    void moveKey(ListBox& list, const KeyEvent& event);
 
     FakeDesktop& desktop_;
 };

@@ -1,4 +1,4 @@
-// Fields and lists: what they hold, and when they tell of a change.
+// What frames do to a control; what lists hold, and when they tell of a change.
 #include "toolkit/controls.h"
 
 #include <stdexcept>
@@ -10,60 +10,31 @@
 namespace quillor {
 namespace {
 
-TEST(TextField, CutsSetTextToItsLength) {
-    TextField field;
-    field.maxLength = 3;
-    field.setText(u"abcdef");
-    EXPECT_EQ(field.text(), u"abc");
+TEST(Control, IsSeenAndUsedOnlyWithAllItsFrames) {
+    Frame outer;
+    Frame inner;
+    Label label;
+    inner.parent = &outer;
+    label.parent = &inner;
+    EXPECT_TRUE(isSeen(label) && isUsable(label));
+    outer.enabled = false;
+    EXPECT_TRUE(isSeen(label));
+    EXPECT_FALSE(isUsable(label));
+    outer.enabled = true;
+    inner.visible = false;
+    EXPECT_FALSE(isSeen(label) || isUsable(label));
 }
 
-TEST(TextField, HasNoLimitByItself) {
-    TextField field;
-    field.setText(Text(5000, u'x'));
-    EXPECT_EQ(field.text().size(), 5000U);
-}
-
-TEST(TextField, TellsOfAChangeOnlyWhenTheTextDiffers) {
-    TextField field;
-    int changes = 0;
-    field.onChange = [&] { ++changes; };
-    field.setText(u"a");
-    field.setText(u"a");
-    field.userEdited(u"a", 1, 0);
-    EXPECT_EQ(changes, 1);
-    field.userEdited(u"ab", 2, 0);
-    EXPECT_EQ(changes, 2);
-}
-
-TEST(TextField, HoldsTheCaretWithinTheText) {
-    TextField field;
-    field.setText(u"abc");
-    field.setCaret(99);
-    EXPECT_EQ(field.caret(), 3);
-    field.setCaret(-1);
-    EXPECT_EQ(field.caret(), 0);
-    field.setCaret(3);
-    field.setText(u"a");
-    EXPECT_EQ(field.caret(), 1);
-}
-
-TEST(TextField, HoldsTheSelectionWithinTheText) {
-    TextField field;
-    field.setText(u"abcd");
-    field.select(2, 99);
-    EXPECT_EQ(field.selectedText(), u"cd");
-    field.select(1, -5);
-    EXPECT_EQ(field.selectedText(), u"");
-    field.selectAll();
-    EXPECT_EQ(field.selectedText(), u"abcd");
-}
-
-TEST(TextField, SelectsNothingOnceItsTextIsSet) {
-    TextField field;
-    field.setText(u"abcd");
-    field.selectAll();
-    field.setText(u"wxyz");
-    EXPECT_EQ(field.selectionLength(), 0);
+TEST(Control, StandsOnTheScreenWhereItsFramesPutIt) {
+    Frame outer;
+    Frame inner;
+    Label label;
+    outer.place(100, 10, 900, 900);
+    inner.place(20, 30, 600, 600);
+    label.place(3, 4, 50, 60);
+    inner.parent = &outer;
+    label.parent = &inner;
+    EXPECT_EQ(areaOnScreen(label), (Area{123, 44, 50, 60}));
 }
 
 class FilledList : public ::testing::Test {

@@ -122,10 +122,10 @@ TEST_F(ClassicAcceptance, LeavesTheWayAndTheTourAlone) {
 }
 
 TEST_F(ClassicAcceptance, SaysThatATooLongPhraseIsCut) {
-    paste(u"aaaaaaaaaa bbbbbbbbbb cccccccccc dddd");
+    paste(u"aaaaaaaa bbbbbbbb cccccccc dddddddd");
     desktop.expectMessage(u"¡Hasta al tope! La frase ha sido muy larga y fue recortada.");
     player.click("lblOk(0)");
-    EXPECT_EQ(games[0].phrase, u"AAAAAAAAAA BBBBBBBBBB CCCCCCCCCC DDDD");
+    EXPECT_EQ(games[0].phrase, u"AAAAAAAA BBBBBBBB CCCCCCCC DDDDDDDD");
 }
 
 }  // namespace

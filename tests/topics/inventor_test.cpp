@@ -213,7 +213,7 @@ TEST_F(Inventor, GoesBackToTheMenuWithItsPaper) {
     player.click("lblBack");
     EXPECT_EQ(program.find(ScreenId::Inventor), nullptr);
     EXPECT_EQ(player.screen().name, "frmMenu");
-    EXPECT_EQ(controlAs<Picture>(player.screen(), &controlOf(player.screen().controls()[0]))->image,
+    EXPECT_EQ(player.screen().as<Picture>(&controlOf(player.screen().controls()[0]))->image,
               paper);
 }
 

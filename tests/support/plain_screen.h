@@ -1,0 +1,60 @@
+// A screen whose every part a test sets itself.
+#pragma once
+
+#include <functional>
+
+#include "toolkit/screen.h"
+#include "toolkit/style.h"
+
+namespace quillor {
+
+class PlainScreen : public Screen {
+  public:
+    PlainScreen() : Screen("frmPlain") {
+        width = style::kScreenWidth;
+        height = style::kScreenHeight;
+    }
+    using Screen::add;
+
+    Label& addButton(Label& label, const char* id, Twips left, Twips top) {
+        label.id = id;
+        label.role = LabelRole::Button;
+        add(label).place(left, top, 900, 300);
+        return label;
+    }
+    TextField& addField(TextField& field, const char* id, Twips left, Twips top) {
+        field.id = id;
+        add(field).place(left, top, 1800, 300);
+        return field;
+    }
+
+    std::function<void(KeyEvent&)> keyDownHandler;
+    std::function<void(char16_t)> keyPressHandler;
+    std::function<void()> closeHandler;
+    std::function<void()> menuHandler;
+    Control* firstFocus = nullptr;
+
+    Control* initialFocus() override { return firstFocus; }
+    void takePaper(const ImageRef&) override {}
+
+  protected:
+    void onLoad() override {}
+    void onKeyDown(KeyEvent& event) override {
+        if (keyDownHandler)
+            keyDownHandler(event);
+    }
+    void onKeyPress(char16_t character) override {
+        if (keyPressHandler)
+            keyPressHandler(character);
+    }
+    void onContextMenu() override {
+        if (menuHandler)
+            menuHandler();
+    }
+    void onCloseRequest() override {
+        if (closeHandler)
+            closeHandler();
+    }
+};
+
+}  // namespace quillor

@@ -1,0 +1,121 @@
+// Where the focus of a screen is, and where it goes.
+#include "toolkit/focus.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/plain_screen.h"
+#include "toolkit/reading_order.h"
+
+namespace quillor {
+namespace {
+
+class ScreenFocus : public ::testing::Test {
+  protected:
+    ScreenFocus() {
+        for (Label* each : {&left, &right, &below})
+            each->onClick = [] {};
+        screen.addButton(below, "below", 0, 900);
+        screen.addButton(right, "right", 1500, 60);
+        screen.addButton(left, "left", 0, 90);
+    }
+    std::string focused() const { return focus.control() ? focus.control()->id : ""; }
+    std::string order() const {
+        std::string ids;
+        for (const Control* control : readingOrder(screen))
+            ids += control->id + " ";
+        return ids;
+    }
+
+    PlainScreen screen;
+    Label left, right, below;
+    Focus focus{screen};
+};
+
+TEST_F(ScreenFocus, GoesThroughTheScreenInReadingOrderAndRound) {
+    EXPECT_EQ(order(), "left right below ");
+    std::string seen;
+    for (int i = 0; i < 4; ++i) {
+        focus.next();
+        seen += focused() + " ";
+    }
+    EXPECT_EQ(seen, "left right below left ");
+    focus.previous();
+    EXPECT_EQ(focused(), "below");
+}
+
+TEST_F(ScreenFocus, StopsOnlyAtWhatCanBeUsed) {
+    Frame frame;
+    TextField field;
+    Label text;
+    screen.add(frame).place(0, 1500, 3000, 900);
+    screen.addField(field, "txt", 0, 0).parent = &frame;
+    screen.addButton(text, "text", 0, 2700).role = LabelRole::Plain;
+    text.onClick = [] {};
+    left.enabled = false;
+    below.tabStop = false;
+    right.onClick = nullptr;
+    EXPECT_EQ(order(), "txt ");
+    frame.visible = false;
+    EXPECT_EQ(order(), "");
+}
+
+TEST_F(ScreenFocus, GoesToTheScreensFirstChoiceWhenItsControlIsHidden) {
+    screen.firstFocus = &below;
+    focus.settle();
+    EXPECT_EQ(focused(), "below");
+    focus.next();
+    ASSERT_EQ(focused(), "left");
+    left.visible = false;
+    focus.settle();
+    EXPECT_EQ(focused(), "below");
+    below.enabled = false;
+    focus.settle();
+    EXPECT_EQ(focused(), "");
+}
+
+TEST_F(ScreenFocus, FollowsTheScreensWishOnceTheScreenIsEnabled) {
+    screen.setFocus(right);
+    screen.enabled = false;
+    focus.settle();
+    EXPECT_EQ(focused(), "");
+    screen.enabled = true;
+    focus.settle();
+    EXPECT_EQ(focused(), "right");
+}
+
+TEST_F(ScreenFocus, StaysWhereItIsAtAWishThatCannotBeGranted) {
+    focus.take(left);
+    right.visible = false;
+    screen.setFocus(right);
+    focus.settle();
+    focus.take(right);
+    EXPECT_EQ(focused(), "left");
+}
+
+TEST_F(ScreenFocus, IsToldToFieldsOnceEach) {
+    TextField first, second;
+    screen.addField(first, "txt1", 0, 1500);
+    screen.addField(second, "txt2", 0, 2100);
+    std::string told;
+    first.onGotFocus = [&] { told += "+1"; };
+    first.onLostFocus = [&] { told += "-1"; };
+    second.onGotFocus = [&] { told += "+2"; };
+    focus.take(first);
+    focus.take(first);
+    screen.setFocus(second);
+    focus.settle();
+    focus.settle();
+    EXPECT_EQ(told, "+1-1+2");
+}
+
+TEST_F(ScreenFocus, GrantsAWishThatAFieldHasOnItsWay) {
+    TextField first;
+    screen.addField(first, "txt1", 0, 1500);
+    first.onGotFocus = [&] { screen.setFocus(right); };
+    screen.firstFocus = &first;
+    focus.settle();
+    EXPECT_EQ(focused(), "right");
+}
+
+}  // namespace
+}  // namespace quillor
