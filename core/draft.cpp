@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <random>
 #include <stdexcept>
+#include <utility>
 
 #include "core/files.h"
 #include "core/guard.h"
@@ -33,7 +34,7 @@ Text nameOfChance() {
 
 }  // namespace
 
-Draft::Draft(const Place& folder) : folder_(folder) {
+Draft::Draft(Place folder) : folder_(std::move(folder)) {
     for (int i = 0; i < kTries && !writer_; ++i) {
         path_ = folder_.path() / toPath(nameOfChance());
         writer_ = folder_.disk().create(path_);

@@ -15,7 +15,7 @@ class Draft {
   public:
     /// An empty file, which is no other running copy's. Throws
     /// std::runtime_error when none can be made in that folder.
-    explicit Draft(const Place& folder);
+    explicit Draft(Place folder);
     /// Removes the file unless it was given its name.
     ~Draft();
     Draft(const Draft&) = delete;

@@ -50,7 +50,7 @@ fs::path useFolder(const fs::path& folder) {
 fs::path findProgramFolder(const fs::path& executableFolder, const fs::path& userDataFolder) {
     if (canWriteTo(executableFolder))
         return executableFolder;
-    const fs::path folder = useFolder(userDataFolder);
+    fs::path folder = useFolder(userDataFolder);
     bringManual(executableFolder, folder);
     return folder;
 }

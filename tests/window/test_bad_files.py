@@ -90,16 +90,38 @@ class BadPicture(BadInput):
         self.picture("wide-background")
 
 
-class ReadOnlyFolder(BadInput):
-    """As a user who may not write: root may always."""
+    def test_pipe_of_that_name_does_not_hold_up_the_start(self):
+        os.mkfifo(self.folder / "Pic.jpg")
+        self.start_at_menu()
+        self.key("a")
+        self.expect_title(self.words.arcade_title)
+        self.program.check_alive()
+
+    def test_picture_of_more_than_a_hundred_megapixels_is_left_out(self):
+        self.put("Pic.jpg", grey_jpeg(20000, 6000))
+        self.survives()
+        self.wins("PRIMERO")
+
+
+class KilledRun(BadInput):
+    def test_half_saved_files_of_one_go_at_the_next_start(self):
+        self.put_topic("A", "PRIMERO")
+        for folder in ("", "Temas/", "Topics/"):
+            self.put(folder + "Quillor-Saving-0123456789abcdef.tmp", b"half of a fi")
+        self.start_at_menu()
+        self.assertEqual(self.files(), ["Quillor-Config.ini", "Temas/A.txt"])
+
+
+class ProtectedFolder(BadInput):
+    """As a user who may not do everything: root may always."""
 
     desktop_user = "nobody" if os.geteuid() == 0 else None
 
-    def make_read_only(self):
-        for folder in (self.folder, self.folder / "Temas"):
+    def protect(self, mode, *folders):
+        for folder in folders:
             if self.desktop_user is not None:
                 os.chown(folder, 0, 0)
-            folder.chmod(0o555)
+            folder.chmod(mode)
             self.addCleanup(folder.chmod, 0o755)
 
     def program_for_all(self):
@@ -112,7 +134,12 @@ class ReadOnlyFolder(BadInput):
     def test_game_is_played_and_nothing_is_left(self):
         self.put_topic("A", "PRIMERO")
         (self.folder / "Quillor-Config.ini").unlink()
-        self.make_read_only()
+        self.protect(0o555, self.folder, self.folder / "Temas")
         self.survives(binary=self.program_for_all())
         self.wins("PRIMERO")
         self.assertEqual(self.files(), ["Temas/A.txt"])
+
+    def test_sample_is_not_written_over_topics_that_cannot_be_listed(self):
+        self.put_topic("DEMO", "PRIMERO")
+        self.protect(0o333, self.folder / "Temas")
+        self.assertEqual(self.survives(binary=self.program_for_all()), "box")
