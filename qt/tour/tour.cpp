@@ -138,9 +138,13 @@ QWidget* Tour::control(const QString& id) const {
     return found && found->isVisible() ? found : nullptr;
 }
 
-TourStep Tour::waitFor(const QString& name) const {
-    return {"wait for " + name,
-            [this, name] { return screen() && screen()->name == name.toStdString(); }, [] {}};
+TourStep Tour::waitFor(const QString& wanted) const {
+    return {"wait for " + wanted,
+            [this, wanted] {
+                const Screen* front = screen();
+                return front != nullptr && front->name == wanted.toStdString();
+            },
+            [] {}};
 }
 
 TourStep Tour::waitForBox() const {
@@ -149,8 +153,8 @@ TourStep Tour::waitForBox() const {
 
 TourStep Tour::waitForLine(const QString& id, Twips reach) const {
     const auto reaches = [this, id, reach] {
-        const Line* line = find<Line>(screen(), id);
-        return line && line->x2 >= reach;
+        const auto* line = find<Line>(screen(), id);
+        return line != nullptr && line->x2 >= reach;
     };
     return {id + " grows", reaches, [] {}};
 }
@@ -159,20 +163,20 @@ TourStep Tour::waitUntilShown(const QString& id) const {
     return {"wait until " + id + " is shown", [this, id] { return control(id) != nullptr; }, [] {}};
 }
 
-TourStep Tour::waitForRest(const QStringList& ids) const {
-    const auto rests = [this, ids] {
+TourStep Tour::waitForRest(const QStringList& timers) const {
+    const auto rests = [this, timers] {
         const Screen* front = screen();
-        return front && std::ranges::none_of(front->timers(), [&](const Timer* timer) {
-                   return timer->enabled && ids.contains(QString::fromStdString(timer->id));
+        return front != nullptr && std::ranges::none_of(front->timers(), [&](const Timer* timer) {
+                   return timer->enabled && timers.contains(QString::fromStdString(timer->id));
                });
     };
-    return {"wait for the rest of " + ids.join(", "), rests, [] {}};
+    return {"wait for the rest of " + timers.join(", "), rests, [] {}};
 }
 
 TourStep Tour::expect(const QString& id, const QString& text) const {
     const auto shows = [this, id, text] {
-        const Label* label = find<Label>(screen(), id);
-        return label && toQt(label->caption).contains(text);
+        const auto* label = find<Label>(screen(), id);
+        return label != nullptr && toQt(label->caption).contains(text);
     };
     return {id + " shows \"" + text + "\"", shows, [] {}};
 }

@@ -39,7 +39,7 @@ class Tour : public QObject {
 
     // What a script is made of. Controls and timers are named by their ids and
     // looked for on the screen in front.
-    TourStep waitFor(const QString& screen) const;
+    TourStep waitFor(const QString& wanted) const;
     TourStep waitForBox() const;
     /// Until the line reaches as far as that, in twips.
     TourStep waitForLine(const QString& id, Twips reach) const;

@@ -3,7 +3,6 @@
 
 #include <QCoreApplication>
 #include <algorithm>
-#include <ranges>
 
 #include "qt/windows/page_window.h"
 
@@ -27,9 +26,10 @@ Page* Shell::find(const Screen* screen) const {
 }
 
 Page* Shell::front() const {
-    for (Page* page : pages_ | std::views::reverse)
-        if (page->screen()->enabled)
-            return page;
+    const auto takesInput = [](const Page* page) { return page->screen()->enabled; };
+    const auto last = std::find_if(pages_.rbegin(), pages_.rend(), takesInput);
+    if (last != pages_.rend())
+        return *last;
     return pages_.empty() ? nullptr : pages_.back();
 }
 
@@ -85,9 +85,9 @@ void Shell::refresh() {
     int rounds = 0;
     do {
         again_ = false;
-        // By index: moving the focus runs handlers, which may open screens.
-        for (std::size_t i = 0; i < pages_.size(); ++i)
-            pages_[i]->sync();
+        // Moving the focus runs handlers, which may open and close screens.
+        for (Page* page : std::vector(pages_))
+            page->sync();
         turnPages();
     } while (again_ && ++rounds < kMostRounds);
     syncing_ = false;
@@ -102,8 +102,8 @@ void Shell::turnPages() {
     };
     if (window_)
         turn(*window_);
-    for (std::size_t i = 0; i < dialogs_.size(); ++i)
-        turn(*dialogs_[i]);
+    for (PageWindow* dialog : std::vector(dialogs_))
+        turn(*dialog);
 }
 
 // Later: the widget whose event this was is still on the stack.
