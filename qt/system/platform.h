@@ -15,6 +15,10 @@ QStringList arguments(int argc, char** argv);
 /// Whether a key pressed together with Alt alone types a character.
 bool altTypesCharacters();
 
+/// The digit, 0 to 9, of a key in the row above the letters, by what the system
+/// calls that key; -1 for any other.
+int digitOfKey(unsigned scanCode, unsigned virtualKey);
+
 /// Hand a file, or an address that is fully encoded, to the system's handler.
 void openFile(const std::filesystem::path& file);
 void openEncodedAddress(const QString& address);

@@ -30,6 +30,14 @@ bool altTypesCharacters() {
     return false;
 }
 
+// The same on X11 and Wayland: the kernel's code and 8.
+int digitOfKey(unsigned scanCode, unsigned) {
+    constexpr unsigned kFirst = 10;  // of 1; 0 is the tenth
+    return scanCode >= kFirst && scanCode < kFirst + 10
+               ? static_cast<int>((scanCode - kFirst + 1) % 10)
+               : -1;
+}
+
 void openFile(const std::filesystem::path& file) {
     const QString name = toQt(fromPath(std::filesystem::absolute(file)));
     handOver(name, QUrl::fromLocalFile(name));

@@ -2,6 +2,8 @@
 #include <QDesktopServices>
 #include <QStandardPaths>
 #include <QUrl>
+#include <algorithm>
+#include <iterator>
 
 #include "core/files.h"
 #include "qt/system/platform.h"
@@ -18,6 +20,12 @@ QStringList arguments(int argc, char** argv) {
 
 bool altTypesCharacters() {
     return true;
+}
+
+int digitOfKey(unsigned, unsigned virtualKey) {
+    constexpr unsigned kDigitKeys[] = {29, 18, 19, 20, 21, 23, 22, 26, 28, 25};
+    const auto* found = std::find(std::begin(kDigitKeys), std::end(kDigitKeys), virtualKey);
+    return found == std::end(kDigitKeys) ? -1 : static_cast<int>(found - kDigitKeys);
 }
 
 void openFile(const std::filesystem::path& file) {

@@ -57,6 +57,10 @@ bool altTypesCharacters() {
     return false;
 }
 
+int digitOfKey(unsigned, unsigned virtualKey) {
+    return virtualKey >= '0' && virtualKey <= '9' ? static_cast<int>(virtualKey - '0') : -1;
+}
+
 void openFile(const std::filesystem::path& file) {
     execute(std::filesystem::absolute(file).make_preferred().native());
 }

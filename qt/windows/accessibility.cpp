@@ -33,6 +33,14 @@ class AccessibleLabel : public QAccessibleWidget {
     AccessibleLabel(QWidget* widget, LabelView& view)
         : QAccessibleWidget(widget, roleOf(view.label())), view_(view) {}
 
+    QString text(QAccessible::Text kind) const override {
+        if (kind == QAccessible::Name)
+            return view_.spokenName();
+        if (kind == QAccessible::Description)
+            return view_.spokenDescription();
+        return QAccessibleWidget::text(kind);
+    }
+
     QAccessible::State state() const override {
         QAccessible::State state = QAccessibleWidget::state();
         const LabelRole role = view_.label().role;

@@ -1,6 +1,8 @@
 // The order of the differences: place, words, look, and at last who is on show.
 #include "qt/windows/control_view.h"
 
+#include <utility>
+
 #include "core/text_rules.h"
 #include "qt/windows/qt_values.h"
 
@@ -13,41 +15,30 @@ bool testIdsWanted() {
     return kWanted;
 }
 
-QString description(const Control& control) {
-    QString text = toQt(trimmed(control.toolTip));
-    if (testIdsWanted())
-        text += QStringLiteral(" [#%1]").arg(QString::fromStdString(control.id));
-    return text;
-}
-
 }  // namespace
 
 void ControlView::sync(const TwipScale& scale) {
+    const ShownControl::Changes changes = shown_.update(ref_);
     syncPlace(scale);
-    syncWords();
+    if (changes.words)
+        widget().setToolTip(toQt(shown_.toolTip));
+    if (changes.words || !std::exchange(named_, true))
+        syncWords();
     syncLook();
+    announce(changes);
     QWidget& own = widget();
-    if (control_.enabled && own.testAttribute(Qt::WA_ForceDisabled))
+    if (shown_.enabled && own.testAttribute(Qt::WA_ForceDisabled))
         own.setEnabled(true);
-    if (control_.visible && own.isHidden())
+    if (shown_.visible && own.isHidden())
         own.show();
 }
 
 void ControlView::withdraw() {
     QWidget& own = widget();
-    if (!control_.enabled && !own.testAttribute(Qt::WA_ForceDisabled))
+    if (!shown_.enabled && !own.testAttribute(Qt::WA_ForceDisabled))
         own.setEnabled(false);
-    if (!control_.visible && !own.isHidden())
+    if (!shown_.visible && !own.isHidden())
         own.hide();
-}
-
-bool ControlView::isUsable() const {
-    if (!control_.visible || !control_.enabled)
-        return false;
-    for (const Frame* frame = control_.parent; frame; frame = frame->parent)
-        if (!frame->visible || !frame->enabled)
-            return false;
-    return true;
 }
 
 bool ControlView::isHeadBar(QSizeF screen) const {
@@ -56,8 +47,9 @@ bool ControlView::isHeadBar(QSizeF screen) const {
            place.left() <= 0 && place.right() >= screen.width();
 }
 
-QString ControlView::spokenName() const {
-    return toQt(control_.spokenName);
+void ControlView::takeFocus() {
+    if (link_.focus().control() != &control())
+        link_.event([this](Screen&) { link_.focus().take(control()); });
 }
 
 void ControlView::syncPlace(const TwipScale& scale) {
@@ -69,8 +61,8 @@ void ControlView::syncPlace(const TwipScale& scale) {
         return ground ? scale.groundPlace(twips) : scale.place(twips);
     };
     QRect place = placed(extent(), hasGround());
-    if (control_.parent)
-        place.translate(-placed(screenRect(*control_.parent), control_.parent->opaque).topLeft());
+    if (const Frame* frame = control().parent)
+        place.translate(-placed(screenRect(*frame), frame->opaque).topLeft());
     if (place != own.geometry())
         own.setGeometry(place);
 }
@@ -82,16 +74,20 @@ QRectF ControlView::ownPlace() const {
 }
 
 void ControlView::syncWords() {
-    QWidget& own = widget();
-    const QString name = spokenName();
-    if (name != own.accessibleName())
-        own.setAccessibleName(name);
-    if (described_ && toolTip_ == control_.toolTip)
-        return;
-    described_ = true;
-    toolTip_ = control_.toolTip;
-    own.setToolTip(toQt(trimmed(toolTip_)));
-    own.setAccessibleDescription(description(control_));
+    widget().setAccessibleName(spokenName());
+    widget().setAccessibleDescription(spokenDescription());
+}
+
+QString ControlView::spokenName() const {
+    return toQt(shown_.name);
+}
+
+// The blanks around a tool tip are there to be seen.
+QString ControlView::spokenDescription() const {
+    QString text = toQt(trimmed(shown_.toolTip));
+    if (testIdsWanted())
+        text += QStringLiteral(" [#%1]").arg(QString::fromStdString(control().id));
+    return text;
 }
 
 }  // namespace quillor

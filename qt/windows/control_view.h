@@ -6,7 +6,7 @@
 
 #include "qt/windows/screen_link.h"
 #include "qt/windows/twip_scale.h"
-#include "toolkit/controls.h"
+#include "toolkit/shown_control.h"
 
 namespace quillor {
 
@@ -18,29 +18,37 @@ class ControlView {
     ControlView& operator=(const ControlView&) = delete;
 
     virtual QWidget& widget() = 0;
-    Control& control() const { return control_; }
+    Control& control() const { return controlOf(ref_); }
 
     /// Applies every difference but one: a control that is to be hidden or
     /// disabled stays as it is until `withdraw`, so that the focus can leave it.
     void sync(const TwipScale& scale);
     void withdraw();
 
-    /// Whether the control and the frames it stands on are visible and enabled.
-    bool isUsable() const;
+    /// What a screen reader says of it. Empty while it is not seen.
+    QString spokenName() const;
+    QString spokenDescription() const;
+
     /// Whether its ground is a bar from edge to edge along the top of a screen of
     /// that size, in twips.
     bool isHeadBar(QSizeF screen) const;
-    /// Whether Tab stops here.
-    virtual bool takesTab() const { return false; }
 
   protected:
-    ControlView(Control& control, ScreenLink& link) : control_(control), link_(link) {}
+    ControlView(ControlRef control, ScreenLink& link) : ref_(control), link_(link) {}
 
-    /// Applies differences in what only this kind of control has.
+    /// Applies differences in what only this kind of control has. Some of them are not
+    /// the control's own: the scale, and what lies behind it.
     virtual void syncLook() = 0;
+    /// What was said of it, or its check, has changed.
+    virtual void announce(const ShownControl::Changes&) {}
+    template <typename Shown>
+    const Shown& shown() const {
+        return std::get<Shown>(shown_.look);
+    }
+    /// Tells assistive tools what is said of it from now on.
+    virtual void syncWords();
     /// On the screen, in twips.
-    virtual QRectF extent() const { return screenRect(control_); }
-    virtual QString spokenName() const;
+    virtual QRectF extent() const { return screenRect(control()); }
     /// Whether it fills its place with a ground of its own.
     virtual bool hasGround() const { return false; }
 
@@ -50,16 +58,17 @@ class ControlView {
     const TwipScale& scale() const { return scale_; }
     double pixelsPerTwip() const { return scale_.pixels; }
     ScreenLink& link() const { return link_; }
+    /// The system has given it the focus: the player, or an assistive tool, wants it so.
+    void takeFocus();
 
   private:
     void syncPlace(const TwipScale& scale);
-    void syncWords();
 
-    Control& control_;
+    const ControlRef ref_;
     ScreenLink& link_;
     TwipScale scale_;
-    Text toolTip_;
-    bool described_ = false;
+    ShownControl shown_;
+    bool named_ = false;  // its words have been told once
 };
 
 }  // namespace quillor

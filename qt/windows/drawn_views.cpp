@@ -10,7 +10,7 @@
 namespace quillor {
 
 ShapeView::ShapeView(Shape& shape, ScreenLink& link, QWidget* parent)
-    : QWidget(parent), ControlView(shape, link), shape_(shape) {
+    : QWidget(parent), ControlView(&shape, link), shape_(shape) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
@@ -40,7 +40,7 @@ void ShapeView::paintEvent(QPaintEvent*) {
 }
 
 LineView::LineView(Line& line, ScreenLink& link, QWidget* parent)
-    : QWidget(parent), ControlView(line, link), line_(line) {
+    : QWidget(parent), ControlView(&line, link), line_(line) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
@@ -97,7 +97,7 @@ void LineView::paintEvent(QPaintEvent*) {
 }
 
 PictureView::PictureView(Picture& picture, ScreenLink& link, QWidget* parent)
-    : QWidget(parent), ControlView(picture, link), picture_(picture) {
+    : QWidget(parent), ControlView(&picture, link), picture_(picture) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
 }
@@ -138,7 +138,7 @@ void PictureView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 FrameView::FrameView(Frame& frame, ScreenLink& link, QWidget* parent)
-    : QWidget(parent), ControlView(frame, link), frame_(frame) {
+    : QWidget(parent), ControlView(&frame, link), frame_(frame) {
     setMouseTracking(true);
 }
 

@@ -3,11 +3,10 @@
 
 #include <QInputMethodEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <algorithm>
-#include <utility>
 
 #include "qt/paint/label_painter.h"
-#include "qt/windows/key_mapping.h"
 #include "qt/windows/qt_values.h"
 
 namespace quillor {
@@ -16,18 +15,16 @@ namespace {
 
 constexpr double kRadius = 90;   // twips, of the box's corners
 constexpr double kPadding = 90;  // twips, from the box's edge to the text
-constexpr int kUnlimited = 32767;
 
-// The field keeps its logical focus while another window, or a menu, has it.
-bool leavesField(const QFocusEvent& event) {
-    return event.reason() != Qt::ActiveWindowFocusReason &&
-           event.reason() != Qt::PopupFocusReason && event.reason() != Qt::MenuBarFocusReason;
+// How many characters both texts have in common at their beginnings.
+qsizetype commonStart(const QString& a, const QString& b) {
+    return std::mismatch(a.begin(), a.end(), b.begin(), b.end()).first - a.begin();
 }
 
 }  // namespace
 
 FieldView::FieldView(TextField& field, ScreenLink& link, QWidget* parent)
-    : QLineEdit(parent), ControlView(field, link), field_(field) {
+    : QLineEdit(parent), ControlView(&field, link), field_(field) {
     setFrame(false);
     // Its entries would not speak the program's language.
     setContextMenuPolicy(Qt::NoContextMenu);
@@ -36,16 +33,13 @@ FieldView::FieldView(TextField& field, ScreenLink& link, QWidget* parent)
     connect(this, &QLineEdit::cursorPositionChanged, [this] { report(); });
 }
 
+// The line edit may run ahead of what was shown last: it is compared itself.
 void FieldView::syncLook() {
     syncFont();
     syncColors();
-    const int most = field_.maxLength > 0 ? field_.maxLength : kUnlimited;
-    writing_ = true;
-    if (most != maxLength())
-        setMaxLength(most);
+    const QScopedValueRollback writing(writing_, true);
     syncText();
     syncSelection();
-    writing_ = false;
 }
 
 void FieldView::syncFont() {
@@ -70,23 +64,32 @@ void FieldView::syncColors() {
     update();
 }
 
+// Only what differs is replaced, and that is all that assistive tools are told.
 void FieldView::syncText() {
-    const QString wanted = toQt(field_.text());
-    if (wanted == text())
+    const QString wanted = toQt(shown<ShownField>().text);
+    const QString now = text();
+    if (wanted == now)
         return;
-    setText(wanted);
-    setCursorPosition(field_.caret());
+    const qsizetype start = commonStart(now, wanted);
+    qsizetype end = std::min(now.size(), wanted.size()) - start;
+    while (end > 0 && now.last(end) != wanted.last(end))
+        --end;
+    setCursorPosition(static_cast<int>(start));
+    if (const qsizetype replaced = now.size() - end - start; replaced > 0)
+        setSelection(static_cast<int>(start), static_cast<int>(replaced));
+    insert(wanted.sliced(start, wanted.size() - end - start));
 }
 
 void FieldView::syncSelection() {
+    const auto& look = shown<ShownField>();
     const int start = hasSelectedText() ? selectionStart() : cursorPosition();
     const int length = static_cast<int>(selectedText().size());
-    if (start == field_.caret() && length == field_.selectionLength())
+    if (start == look.caret && length == look.selectionLength)
         return;
-    if (field_.selectionLength() > 0)
-        setSelection(field_.caret(), field_.selectionLength());
+    if (look.selectionLength > 0)
+        setSelection(look.caret, look.selectionLength);
     else
-        setCursorPosition(field_.caret());
+        setCursorPosition(look.caret);
 }
 
 void FieldView::report() {
@@ -97,51 +100,41 @@ void FieldView::report() {
     link().event([&](Screen& screen) { screen.edit(field_, fromQt(text()), start, length); });
 }
 
-QString FieldView::filtered(const QString& text) {
-    QString result;
-    link().event([&](Screen& screen) {
-        for (const QChar c : text)
-            if (const char16_t let = screen.fieldKeyPress(field_, c.unicode()))
-                result += QChar(let);
-    });
-    return result;
-}
-
-void FieldView::type(QKeyEvent& event) {
-    const QString typed = typedText(event);
-    const QString let = filtered(typed);
-    // The filter's handler may have closed the screen.
-    if (!link().isOpen() || (let.isEmpty() && !typed.isEmpty()))
-        return;
-    if (let == typed) {
+// Undoing is the field's own business, by whichever key the system has for it.
+void FieldView::edit(QKeyEvent& event) {
+    if (event.matches(QKeySequence::Undo))
+        link().event([&](Screen& screen) { screen.undo(field_); });
+    else if (event.matches(QKeySequence::Redo))
+        link().event([&](Screen& screen) { screen.redo(field_); });
+    else
         QLineEdit::keyPressEvent(&event);
-        return;
-    }
-    QKeyEvent replaced(event.type(), 0, Qt::NoModifier, let, event.isAutoRepeat());
-    QLineEdit::keyPressEvent(&replaced);
 }
 
+// What is being composed is the line edit's; what is handed over goes the way
+// of keys.
 void FieldView::inputMethodEvent(QInputMethodEvent* event) {
-    const QString let = filtered(event->commitString());
-    if (!link().isOpen())
+    QInputMethodEvent ended;
+    ended.setCommitString({}, event->replacementStart(), event->replacementLength());
+    QLineEdit::inputMethodEvent(&ended);
+    if (!event->commitString().isEmpty())
+        link().event([&](Screen& screen) {
+            link().shell().keys.commit(screen, link().focus(), fromQt(event->commitString()));
+        });
+    if (!link().isOpen() || event->preeditString().isEmpty())
         return;
-    QInputMethodEvent passed(event->preeditString(), event->attributes());
-    passed.setCommitString(let, event->replacementStart(), event->replacementLength());
-    QLineEdit::inputMethodEvent(&passed);
+    QInputMethodEvent composing(event->preeditString(), event->attributes());
+    QLineEdit::inputMethodEvent(&composing);
 }
 
 void FieldView::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
     update();
-    if (!std::exchange(hasFocus_, true))
-        link().event([&](Screen& screen) { screen.focusChanged(field_, true); });
+    takeFocus();
 }
 
 void FieldView::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
     update();
-    if (leavesField(*event) && std::exchange(hasFocus_, false))
-        link().event([&](Screen& screen) { screen.focusChanged(field_, false); });
 }
 
 void FieldView::enterEvent(QEnterEvent*) {

@@ -13,12 +13,10 @@ class FieldView : public QLineEdit, public ControlView {
     FieldView(TextField& field, ScreenLink& link, QWidget* parent);
 
     QWidget& widget() override { return *this; }
-    TextField& field() const { return field_; }
-    bool takesTab() const override { return isUsable(); }
 
-    /// A key that the screen has left to the field. Its characters pass the
-    /// field's filter first.
-    void type(QKeyEvent& event);
+    /// A key that is left to the field: it moves the caret, deletes, or serves
+    /// the clipboard.
+    void edit(QKeyEvent& event);
 
   protected:
     void syncLook() override;
@@ -35,15 +33,13 @@ class FieldView : public QLineEdit, public ControlView {
     void syncText();
     void syncSelection();
     void report();  // what the player has done, to the screen
-    QString filtered(const QString& text);
 
     TextField& field_;
     Font shownFont_;
     double shownScale_ = 0;
     Color shownTextColor_ = -1;
     Color shownBackColor_ = -1;
-    bool writing_ = false;   // it is the screen that changes the field
-    bool hasFocus_ = false;  // as the screen has been told
+    bool writing_ = false;  // it is the screen that changes the field
 };
 
 }  // namespace quillor

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "qt/system/platform.h"
+#include "qt/windows/qt_values.h"
 
 namespace quillor {
 
@@ -54,17 +55,28 @@ int virtualKeyCode(const QKeyEvent& event) {
     for (const auto& [qtKey, code] : kNamedKeys)
         if (key == qtKey)
             return code;
-    return 0;
+    // With Shift, or without it on some keyboards, the digits' keys type signs.
+    const int digit = platform::digitOfKey(event.nativeScanCode(), event.nativeVirtualKey());
+    return digit < 0 ? 0 : '0' + digit;
 }
 
-KeyEvent toKeyEvent(const QKeyEvent& event) {
-    KeyEvent result;
-    result.code = virtualKeyCode(event);
-    result.shift = event.modifiers().testFlag(Qt::ShiftModifier);
-    result.control = event.modifiers().testFlag(Qt::ControlModifier);
-    result.alt = event.modifiers().testFlag(Qt::AltModifier);
-    result.autoRepeat = event.isAutoRepeat();
-    return result;
+int keyId(const QKeyEvent& event) {
+    const quint32 key = event.nativeScanCode();
+    return key ? static_cast<int>(key) : event.key();
+}
+
+KeyPress toKeyPress(const QKeyEvent& event) {
+    KeyPress press;
+    press.key.code = virtualKeyCode(event);
+    press.key.shift = event.modifiers().testFlag(Qt::ShiftModifier) ||
+                      event.key() == Qt::Key_Backtab;  // which is Tab with Shift
+    press.key.control = event.modifiers().testFlag(Qt::ControlModifier);
+    press.key.alt = event.modifiers().testFlag(Qt::AltModifier);
+    press.key.autoRepeat = event.isAutoRepeat();
+    press.typed = fromQt(typedText(event));
+    press.sign = event.text().size() == 1 ? event.text().front().unicode() : u'\0';
+    press.id = keyId(event);
+    return press;
 }
 
 QString typedText(const QKeyEvent& event) {

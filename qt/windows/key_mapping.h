@@ -3,14 +3,17 @@
 
 #include <QKeyEvent>
 
-#include "toolkit/keys.h"
+#include "toolkit/key_route.h"
 
 namespace quillor {
 
-/// 0 for a key that has no code on every keyboard.
+/// The code of the key and not of its shifted sign; 0 for a key that has no
+/// code on every keyboard.
 int virtualKeyCode(const QKeyEvent& event);
 
-KeyEvent toKeyEvent(const QKeyEvent& event);
+KeyPress toKeyPress(const QKeyEvent& event);
+/// Which key of the keyboard it is, whatever it types.
+int keyId(const QKeyEvent& event);
 
 /// The characters that the key types: printable text, Return or Backspace.
 /// Empty for shortcuts and function keys.

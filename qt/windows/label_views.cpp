@@ -5,25 +5,21 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include "qt/windows/qt_values.h"
-#include "toolkit/caption.h"
-
 namespace quillor {
 
 void LabelView::syncLook() {
     LabelLook look = lookOf(label_);
-    if (look == look_ && label_.checked == checked_)
+    if (look == look_)
         return;
-    const bool spoken = look.caption != look_.caption || label_.checked != checked_;
     look_ = std::move(look);
-    checked_ = label_.checked;
     widget().update();
-    if (spoken)
-        announce();
 }
 
-QString LabelView::spokenName() const {
-    return toQt(label_.spokenName.empty() ? plainCaption(label_) : label_.spokenName);
+void LabelView::syncWords() {
+    if (!widget().isVisible() || !isSeen(label_))
+        return;
+    QAccessibleEvent event(&widget(), QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&event);
 }
 
 void LabelView::paint(QPainter& painter) {
@@ -44,17 +40,14 @@ ButtonView::ButtonView(Label& label, ScreenLink& link, QWidget* parent)
             [this] { this->link().event([&](Screen& s) { s.click(this->label()); }); });
 }
 
-void ButtonView::spaceDown(QKeyEvent& event) {
-    if (!event.isAutoRepeat())
-        QAbstractButton::keyPressEvent(&event);
-}
-
 void ButtonView::assistivePress() {
     if (isEnabled() && !link().shell().isModal())
         click();
 }
 
-void ButtonView::announce() {
+void ButtonView::announce(const ShownControl::Changes& changes) {
+    if (!changes.checked)
+        return;
     QAccessible::State changed;
     changed.checked = true;
     QAccessibleStateChangeEvent event(this, changed);
@@ -92,13 +85,14 @@ void ButtonView::enterEvent(QEnterEvent*) {
     link().event([&](Screen& screen) { screen.mouseMove(label()); });
 }
 
+void ButtonView::focusInEvent(QFocusEvent* event) {
+    QAbstractButton::focusInEvent(event);
+    takeFocus();
+}
+
 CaptionView::CaptionView(Label& label, ScreenLink& link, QWidget* parent)
     : QLabel(parent), LabelView(label, link) {
     setMouseTracking(true);
-}
-
-void CaptionView::press() {
-    link().event([&](Screen& screen) { screen.click(label()); });
 }
 
 void CaptionView::paintEvent(QPaintEvent*) {
@@ -130,7 +124,7 @@ void CaptionView::mouseReleaseEvent(QMouseEvent* event) {
         return;
     link().event([&](Screen& screen) { screen.mouseUp(label()); });
     if (inside)
-        press();
+        link().event([&](Screen& screen) { screen.click(label()); });
 }
 
 NotificationView::NotificationView(Label& label, ScreenLink& link, QWidget* parent)
@@ -139,10 +133,9 @@ NotificationView::NotificationView(Label& label, ScreenLink& link, QWidget* pare
 }
 
 // Screen readers speak a notification when it comes into view.
-void NotificationView::announce() {
-    if (!isVisible())
+void NotificationView::announce(const ShownControl::Changes& changes) {
+    if (!changes.words || !isVisible())
         return;
-    setAccessibleName(LabelView::spokenName());
     QAccessibleEvent event(this, QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&event);
 }

@@ -14,26 +14,21 @@ namespace quillor {
 class LabelView : public ControlView {
   public:
     Label& label() const { return label_; }
-    /// Pressing it does something now.
-    bool isPressable() const { return label_.onClick && isUsable(); }
-    /// Presses it as its access key or Return does.
-    virtual void press() = 0;
 
   protected:
-    LabelView(Label& label, ScreenLink& link) : ControlView(label, link), label_(label) {}
+    LabelView(Label& label, ScreenLink& link) : ControlView(&label, link), label_(label) {}
 
     void syncLook() override;
-    QString spokenName() const override;
+    /// Says nothing of labels that come into view or leave it: that is told anyway, and
+    /// a board of them at once would drown whatever is announced.
+    void syncWords() override;
     bool hasGround() const override { return label_.opaque; }
     void paint(QPainter& painter);
     const LabelLook& look() const { return look_; }
-    /// The caption or the check has changed.
-    virtual void announce() {}
 
   private:
     Label& label_;
     LabelLook look_;
-    bool checked_ = false;
 };
 
 /// A label that is pressed. Only Tab gives it the focus: a click leaves the
@@ -43,20 +38,17 @@ class ButtonView : public QAbstractButton, public LabelView {
     ButtonView(Label& label, ScreenLink& link, QWidget* parent);
 
     QWidget& widget() override { return *this; }
-    bool takesTab() const override { return label().tabStop && isPressable(); }
-    void press() override { click(); }
-    /// Space goes down; the release presses.
-    void spaceDown(QKeyEvent& event);
     /// Presses it for an assistive tool, which knows nothing of open boxes.
     void assistivePress();
 
   protected:
-    void announce() override;
+    void announce(const ShownControl::Changes& changes) override;
     void paintEvent(QPaintEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
     void nextCheckState() override {}
 };
@@ -67,7 +59,6 @@ class CaptionView : public QLabel, public LabelView {
     CaptionView(Label& label, ScreenLink& link, QWidget* parent);
 
     QWidget& widget() override { return *this; }
-    void press() override;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -86,10 +77,9 @@ class NotificationView : public QLabel, public LabelView {
     NotificationView(Label& label, ScreenLink& link, QWidget* parent);
 
     QWidget& widget() override { return *this; }
-    void press() override {}
 
   protected:
-    void announce() override;
+    void announce(const ShownControl::Changes& changes) override;
     void paintEvent(QPaintEvent*) override {}
 };
 

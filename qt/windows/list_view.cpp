@@ -2,6 +2,7 @@
 #include "qt/windows/list_view.h"
 
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QStyledItemDelegate>
 
 #include "qt/paint/label_painter.h"
@@ -51,7 +52,7 @@ class RowDelegate : public QStyledItemDelegate {
 }  // namespace
 
 ListView::ListView(ListBox& list, ScreenLink& link, QWidget* parent)
-    : QListWidget(parent), ControlView(list, link), list_(list) {
+    : QListWidget(parent), ControlView(&list, link), list_(list) {
     setFrameShape(QFrame::NoFrame);
     setItemDelegate(new RowDelegate(this));
     setVerticalScrollMode(ScrollPerPixel);
@@ -66,12 +67,12 @@ ListView::ListView(ListBox& list, ScreenLink& link, QWidget* parent)
             [this] { this->link().event([&](Screen& screen) { screen.doubleClick(list_); }); });
 }
 
+// The selection may run ahead of what was shown last: it is compared itself.
 void ListView::syncLook() {
     syncFont();
-    writing_ = true;
+    const QScopedValueRollback writing(writing_, true);
     syncItems();
     syncSelection();
-    writing_ = false;
 }
 
 void ListView::syncFont() {
@@ -86,22 +87,22 @@ void ListView::syncFont() {
 }
 
 void ListView::syncItems() {
-    if (shownItems_ == list_.items)
+    const std::vector<Text>& wanted = shown<ShownList>().items;
+    if (shownItems_ == wanted)
         return;
     // Entries at the front that stay keep their place on the display.
     std::size_t same = 0;
-    while (same < shownItems_.size() && same < list_.items.size() &&
-           shownItems_[same] == list_.items[same])
+    while (same < shownItems_.size() && same < wanted.size() && shownItems_[same] == wanted[same])
         ++same;
     while (count() > static_cast<int>(same))
         delete takeItem(count() - 1);
-    for (std::size_t i = same; i < list_.items.size(); ++i)
-        addItem(toQt(list_.items[i]));
-    shownItems_ = list_.items;
+    for (std::size_t i = same; i < wanted.size(); ++i)
+        addItem(toQt(wanted[i]));
+    shownItems_ = wanted;
 }
 
 void ListView::syncSelection() {
-    const int wanted = list_.listIndex();
+    const int wanted = shown<ShownList>().listIndex;
     if (wanted == selectedRow())
         return;
     if (wanted < 0) {
@@ -131,7 +132,7 @@ void ListView::selectionMade() {
 
 // With nothing selected, a key that moves the selection begins with an entry
 // at the end that it comes from.
-void ListView::press(QKeyEvent& event) {
+void ListView::move(QKeyEvent& event) {
     const bool down = event.key() == Qt::Key_Down || event.key() == Qt::Key_Home;
     const bool up = event.key() == Qt::Key_Up || event.key() == Qt::Key_End;
     if (selectedRow() < 0 && count() > 0 && (down || up))
@@ -166,6 +167,7 @@ void ListView::enterEvent(QEnterEvent*) {
 void ListView::focusInEvent(QFocusEvent* event) {
     QListWidget::focusInEvent(event);
     update();
+    takeFocus();
 }
 
 void ListView::focusOutEvent(QFocusEvent* event) {

@@ -13,11 +13,9 @@ class ListView : public QListWidget, public ControlView {
     ListView(ListBox& list, ScreenLink& link, QWidget* parent);
 
     QWidget& widget() override { return *this; }
-    ListBox& list() const { return list_; }
-    bool takesTab() const override { return isUsable(); }
 
-    /// A key that the screen has left to the list.
-    void press(QKeyEvent& event);
+    /// A key that is left to the list: it moves the selection.
+    void move(QKeyEvent& event);
 
   protected:
     void syncLook() override;

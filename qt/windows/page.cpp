@@ -1,4 +1,4 @@
-// What was focused is remembered while the page is covered or disabled.
+// The toolkit says where the focus is; the page gives it to that widget.
 #include "qt/windows/page.h"
 
 #include <QInputMethodEvent>
@@ -9,10 +9,11 @@
 #include "qt/paint/paper.h"
 #include "qt/windows/drawn_views.h"
 #include "qt/windows/field_view.h"
+#include "qt/windows/key_mapping.h"
 #include "qt/windows/label_views.h"
 #include "qt/windows/list_view.h"
 #include "qt/windows/page_window.h"
-#include "qt/windows/reading_order.h"
+#include "qt/windows/qt_values.h"
 
 namespace quillor {
 
@@ -50,9 +51,7 @@ Page::Page(Shell& shell, Screen& screen, PageWindow& window)
       screen_(&screen),
       window_(window),
       link_(shell, screen),
-      keys_(*this, link_),
-      timers_(link_, screen),
-      focused_(screen.initialFocus()) {
+      timers_(link_, screen) {
     hide();
     setObjectName(QString::fromStdString(screen.name));
     setAttribute(Qt::WA_InputMethodEnabled);
@@ -122,90 +121,81 @@ void Page::layOut() {
 void Page::sync() {
     if (!screen_)
         return;
-    syncEnabled();
-    for (ControlView* each : views_)
-        each->sync(scale_);
-    syncFocus();
+    if (screen_->enabled != isEnabled())
+        setEnabled(screen_->enabled);
+    link_.focus().settle();
     if (!screen_)
         return;
+    for (ControlView* each : views_)
+        each->sync(scale_);
+    giveFocus();
     for (ControlView* each : views_)
         each->withdraw();
     timers_.sync();
 }
 
-void Page::syncEnabled() {
-    if (screen_->enabled == isEnabled())
+// To the page itself while no control has it: from there keys reach the screen too.
+void Page::giveFocus() {
+    if (!entered_ || !screen_->enabled)
         return;
-    if (!screen_->enabled)
-        keepFocus();
-    setEnabled(screen_->enabled);
-    if (screen_->enabled)
-        giveFocus(focused_);
+    const Control* control = link_.focus().control();
+    QWidget* wanted = control ? &view(*control)->widget() : this;
+    if (wanted != focusWidget())
+        wanted->setFocus(Qt::OtherFocusReason);
 }
 
 void Page::enter() {
     entered_ = true;
-    giveFocus(focused_);
+    giveFocus();
 }
 
 void Page::leave() {
-    if (screen_ && takesFocus())
-        keepFocus();
     entered_ = false;
-}
-
-void Page::keepFocus() {
-    const ControlView* focus = focusedView();
-    focused_ = focus ? &focus->control() : nullptr;
-}
-
-void Page::syncFocus() {
-    if (const Control* wanted = screen_->takeFocusRequest())
-        giveFocus(wanted);
-    const ControlView* focus = focusedView();
-    if (screen_ && takesFocus() && (focus ? !focus->isUsable() : !focusWidget()))
-        giveFocus(screen_->initialFocus());
-}
-
-// Failing that, to the screen's first choice, and failing that to the page
-// itself, from which keys reach the screen too.
-void Page::giveFocus(const Control* control) {
-    ControlView* wanted = control ? view(*control) : nullptr;
-    if (!takesFocus())
-        focused_ = control;
-    else if (wanted && wanted->isUsable())
-        wanted->widget().setFocus(Qt::OtherFocusReason);
-    else if (control != screen_->initialFocus())
-        giveFocus(screen_->initialFocus());
-    else
-        setFocus(Qt::OtherFocusReason);
 }
 
 bool Page::focusNextPrevChild(bool next) {
     link_.shell().showsFocus = true;
-    const std::vector<ControlView*> order = readingOrder(views_);
-    if (order.empty())
-        return true;
-    const auto current = std::find(order.begin(), order.end(), focusedView());
-    const auto at = static_cast<std::size_t>(current - order.begin());
-    std::size_t to = next ? 0 : order.size() - 1;
-    if (current != order.end())
-        to = (at + (next ? 1 : order.size() - 1)) % order.size();
-    order[to]->widget().setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    link_.event([&](Screen&) { next ? link_.focus().next() : link_.focus().previous(); });
     return true;
 }
 
 bool Page::eventFilter(QObject* object, QEvent* event) {
-    const bool onField = dynamic_cast<FieldView*>(object) != nullptr;
-    if (event->type() == QEvent::KeyPress) {
-        keys_.press(*static_cast<QKeyEvent*>(event));
-        return true;
+    switch (event->type()) {
+        case QEvent::KeyPress:
+            press(*static_cast<QKeyEvent*>(event));
+            return true;
+        case QEvent::KeyRelease:
+            if (const auto& key = *static_cast<QKeyEvent*>(event); !key.isAutoRepeat())
+                link_.event([&](Screen&) { link_.shell().keys.release(keyId(key)); });
+            return true;
+        case QEvent::InputMethod:
+            if (dynamic_cast<FieldView*>(object))
+                return false;
+            link_.event([&](Screen& screen) {
+                const QString& text = static_cast<QInputMethodEvent*>(event)->commitString();
+                link_.shell().keys.commit(screen, link_.focus(), fromQt(text));
+            });
+            return true;
+        default:
+            return QWidget::eventFilter(object, event);
     }
-    if (event->type() == QEvent::InputMethod && !onField) {
-        keys_.typeOnScreen(static_cast<QInputMethodEvent*>(event)->commitString());
-        return true;
-    }
-    return QWidget::eventFilter(object, event);
+}
+
+void Page::press(QKeyEvent& event) {
+    if (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab)
+        link_.shell().showsFocus = true;
+    link_.keyEvent([&](Screen& screen) {
+        const KeyPress press = toKeyPress(event);
+        const KeyRoute::Rest rest = link_.shell().keys.press(screen, link_.focus(), press);
+        if (rest == KeyRoute::Rest::Field)
+            dynamic_cast<FieldView&>(*view(*link_.focus().control())).edit(event);
+        else if (rest == KeyRoute::Rest::List)
+            dynamic_cast<ListView&>(*view(*link_.focus().control())).move(event);
+    });
+}
+
+void Page::letKeysGo() {
+    link_.event([&](Screen&) { link_.shell().keys.letGo(); });
 }
 
 void Page::askToClose() {

@@ -2,12 +2,12 @@
 // among them, keys and timers.
 #pragma once
 
+#include <QKeyEvent>
 #include <QWidget>
 #include <unordered_map>
 #include <vector>
 
 #include "qt/windows/control_view.h"
-#include "qt/windows/key_router.h"
 #include "qt/windows/screen_link.h"
 #include "qt/windows/timer_set.h"
 #include "qt/windows/twip_scale.h"
@@ -37,15 +37,18 @@ class Page : public QWidget {
     /// The screen is closing: nothing of it is touched any more.
     void detach();
 
+    /// The control whose widget has the focus; null: none.
     ControlView* focusedView() const;
     ControlView* view(const Control& control) const;
-    const std::vector<ControlView*>& views() const { return views_; }
-    /// Moves the focus to the next control in reading order. Always succeeds.
+    /// Moves the focus to the next control in reading order, which the toolkit
+    /// knows and not the chain of widgets: what takes Tab changes all the time.
     bool focusNextPrevChild(bool next) override;
 
-    /// Keys, and the text of an input method, that no field has taken. Any widget
+    /// Keys, and the text of an input method that is not a field's. Any widget
     /// may have the focus; true: the event has been dealt with.
     bool eventFilter(QObject* object, QEvent* event) override;
+    /// Another window takes the keys.
+    void letKeysGo();
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -56,21 +59,16 @@ class Page : public QWidget {
   private:
     void makeViews();
     void layOut();
-    void syncEnabled();
-    void syncFocus();
-    bool takesFocus() const { return entered_ && screen_->enabled; }
-    void keepFocus();
-    void giveFocus(const Control* control);
+    void giveFocus();
+    void press(QKeyEvent& event);
 
     Screen* screen_;
     PageWindow& window_;
     ScreenLink link_;
     std::vector<ControlView*> views_;  // as the screen adds its controls
     std::unordered_map<const Control*, ControlView*> viewOf_;
-    KeyRouter keys_;
     TimerSet timers_;
     TwipScale scale_;
-    const Control* focused_;  // kept while the page takes no focus
     bool entered_ = false;
 };
 

@@ -113,7 +113,10 @@ QRect PageWindow::firstPlace() const {
 
 // A key that finds no widget with the focus is the page's all the same.
 bool PageWindow::event(QEvent* event) {
-    const bool typed = event->type() == QEvent::KeyPress || event->type() == QEvent::InputMethod;
+    const bool typed = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease ||
+                       event->type() == QEvent::InputMethod;
+    if (event->type() == QEvent::WindowDeactivate && page_)
+        page_->letKeysGo();
     if (typed && page_ && page_->eventFilter(this, event))
         return true;
     return QMainWindow::event(event);

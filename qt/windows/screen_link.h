@@ -4,15 +4,17 @@
 #include <utility>
 
 #include "qt/windows/shell.h"
-#include "toolkit/screen.h"
+#include "toolkit/focus.h"
 
 namespace quillor {
 
 class ScreenLink {
   public:
-    ScreenLink(Shell& shell, Screen& screen) : shell_(shell), screen_(&screen) {}
+    ScreenLink(Shell& shell, Screen& screen) : shell_(shell), screen_(&screen), focus_(screen) {}
 
     Shell& shell() const { return shell_; }
+    /// Not to be asked for anything but its control once the screen is closed.
+    Focus& focus() { return focus_; }
 
     /// Runs `body(screen)` as one event; does nothing once the screen is closed.
     template <typename Body>
@@ -33,6 +35,7 @@ class ScreenLink {
   private:
     Shell& shell_;
     Screen* screen_;
+    Focus focus_;
 };
 
 }  // namespace quillor

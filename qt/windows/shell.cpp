@@ -56,6 +56,7 @@ void Shell::close(Screen& screen) {
     if (!page)
         return;
     std::erase(pages_, page);
+    keys.forget(screen);
     page->detach();
     closed_.push_back(page);
 }

@@ -9,7 +9,7 @@
 
 #include "qt/paint/font_book.h"
 #include "qt/paint/paper.h"
-#include "toolkit/screen.h"
+#include "toolkit/key_route.h"
 
 namespace quillor {
 
@@ -25,6 +25,7 @@ class Shell {
 
     const FontBook& fonts;
     PaperCache papers;
+    KeyRoute keys;
     /// Called when no handler of any screen is running any more.
     std::function<void()> onIdle;
 
@@ -71,6 +72,7 @@ class Shell {
     /// a menu. Events inside it count as outermost ones.
     template <typename Body>
     auto modally(Body&& body) {
+        keys.letGo();
         showNow();
         const Nesting nesting(*this);
         return std::forward<Body>(body)();

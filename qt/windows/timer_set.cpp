@@ -1,44 +1,40 @@
-// A QTimer for each timer, set anew after every event.
+// One alarm for all of them, set anew after every event.
 #include "qt/windows/timer_set.h"
+
+#include <algorithm>
 
 namespace quillor {
 
-TimerSet::TimerSet(ScreenLink& link, const Screen& screen) : link_(link) {
-    for (Timer* timer : screen.timers()) {
-        auto clock = std::make_unique<QTimer>();
-        clock->setTimerType(Qt::PreciseTimer);
-        served_.push_back({timer, std::move(clock)});
-    }
-    // Only now do the entries stay where they are.
-    for (Served& served : served_)
-        QObject::connect(served.clock.get(), &QTimer::timeout, [this, &served] { tick(served); });
+TimerSet::TimerSet(ScreenLink& link, Screen& screen) : link_(link), screen_(screen) {
+    time_.start();
+    alarm_.setSingleShot(true);
+    alarm_.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&alarm_, &QTimer::timeout, [this] { tick(); });
 }
 
 void TimerSet::sync() {
-    for (Served& served : served_) {
-        QTimer& clock = *served.clock;
-        if (!served.timer->enabled) {
-            clock.stop();
-            continue;
-        }
-        const int interval = served.timer->servedInterval();
-        if (!clock.isActive() || clock.interval() != interval)
-            clock.start(interval);
-    }
+    clock_.look({&screen_}, time_.elapsed());
+    setAlarm();
+}
+
+void TimerSet::setAlarm() {
+    const std::optional<std::int64_t> due = clock_.nextDue();
+    if (due)
+        alarm_.start(static_cast<int>(std::max<std::int64_t>(*due - time_.elapsed(), 0)));
+    else
+        alarm_.stop();
 }
 
 void TimerSet::stop() {
-    for (Served& served : served_)
-        served.clock->stop();
+    clock_.look({}, time_.elapsed());
+    alarm_.stop();
 }
 
-// A tick that has opened a box is not run again while the box is open.
-void TimerSet::tick(Served& served) {
-    if (served.inTick)
-        return;
-    served.inTick = true;
-    link_.event([&](Screen& screen) { screen.tick(*served.timer); });
-    served.inTick = false;
+void TimerSet::tick() {
+    clock_.tick(time_.elapsed(), [this](Screen&, Timer& timer) {
+        link_.event([&](Screen& screen) { screen.tick(timer); });
+    });
+    setAlarm();
 }
 
 }  // namespace quillor

@@ -1,33 +1,31 @@
 // Runs a screen's timers.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QTimer>
-#include <memory>
-#include <vector>
 
 #include "qt/windows/screen_link.h"
-#include "toolkit/screen.h"
+#include "toolkit/timer_clock.h"
 
 namespace quillor {
 
 class TimerSet {
   public:
-    TimerSet(ScreenLink& link, const Screen& screen);
+    TimerSet(ScreenLink& link, Screen& screen);
 
     /// Starts, stops and re-times what has changed.
     void sync();
     void stop();
 
   private:
-    struct Served {
-        Timer* timer;
-        std::unique_ptr<QTimer> clock;
-        bool inTick = false;
-    };
-    void tick(Served& served);
+    void setAlarm();
+    void tick();
 
     ScreenLink& link_;
-    std::vector<Served> served_;
+    Screen& screen_;
+    TimerClock clock_;
+    QElapsedTimer time_;
+    QTimer alarm_;  // for the tick that is due next
 };
 
 }  // namespace quillor

@@ -33,6 +33,24 @@ TEST_F(Accessibility, NamesACaptionThatIsDataAsItStands) {
     EXPECT_EQ(spoken(title).text(QAccessible::Name), "R&B && 100%S");
 }
 
+TEST_F(Accessibility, SaysNothingOfWhatIsHidden) {
+    Frame frame;
+    Label cell;
+    screen.add(frame).place(0, 0, 3000, 3000);
+    addButton(cell, "lblLetter(1)", 0, 0).caption = u"D";
+    cell.parent = &frame;
+    cell.toolTip = u"secret";
+    frame.visible = false;
+    open();
+    EXPECT_EQ(spoken(cell).text(QAccessible::Name), "");
+    EXPECT_EQ(spoken(cell).text(QAccessible::Description), " [#lblLetter(1)]");
+    shell.event([&] { frame.visible = true; });
+    EXPECT_EQ(spoken(cell).text(QAccessible::Name), "D");
+    EXPECT_EQ(spoken(cell).text(QAccessible::Description), "secret [#lblLetter(1)]");
+    shell.event([&] { cell.visible = false; });
+    EXPECT_EQ(spoken(cell).text(QAccessible::Name), "");
+}
+
 TEST_F(Accessibility, NeverSpeaksASymbolsLetter) {
     Label box;
     addButton(box, "lblTick", 0, 0).caption = u"a";

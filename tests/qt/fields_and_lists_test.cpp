@@ -1,7 +1,12 @@
 // Text fields and lists in step with their screen.
+#include <QClipboard>
+#include <QDropEvent>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMimeData>
 
+#include "core/text_rules.h"
 #include "tests/qt/shell_fixture.h"
 
 namespace quillor {
@@ -80,6 +85,59 @@ TEST_F(Fields, AreNoLongerThanAllowed) {
     for (const char c : {'a', 'b', 'c', 'd'})
         type(c);
     EXPECT_EQ(field.text(), u"abc");
+}
+
+TEST_F(Fields, TakeAPasteInOneLine) {
+    field.setText(u"xy");
+    field.setCaret(1);
+    field.maxLength = 8;
+    open();
+    QGuiApplication::clipboard()->setText("\r\nel\r\nsol sale\n");
+    press(Qt::Key_V, Qt::ControlModifier, "\x16");
+    EXPECT_EQ(field.text(), u"xel soly");
+    EXPECT_EQ(edit().text(), "xel soly");
+    EXPECT_EQ(edit().cursorPosition(), 7);
+}
+
+TEST_F(Fields, TakeADropInOneLine) {
+    open();
+    QMimeData dropped;
+    dropped.setText("el\nsol\n");
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &dropped, Qt::LeftButton, {});
+    QApplication::sendEvent(&edit(), &enter);
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &dropped, Qt::LeftButton, {});
+    QApplication::sendEvent(&edit(), &drop);
+    EXPECT_EQ(field.text(), u"el sol");
+    EXPECT_EQ(edit().text(), "el sol");
+}
+
+TEST_F(Fields, UndoAndRedoWhereAHandlerRewritesTheText) {
+    field.onChange = [this] { field.setText(upperCase(field.text())); };
+    open();
+    type('a');
+    type('b');
+    press(Qt::Key_Left);
+    press(Qt::Key_Delete);
+    ASSERT_EQ(edit().text(), "A");
+    press(Qt::Key_Z, Qt::ControlModifier, "\x1a");
+    EXPECT_EQ(edit().text(), "AB");
+    press(Qt::Key_Z, Qt::ControlModifier, "\x1a");
+    EXPECT_EQ(edit().text(), "");
+    press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier, "\x1a");
+    EXPECT_EQ(edit().text(), "AB");
+    EXPECT_EQ(field.text(), u"AB");
+}
+
+TEST_F(Fields, HoldNoTextWhileTheyAreHidden) {
+    field.setText(u"secret");
+    field.setCaret(3);
+    open();
+    shell.event([&] { field.visible = false; });
+    EXPECT_EQ(edit().text(), "");
+    EXPECT_EQ(field.text(), u"secret");
+    shell.event([&] { field.visible = true; });
+    EXPECT_EQ(edit().text(), "secret");
+    EXPECT_EQ(edit().cursorPosition(), 3);
 }
 
 class Lists : public ShellTest {

@@ -5,9 +5,9 @@ namespace quillor {
 
 namespace {
 
-class Focus : public ShellTest {
+class WindowFocus : public ShellTest {
   protected:
-    Focus() {
+    WindowFocus() {
         for (Label* each : {&left, &right, &below})
             each->onClick = [] {};
         addButton(below, "below", 0, 900);
@@ -29,14 +29,14 @@ class Focus : public ShellTest {
     Label below;
 };
 
-TEST_F(Focus, GoesThroughTheWindowInReadingOrder) {
+TEST_F(WindowFocus, GoesThroughTheWindowInReadingOrder) {
     open();
     EXPECT_EQ(focused(), "");
     EXPECT_EQ(tabThrough(4), (Ids{"left", "right", "below", "left"}));
     EXPECT_EQ(tabThrough(2, Qt::Key_Backtab), (Ids{"below", "right"}));
 }
 
-TEST_F(Focus, StopsOnlyAtWhatCanBeUsed) {
+TEST_F(WindowFocus, StopsOnlyAtWhatCanBeUsed) {
     TextField field;
     addField(field, "txt", 0, 1500);
     left.enabled = false;
@@ -45,7 +45,7 @@ TEST_F(Focus, StopsOnlyAtWhatCanBeUsed) {
     EXPECT_EQ(tabThrough(3), (Ids{"right", "txt", "right"}));
 }
 
-TEST_F(Focus, GoesToTheScreensFirstChoiceWhenItsControlIsHidden) {
+TEST_F(WindowFocus, GoesToTheScreensFirstChoiceWhenItsControlIsHidden) {
     screen.firstFocus = &below;
     open();
     press(Qt::Key_Tab);
@@ -54,7 +54,7 @@ TEST_F(Focus, GoesToTheScreensFirstChoiceWhenItsControlIsHidden) {
     EXPECT_EQ(focused(), "below");
 }
 
-TEST_F(Focus, GoesToTheWindowWhenNothingElseIsLeft) {
+TEST_F(WindowFocus, GoesToTheWindowWhenNothingElseIsLeft) {
     screen.firstFocus = &below;
     PageWindow& window = open();
     shell.event([&] { below.enabled = false; });
@@ -63,7 +63,7 @@ TEST_F(Focus, GoesToTheWindowWhenNothingElseIsLeft) {
     EXPECT_TRUE(window.focusWidget()->isEnabled());
 }
 
-TEST_F(Focus, LeavesAFrameThatIsHidden) {
+TEST_F(WindowFocus, LeavesAFrameThatIsHidden) {
     Frame frame;
     Label inside;
     frame.id = "frme";
@@ -79,13 +79,13 @@ TEST_F(Focus, LeavesAFrameThatIsHidden) {
     EXPECT_EQ(focused(), "");
 }
 
-TEST_F(Focus, FollowsTheScreensWish) {
+TEST_F(WindowFocus, FollowsTheScreensWish) {
     open();
     shell.event([&] { screen.setFocus(right); });
     EXPECT_EQ(focused(), "right");
 }
 
-TEST_F(Focus, ComesBackWhenTheScreenIsEnabledAgain) {
+TEST_F(WindowFocus, ComesBackWhenTheScreenIsEnabledAgain) {
     screen.firstFocus = &below;
     open();
     shell.event([&] { screen.setFocus(right); });
@@ -94,7 +94,7 @@ TEST_F(Focus, ComesBackWhenTheScreenIsEnabledAgain) {
     EXPECT_EQ(focused(), "right");
 }
 
-TEST_F(Focus, IsShownOnAButtonOnceTabIsUsed) {
+TEST_F(WindowFocus, IsShownOnAButtonOnceTabIsUsed) {
     open();
     const QImage unfocused = widgetOf(below).grab().toImage();
     shell.event([&] { screen.setFocus(below); });
@@ -105,7 +105,7 @@ TEST_F(Focus, IsShownOnAButtonOnceTabIsUsed) {
     EXPECT_NE(widgetOf(below).grab().toImage(), unfocused);
 }
 
-TEST_F(Focus, IsToldToFieldsOnceEach) {
+TEST_F(WindowFocus, IsToldToFieldsOnceEach) {
     TextField field;
     TextField second;
     addField(field, "txt1", 0, 1500);
@@ -120,7 +120,7 @@ TEST_F(Focus, IsToldToFieldsOnceEach) {
     EXPECT_EQ(told, "+1-1+2");
 }
 
-TEST_F(Focus, IsNotTakenByAClickOnAButton) {
+TEST_F(WindowFocus, IsNotTakenByAClickOnAButton) {
     TextField field;
     screen.firstFocus = &addField(field, "txt", 0, 1500);
     open();

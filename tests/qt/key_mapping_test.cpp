@@ -17,6 +17,27 @@ TEST(KeyMapping, GivesLettersAndDigitsTheirCodes) {
     EXPECT_EQ(virtualKeyCode(pressed(Qt::Key_7)), 55);
 }
 
+// As the keyboards of X11 and Wayland number their keys: 1 is the tenth.
+QKeyEvent digitKey(quint32 scanCode, int key, Qt::KeyboardModifiers modifiers, const char* text) {
+    return QKeyEvent(QEvent::KeyPress, key, modifiers, scanCode, 0, 0, text);
+}
+
+TEST(KeyMapping, GivesTheDigitsKeysTheirCodesWhateverSignTheyType) {
+    EXPECT_EQ(virtualKeyCode(digitKey(10, Qt::Key_Exclam, Qt::ShiftModifier, "!")), 49);
+    EXPECT_EQ(virtualKeyCode(digitKey(11, Qt::Key_QuoteDbl, Qt::ShiftModifier, "\"")), 50);
+    EXPECT_EQ(virtualKeyCode(digitKey(12, Qt::Key_periodcentered, Qt::ShiftModifier, "·")), 51);
+    EXPECT_EQ(virtualKeyCode(digitKey(13, Qt::Key_Apostrophe, {}, "'")), 52);
+    EXPECT_EQ(virtualKeyCode(digitKey(13, Qt::Key_4, Qt::ShiftModifier, "4")), 52);
+    EXPECT_EQ(virtualKeyCode(digitKey(19, Qt::Key_Equal, Qt::ShiftModifier, "=")), 48);
+    EXPECT_EQ(virtualKeyCode(digitKey(20, Qt::Key_Minus, {}, "-")), 0);
+}
+
+TEST(KeyMapping, KnowsAKeyAsTheSameWhateverItTypes) {
+    EXPECT_EQ(keyId(digitKey(10, Qt::Key_Exclam, Qt::ShiftModifier, "!")),
+              keyId(digitKey(10, Qt::Key_1, {}, "1")));
+    EXPECT_NE(keyId(pressed(Qt::Key_A)), keyId(pressed(Qt::Key_B)));
+}
+
 TEST(KeyMapping, TellsTheDigitsOfTheKeypadApart) {
     EXPECT_EQ(virtualKeyCode(pressed(Qt::Key_0, Qt::KeypadModifier)), 96);
     EXPECT_EQ(virtualKeyCode(pressed(Qt::Key_9, Qt::KeypadModifier)), 105);
@@ -35,7 +56,7 @@ TEST(KeyMapping, KnowsTheKeysThatScreensUse) {
 
 TEST(KeyMapping, HandsOnModifiersAndRepetition) {
     const QKeyEvent held(QEvent::KeyPress, Qt::Key_E, Qt::ControlModifier, "\x05", true);
-    const KeyEvent event = toKeyEvent(held);
+    const KeyEvent event = toKeyPress(held).key;
     EXPECT_TRUE(event.onlyControl());
     EXPECT_TRUE(event.autoRepeat);
     EXPECT_FALSE(event.handled);

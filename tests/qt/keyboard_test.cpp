@@ -1,16 +1,16 @@
 // Keys on their way through a window.
-#include <QInputMethodEvent>
 #include <QLineEdit>
 
+#include "core/text_rules.h"
 #include "tests/qt/shell_fixture.h"
 
 namespace quillor {
 
 namespace {
 
-class Keyboard : public ShellTest {
+class WindowKeys : public ShellTest {
   protected:
-    Keyboard() {
+    WindowKeys() {
         screen.keyDownHandler = [this](KeyEvent& event) {
             if (!event.alt && !event.control)
                 log.push_back("down " + std::to_string(event.code));
@@ -21,24 +21,18 @@ class Keyboard : public ShellTest {
         };
     }
 
-    void compose(const QString& text) {
-        QInputMethodEvent event("", {});
-        event.setCommitString(text);
-        QApplication::sendEvent(shell.find(&screen)->focusWidget(), &event);
-    }
-
     using Log = std::vector<std::string>;
     Log log;
     int swallowed = -1;
 };
 
-TEST_F(Keyboard, ReachesTheScreenAsKeyAndAsCharacter) {
+TEST_F(WindowKeys, ReachesTheScreenAsKeyAndAsCharacter) {
     open();
     type('a');
     EXPECT_EQ(log, (Log{"down 65", "press 97"}));
 }
 
-TEST_F(Keyboard, StopsAtAScreenThatHasHandledTheKey) {
+TEST_F(WindowKeys, StopsAtAScreenThatHasHandledTheKey) {
     TextField field;
     screen.firstFocus = &addField(field, "txt", 0, 0);
     field.onKeyDown = [this](KeyEvent&) { log.push_back("field"); };
@@ -49,7 +43,7 @@ TEST_F(Keyboard, StopsAtAScreenThatHasHandledTheKey) {
     EXPECT_EQ(field.text(), u"");
 }
 
-TEST_F(Keyboard, AsksTheFieldBeforeTyping) {
+TEST_F(WindowKeys, AsksTheFieldBeforeTyping) {
     TextField field;
     screen.firstFocus = &addField(field, "txt", 0, 0);
     field.onKeyDown = [this](KeyEvent& event) { event.handled = event.code == 66; };
@@ -60,7 +54,7 @@ TEST_F(Keyboard, AsksTheFieldBeforeTyping) {
     EXPECT_EQ(log, (Log{"down 65", "down 66"}));
 }
 
-TEST_F(Keyboard, LetsTheFilterReplaceAndSwallowCharacters) {
+TEST_F(WindowKeys, LetsTheFilterReplaceAndSwallowCharacters) {
     TextField field;
     screen.firstFocus = &addField(field, "txt", 0, 0);
     field.onKeyPress = [](char16_t c) { return c == u'?' ? char16_t{0} : c == u'a' ? u'A' : c; };
@@ -72,7 +66,7 @@ TEST_F(Keyboard, LetsTheFilterReplaceAndSwallowCharacters) {
     EXPECT_EQ(as<QLineEdit>(field).text(), "Ab");
 }
 
-TEST_F(Keyboard, SendsReturnAndBackspaceThroughTheFilter) {
+TEST_F(WindowKeys, SendsReturnAndBackspaceThroughTheFilter) {
     TextField field;
     field.setText(u"ab");
     field.setCaret(2);
@@ -90,7 +84,7 @@ TEST_F(Keyboard, SendsReturnAndBackspaceThroughTheFilter) {
     EXPECT_EQ(field.text(), u"a");
 }
 
-TEST_F(Keyboard, FiltersComposedCharactersOneByOne) {
+TEST_F(WindowKeys, FiltersComposedCharactersOneByOne) {
     TextField field;
     screen.firstFocus = &addField(field, "txt", 0, 0);
     field.onKeyPress = [](char16_t c) { return c == u'!' ? char16_t{0} : c == u'ñ' ? u'Ñ' : c; };
@@ -99,7 +93,74 @@ TEST_F(Keyboard, FiltersComposedCharactersOneByOne) {
     EXPECT_EQ(field.text(), u"Ñux");
 }
 
-TEST_F(Keyboard, SendsComposedCharactersToTheScreenWhenNoFieldHasTheFocus) {
+TEST_F(WindowKeys, FiltersComposedCharactersInTheTextAsItStandsThen) {
+    TextField field;
+    screen.firstFocus = &addField(field, "txt", 0, 0);
+    field.onKeyPress = [&](char16_t c) {
+        const bool leading = c == u' ' && field.text().empty();
+        return leading ? u'\0' : upperCase(c);
+    };
+    open();
+    compose(" el sol");
+    EXPECT_EQ(field.text(), u"EL SOL");
+    EXPECT_EQ(as<QLineEdit>(field).text(), "EL SOL");
+}
+
+TEST_F(WindowKeys, ReplacesWhatAnInputMethodTakesBack) {
+    TextField field;
+    field.setText(u"hola");
+    field.setCaret(4);
+    screen.firstFocus = &addField(field, "txt", 0, 0);
+    open();
+    QInputMethodEvent event("", {});
+    event.setCommitString("as", -2, 2);
+    QApplication::sendEvent(&widgetOf(field), &event);
+    EXPECT_EQ(field.text(), u"hoas");
+}
+
+TEST_F(WindowKeys, ActsOnceWhileAKeyIsHeld) {
+    open();
+    hold(Qt::Key_F, "f", 3);
+    EXPECT_EQ(log, (Log{"down 70", "press 102"}));
+}
+
+TEST_F(WindowKeys, TypesOnIntoAFieldWhileAKeyIsHeld) {
+    TextField field;
+    screen.firstFocus = &addField(field, "txt", 0, 0);
+    open();
+    hold(Qt::Key_A, "a", 3);
+    EXPECT_EQ(field.text(), u"aaaa");
+}
+
+TEST_F(WindowKeys, DoesNothingOnANewScreenWithAKeyThatIsStillHeld) {
+    PlainScreen next;
+    TextField entry;
+    next.firstFocus = &next.addField(entry, "txt", 0, 0);
+    screen.keyDownHandler = [&](KeyEvent&) {
+        shell.show(next);
+        shell.close(screen);
+    };
+    open();
+    hold(Qt::Key_I, "i", 5);
+    EXPECT_TRUE(shell.isOpen(next));
+    EXPECT_EQ(entry.text(), u"");
+    hold(Qt::Key_I, "i", 1);
+    EXPECT_EQ(entry.text(), u"ii");
+    shell.event([&] { shell.close(next); });
+}
+
+TEST_F(WindowKeys, DoesNothingWithAKeyThatWasHeldWhileABoxWasOpen) {
+    TextField field;
+    screen.firstFocus = &addField(field, "txt", 0, 0);
+    open();
+    hold(Qt::Key_Y, "y", 0);
+    shell.event([&] { shell.modally([] {}); });
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Y, {}, "y", true);
+    QApplication::sendEvent(&widgetOf(field), &held);
+    EXPECT_EQ(field.text(), u"y");
+}
+
+TEST_F(WindowKeys, SendsComposedCharactersToTheScreenWhenNoFieldHasTheFocus) {
     Label button;
     screen.firstFocus = &addButton(button, "lbl", 0, 0);
     open();
@@ -107,7 +168,7 @@ TEST_F(Keyboard, SendsComposedCharactersToTheScreenWhenNoFieldHasTheFocus) {
     EXPECT_EQ(log, Log{"press 241"});
 }
 
-TEST_F(Keyboard, PressesAButtonWithSpaceAndDoesNotTypeIt) {
+TEST_F(WindowKeys, PressesAButtonWithSpaceAndDoesNotTypeIt) {
     Label button;
     screen.firstFocus = &addButton(button, "lbl", 0, 0);
     button.onMouseDown = [this] { log.push_back("mouse down"); };
@@ -118,7 +179,7 @@ TEST_F(Keyboard, PressesAButtonWithSpaceAndDoesNotTypeIt) {
     EXPECT_EQ(log, (Log{"down 32", "mouse down", "mouse up", "click"}));
 }
 
-TEST_F(Keyboard, GivesReturnToTheScreenBeforeTheButton) {
+TEST_F(WindowKeys, GivesReturnToTheScreenBeforeTheButton) {
     Label button;
     screen.firstFocus = &addButton(button, "lbl", 0, 0);
     button.onClick = [this] { log.push_back("click"); };
@@ -129,7 +190,7 @@ TEST_F(Keyboard, GivesReturnToTheScreenBeforeTheButton) {
     EXPECT_EQ(log, (Log{"down 13", "click", "down 13"}));
 }
 
-TEST_F(Keyboard, TypesOnTheScreenWhileAButtonHasTheFocus) {
+TEST_F(WindowKeys, TypesOnTheScreenWhileAButtonHasTheFocus) {
     Label button;
     screen.firstFocus = &addButton(button, "lbl", 0, 0);
     button.onClick = [this] { log.push_back("click"); };
@@ -138,7 +199,7 @@ TEST_F(Keyboard, TypesOnTheScreenWhileAButtonHasTheFocus) {
     EXPECT_EQ(log, (Log{"down 75", "press 107"}));
 }
 
-TEST_F(Keyboard, ClicksByAccessKeyWhatIsVisibleAndEnabled) {
+TEST_F(WindowKeys, ClicksByAccessKeyWhatIsVisibleAndEnabled) {
     Label first;
     Label second;
     addButton(first, "lbl1", 0, 0).caption = u"&ADD";
@@ -153,7 +214,7 @@ TEST_F(Keyboard, ClicksByAccessKeyWhatIsVisibleAndEnabled) {
     EXPECT_EQ(log, Log{"second"});
 }
 
-TEST_F(Keyboard, FindsNoAccessKeyInACaptionThatIsData) {
+TEST_F(WindowKeys, FindsNoAccessKeyInACaptionThatIsData) {
     Label title;
     addButton(title, "lbl", 0, 0).caption = u"R&B";
     title.literal = true;
@@ -163,7 +224,7 @@ TEST_F(Keyboard, FindsNoAccessKeyInACaptionThatIsData) {
     EXPECT_EQ(log, Log{});
 }
 
-TEST_F(Keyboard, SurvivesAScreenThatClosesItselfInTheMiddle) {
+TEST_F(WindowKeys, SurvivesAScreenThatClosesItselfInTheMiddle) {
     TextField field;
     screen.firstFocus = &addField(field, "txt", 0, 0);
     field.onKeyPress = [this](char16_t c) {
@@ -177,7 +238,7 @@ TEST_F(Keyboard, SurvivesAScreenThatClosesItselfInTheMiddle) {
     EXPECT_EQ(field.text(), u"");
 }
 
-TEST_F(Keyboard, LeavesTheClipboardToAFieldThatDoesNotTakeIt) {
+TEST_F(WindowKeys, LeavesTheClipboardToAFieldThatDoesNotTakeIt) {
     TextField field;
     field.setText(u"abc");
     field.selectAll();

@@ -1,6 +1,8 @@
 // A screen whose every part a test sets itself, in a real window.
 #pragma once
 
+#include <QApplication>
+#include <QInputMethodEvent>
 #include <QTest>
 #include <string>
 #include <vector>
@@ -47,6 +49,18 @@ class ShellTest : public ::testing::Test {
         QWidget* target = page->focusWidget() ? page->focusWidget() : page;
         QTest::sendKeyEvent(QTest::Press, target, key, text, modifiers);
         QTest::sendKeyEvent(QTest::Release, target, key, text, modifiers);
+    }
+    /// The same without letting go: the key repeats so many times.
+    void hold(Qt::Key key, const QString& text, int repeats) {
+        for (int i = 0; i <= repeats; ++i) {
+            QKeyEvent event(QEvent::KeyPress, key, {}, text, i > 0);
+            QApplication::sendEvent(shell.front()->focusWidget(), &event);
+        }
+    }
+    void compose(const QString& text) {
+        QInputMethodEvent event("", {});
+        event.setCommitString(text);
+        QApplication::sendEvent(shell.find(&screen)->focusWidget(), &event);
     }
     void type(QChar character) {
         press(static_cast<Qt::Key>(character.toUpper().unicode()), {}, character);

@@ -92,6 +92,13 @@ TEST_F(Windows, OpenTheScreensMenuWhereNothingElseTakesARightClick) {
     EXPECT_EQ(menus, 4);
 }
 
+TEST_F(Windows, KeepTheBlanksAroundAToolTip) {
+    Label button;
+    addButton(button, "lbl", 0, 0).toolTip = u" Save it ";
+    open();
+    EXPECT_EQ(widgetOf(button).toolTip(), " Save it ");
+}
+
 TEST_F(Windows, TakeNoMouseWhileTheScreenIsDisabled) {
     Label button;
     addButton(button, "lbl", 0, 0);
