@@ -28,7 +28,7 @@ class frmMenu : public Screen {
     void onCloseRequest() override { program_.end(); }
 
   private:
-    void layOut();  // menu_layout.cpp
+    void layOut();
     void connect();
     void eTranslate();
     void eFallColor();

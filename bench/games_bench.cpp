@@ -8,7 +8,7 @@
 
 #include "core/random.h"
 #include "game/game_screen.h"
-#include "topics/register_screens.h"
+#include "topics/topics.h"
 
 namespace quillor {
 

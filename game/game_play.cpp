@@ -3,12 +3,11 @@
 #include "core/settings_file.h"
 #include "core/text_rules.h"
 #include "game/game_screen.h"
-#include "game/rules/ending.h"
 #include "game/rules/guess.h"
 #include "game/rules/scoring.h"
 #include "game/rules/ways.h"
 #include "toolkit/style.h"
-#include "topics/choice.h"
+#include "topics/topics.h"
 
 namespace quillor {
 

@@ -10,11 +10,10 @@
 #include "game/score_line.h"
 #include "game/status.h"
 #include "toolkit/screen.h"
-#include "ui/accent.h"
+#include "ui/colors.h"
 #include "ui/figure.h"
 #include "ui/game_menu.h"
 #include "ui/sounds.h"
-#include "ui/web_search.h"
 
 namespace quillor {
 

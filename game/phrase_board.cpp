@@ -3,7 +3,7 @@
 
 #include "core/numbers.h"
 #include "core/texts.h"
-#include "ui/letter_design.h"
+#include "ui/colors.h"
 
 namespace quillor {
 

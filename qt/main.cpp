@@ -20,7 +20,7 @@
 #include "qt/system/system_disk.h"
 #include "qt/tour/tour_script.h"
 #include "qt/windows/qt_values.h"
-#include "topics/register_screens.h"
+#include "topics/topics.h"
 #include "ui/settings_screen.h"
 
 namespace quillor {

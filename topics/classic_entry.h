@@ -19,7 +19,7 @@ class frmWord1 : public EntryScreen {
     void onLoad() override;
 
   private:
-    void layOut();  // classic_entry_layout.cpp
+    void layOut();
     void connect();
     void eTranslate();
     char16_t eCheck_Key(char16_t character) const;

@@ -21,7 +21,7 @@ class frmWord2 : public EntryScreen {
     void onLoad() override;
 
   private:
-    void layOut();  // topic_selection_layout.cpp, as is the next one
+    void layOut();
     void layOutModes();
     void connect();
     void eTranslate();

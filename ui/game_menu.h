@@ -1,4 +1,5 @@
-// The game's menu: its entries, each with its key and what it does.
+// The game's menu: its entries, each with its key and what it does; and the offer
+// to look the answer up.
 #pragma once
 
 #include <array>
@@ -70,6 +71,23 @@ class GameMenu {
     Program& program_;
     std::array<MenuItem, 5> separators_;
     const std::vector<Entry> entries_;
+};
+
+/// "What is that?", at the end of a game.
+class WebSearch {
+  public:
+    explicit WebSearch(Program& program);
+
+    ControlArray<Label, 0, 1> lblFinder{"lblFinder"};  // 0 the caption, 1 the face around it
+    Shape shpFinder;
+
+    void offer(bool shown);
+    void eTranslate();
+    /// Opens the search of the last answer: lower case, otherwise as it stands.
+    void lblFinder_Click();
+
+  private:
+    Program& program_;
 };
 
 }  // namespace quillor

@@ -4,7 +4,7 @@
 
 #include "app/program.h"
 #include "toolkit/screen.h"
-#include "ui/letter_design.h"
+#include "ui/colors.h"
 
 namespace quillor {
 

@@ -1,5 +1,5 @@
-// A guessed key: letters uncovered, or a mistake; and the hint, which guesses
-// for the player.
+// What a player does to the phrase, by letters, by the hint or by the whole
+// answer; and the one step that closes every game.
 #pragma once
 
 #include "game/rules/round.h"
@@ -17,5 +17,14 @@ enum class Hint { PhraseTooShort, NoSingleLetter, Given, Won };
 
 /// Uncovers the first character that occurs once in the phrase.
 Hint eHelpLetter(GameSettings& settings, Round& round);
+
+/// Judges a typed answer: right wins, anything else kills. Blank input is no
+/// attempt, and nothing happens while no game is being played.
+Happened judgeAnswer(GameSettings& settings, const Round& round, TextView typed);
+
+/// Closes the game that was just Won, or in which the player just Died: sets its
+/// state, counts it, uncovers the phrase, settles the score and moves a tour on.
+/// Returns whether that completed the tour.
+bool eFinalStep(GameSettings& settings, Round& round, Happened how);
 
 }  // namespace quillor

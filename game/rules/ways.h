@@ -1,4 +1,5 @@
-// Where the next phrase comes from: the five selection ways and the tour.
+// Where the next phrase comes from: the five selection ways, the tour, and the
+// dealing of a phrase, never the last one again.
 #pragma once
 
 #include <cstdint>
@@ -28,5 +29,15 @@ bool moveTourOn(GameSettings& settings);
 
 /// "Tour 2/5": the place of the current topic in the tour.
 Text ePutWhere(const GameSettings& settings);
+
+enum class Deal {
+    TooFewPhrases,  // nothing has changed
+    Dealt,
+    DealtAndCut,  // and the phrase was too long for the board
+};
+
+/// Deals a phrase of the topic: phrase, topic name and topic are in the record
+/// then. Throws std::out_of_range for a topic that there is not.
+Deal dealFrom(GameSettings& settings, std::int16_t topicIndex, const Chance& chance);
 
 }  // namespace quillor

@@ -11,7 +11,7 @@
 #include "tests/support/fake_desktop.h"
 #include "tests/support/player.h"
 #include "tests/support/temp_folder.h"
-#include "topics/register_screens.h"
+#include "topics/topics.h"
 #include "ui/settings_screen.h"
 
 namespace quillor::testing {

@@ -10,7 +10,7 @@
 #include "game/game_screen.h"
 #include "tests/support/open_program.h"
 #include "toolkit/caption.h"
-#include "topics/register_screens.h"
+#include "topics/topics.h"
 #include "ui/settings_screen.h"
 
 namespace quillor::testing {

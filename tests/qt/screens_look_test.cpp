@@ -8,7 +8,7 @@
 #include "qt/paint/label_painter.h"
 #include "qt/windows/page_window.h"
 #include "tests/support/game_test.h"
-#include "ui/letter_design.h"
+#include "ui/colors.h"
 
 namespace quillor::testing {
 

@@ -13,8 +13,8 @@
 #include "core/text_codec.h"
 #include "game/game_screen.h"
 #include "tests/support/open_program.h"
-#include "topics/register_screens.h"
 #include "topics/topic_selection.h"
+#include "topics/topics.h"
 #include "ui/settings_screen.h"
 
 namespace quillor::testing {

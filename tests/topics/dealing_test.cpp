@@ -1,6 +1,6 @@
 // Dealing a phrase: which topics qualify, which phrase comes, what the game is told.
 #include "tests/topics/topics_fixture.h"
-#include "topics/choice.h"
+#include "topics/topics.h"
 
 namespace quillor::testing {
 namespace {

@@ -213,8 +213,7 @@ TEST_F(Inventor, GoesBackToTheMenuWithItsPaper) {
     player.click("lblBack");
     EXPECT_EQ(program.find(ScreenId::Inventor), nullptr);
     EXPECT_EQ(player.screen().name, "frmMenu");
-    EXPECT_EQ(player.screen().as<Picture>(&controlOf(player.screen().controls()[0]))->image,
-              paper);
+    EXPECT_EQ(player.screen().as<Picture>(&controlOf(player.screen().controls()[0]))->image, paper);
 }
 
 TEST_F(Inventor, GoesBackOnBackspaceAtTheStartOfTheTopicOnly) {

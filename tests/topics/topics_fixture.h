@@ -7,8 +7,8 @@
 #include "tests/support/open_program.h"
 #include "topics/classic_entry.h"
 #include "topics/inventor.h"
-#include "topics/register_screens.h"
 #include "topics/topic_selection.h"
+#include "topics/topics.h"
 
 namespace quillor::testing {
 

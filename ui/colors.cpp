@@ -1,5 +1,5 @@
 // The drift keeps white text on the accent readable.
-#include "ui/accent.h"
+#include "ui/colors.h"
 
 #include <utility>
 
@@ -17,6 +17,23 @@ constexpr int kDriftHigh = 240;
 constexpr double kDriftContrast = 3.1;
 
 }  // namespace
+
+// An odd design inks in colour; from 2 on, the ink fills the cell.
+namespace {
+constexpr Twips kPenShare = 11;  // letters are this often as high as their line is thick
+}
+
+void paintLetter(Label& letter, Line& underline, int design, const GameSettings& settings) {
+    const bool filled = design >= 2;
+    const Color ink = design % 2 == 1 ? settings.glTheme : settings.glBlack;
+    const Twips below = letter.bottom() - underline.y1;
+    underline.color = ink;
+    underline.thickness = filled ? 2 * below : letter.height / kPenShare;
+    underline.roundEnds = !filled;
+    letter.textColor = filled ? settings.glWhite : ink;
+    letter.backColor = ink;
+    letter.opaque = filled;
+}
 
 double whiteTextContrast(Color background) {
     return contrast(rgb(250, 250, 250), background);

@@ -1,4 +1,5 @@
-// The accent colour of the game screen: its flashes and its slow drift.
+// The designs of the player's letters, and the accent colour of the game screen
+// with its flashes and its slow drift.
 #pragma once
 
 #include <array>
@@ -7,6 +8,12 @@
 #include "app/program.h"
 
 namespace quillor {
+
+inline constexpr int kDesigns = 4;
+
+/// Paints a letter and the line under it in one of the designs: 0 black ink,
+/// 1 ink of the theme's colour, 2 white on black, 3 white on the theme's colour.
+void paintLetter(Label& letter, Line& underline, int design, const GameSettings& settings);
 
 class Accent {
   public:

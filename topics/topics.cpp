@@ -1,8 +1,13 @@
-#include "topics/choice.h"
+#include "topics/topics.h"
+
+#include <memory>
 
 #include "core/guard.h"
 #include "core/settings_file.h"
-#include "game/rules/dealing.h"
+#include "game/rules/ways.h"
+#include "topics/classic_entry.h"
+#include "topics/inventor.h"
+#include "topics/topic_selection.h"
 
 namespace quillor {
 
@@ -38,6 +43,15 @@ bool eChoiceTopic(Program& program, std::int16_t topicIndex, std::int16_t way) {
     if (!done)
         program.desktop.messageBox(MessageIcon::Critical, program.lang(texts::kTopicsError));
     return done && deal != Deal::TooFewPhrases;
+}
+
+void addTopicScreens(Program& program) {
+    program.addScreen(ScreenId::Word1,
+                      [](Program& owner) { return std::make_unique<frmWord1>(owner); });
+    program.addScreen(ScreenId::Word2,
+                      [](Program& owner) { return std::make_unique<frmWord2>(owner); });
+    program.addScreen(ScreenId::Inventor,
+                      [](Program& owner) { return std::make_unique<frmInventor>(owner); });
 }
 
 }  // namespace quillor

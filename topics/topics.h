@@ -1,4 +1,5 @@
-// The choice of a topic by the player, or by the game itself.
+// What the rest of the program needs of this folder: its screens, and the choice
+// of a topic by the player or by the game itself.
 #pragma once
 
 #include <cstdint>
@@ -6,6 +7,9 @@
 #include "app/program.h"
 
 namespace quillor {
+
+/// Makes classic entry, topic selection and inventor known to the program.
+void addTopicScreens(Program& program);
 
 /// Deals a phrase of the topic and takes the selection way over, which is saved.
 /// Returns whether there is a game to play now; otherwise a box has said why not:
