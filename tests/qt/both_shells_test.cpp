@@ -18,7 +18,7 @@
 #include "qt/windows/shell.h"
 #include "tests/support/open_program.h"
 #include "toolkit/shown_control.h"
-#include "topics/register_screens.h"
+#include "topics/topics.h"
 #include "ui/settings_screen.h"
 
 namespace quillor::testing {
