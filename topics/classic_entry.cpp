@@ -24,10 +24,8 @@ frmWord1::frmWord1(Program& program) : EntryScreen("frmWord1", program) {
 
 void frmWord1::connect() {
     txtWord.onKeyPress = [this](char16_t character) { return txtWord_KeyPress(character); };
-    txtWord.onKeyDown = [this](KeyEvent& event) { field_KeyDown(event); };
     txtWord.onChange = [this] { enableAccept(!trimmed(txtWord.text()).empty()); };
     txtTheme.onKeyPress = [this](char16_t character) { return txtTheme_KeyPress(character); };
-    txtTheme.onKeyDown = [this](KeyEvent& event) { field_KeyDown(event); };
     txtTheme.onChange = [this] { txtTheme_Change(); };
     txtTheme.onGotFocus = [this] { txtTheme_GotFocus(); };
     txtTheme.onLostFocus = [this] { txtTheme_LostFocus(); };
@@ -91,12 +89,6 @@ void frmWord1::txtTheme_GotFocus() {
 void frmWord1::txtTheme_LostFocus() {
     if (txtTheme.text().empty())
         txtTheme.setText(placeholder());
-}
-
-// A held Return is one press: it must not run on through the topic.
-void frmWord1::field_KeyDown(KeyEvent& event) {
-    if (event.code == key::kReturn)
-        event.handled = event.autoRepeat;
 }
 
 void frmWord1::lblOk_Click() {

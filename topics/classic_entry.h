@@ -28,7 +28,6 @@ class frmWord1 : public EntryScreen {
     void txtTheme_Change();
     void txtTheme_GotFocus();
     void txtTheme_LostFocus();
-    void field_KeyDown(KeyEvent& event);
     void lblOk_Click();
     Text placeholder() const { return program_.lang(texts::kNoTopic); }
 };

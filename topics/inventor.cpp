@@ -17,14 +17,6 @@ namespace {
 
 constexpr int kCounted = 50;
 
-// A line break that was pasted would make two lines of one.
-Text oneLine(Text text) {
-    std::replace_if(
-        text.begin(), text.end(),
-        [](char16_t character) { return character == u'\r' || character == u'\n'; }, u' ');
-    return text;
-}
-
 // As it is derived from a topic's name.
 Text fileNameFor(TextView topic) {
     return besideDevices(withoutForbidden(upperCase(topic)));
@@ -170,9 +162,6 @@ char16_t frmInventor::txtWord_KeyPress(char16_t character) {
 }
 
 void frmInventor::txtWord_KeyDown(KeyEvent& event) {
-    // The Return that left the topic name, still held, adds nothing.
-    if (event.code == key::kReturn && event.autoRepeat)
-        event.handled = true;
     if (!event.onlyControl())
         return;
     switch (event.code) {
@@ -209,10 +198,10 @@ void frmInventor::paste() {
 void frmInventor::lstTopics_KeyDown(KeyEvent& event) {
     if (event.code == key::kDelete)
         lblDel_Click();
-    else if (event.code != key::kReturn)
-        return;
-    else if (!event.autoRepeat)
+    else if (event.code == key::kReturn)
         lblSave_Click();
+    else
+        return;
     event.handled = true;
 }
 
@@ -255,11 +244,11 @@ void frmInventor::lblSave_Click() {
 void frmInventor::saveTopic() {
     txtFile.setText(besideDevices(txtFile.text()));
     std::vector<Text> lines;
-    lines.push_back(oneLine(upperCase(txtTheme.text())));
+    lines.push_back(upperCase(txtTheme.text()));
     if (!settings_.gbEnglish)
         lines.front() += u" " + lowerCase(texts::kSpanishTag);
     for (const Text& phrase : lstTopics.items)
-        lines.push_back(lowerCase(trimmed(oneLine(phrase))));
+        lines.push_back(lowerCase(trimmed(phrase)));
     writeLines(topicFolder(settings_, program_.folder) / toPath(txtFile.text() + u".txt"), lines);
 }
 

@@ -72,11 +72,7 @@ void frmWord2::eChangeMode(int step) {
 void frmWord2::lstTopics_KeyDown(KeyEvent& event) {
     switch (event.code) {
         case key::kReturn:
-            if (!event.autoRepeat)
-                lblOk_Click();
-            break;
-        case key::kEscape:
-            program_.close(*this);
+            lblOk_Click();
             break;
         case key::kRight:
             eChangeMode(+1);
