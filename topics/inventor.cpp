@@ -9,6 +9,7 @@
 #include "core/numbers.h"
 #include "core/text_rules.h"
 #include "core/topic_library.h"
+#include "toolkit/press_feedback.h"
 #include "topics/file_name.h"
 
 namespace quillor {
@@ -57,15 +58,11 @@ void frmInventor::connectButtons() {
     lblBack.onClick = [this] { lblBack_Click(); };
     for (Label& label : lblSave) {
         label.onClick = [this] { lblSave_Click(); };
-        label.onMouseDown = [this] { shpSave.backColor = settings_.glGreen; };
-        label.onMouseUp = [this] { shpSave.backColor = settings_.glRed; };
+        showPress(label, shpSave.backColor, settings_.glGreen, settings_.glRed);
     }
-    lblBack.onMouseDown = [this] { shpBack.backColor = settings_.glGreen; };
-    lblBack.onMouseUp = [this] { shpBack.backColor = settings_.glRed; };
-    for (Label* label : {&lblOk, &lblDel, &lblHelp}) {
-        label->onMouseDown = [this, label] { label->textColor = settings_.glGrey; };
-        label->onMouseUp = [this, label] { label->textColor = settings_.glWhite; };
-    }
+    showPress(lblBack, shpBack.backColor, settings_.glGreen, settings_.glRed);
+    for (Label* label : {&lblOk, &lblDel, &lblHelp})
+        showPress(*label, label->textColor, settings_.glGrey, settings_.glWhite);
 }
 
 void frmInventor::onLoad() {
