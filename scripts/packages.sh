@@ -12,7 +12,7 @@
     packages_test=(libgtest-dev libgmock-dev libbenchmark-dev xdotool imagemagick at-spi2-core
         weston python3 python3-gi python3-xlib)
     # One version of the formatter, because each formats a little differently.
-    packages_check=(clang-format-14 clang-tidy-14)
+    packages_check=(clang-format-14 clang-tidy-14 shellcheck)
 }
 
 as_root() {
@@ -68,9 +68,10 @@ GoogleTest and Google Benchmark, and its window tests (Linux only) an X server i
 END
 }
 
-# Compiles through ccache where it is installed.
+# Compiles through ccache where it is installed, precompiled headers too.
 use_ccache() {
     command -v ccache >/dev/null || return 0
+    export CCACHE_SLOPPINESS="${CCACHE_SLOPPINESS-pch_defines,time_macros}"
     export CMAKE_C_COMPILER_LAUNCHER="${CMAKE_C_COMPILER_LAUNCHER-ccache}"
     export CMAKE_CXX_COMPILER_LAUNCHER="${CMAKE_CXX_COMPILER_LAUNCHER-ccache}"
 }
