@@ -28,7 +28,8 @@ FontBook::FontBook(const std::vector<std::filesystem::path>& folders) {
     for (const std::filesystem::path& folder : folders) {
         const QDir directory(toQt(fromPath(folder)));
         for (const QString& name : directory.entryList({"*.ttf", "*.otf"}, QDir::Files, QDir::Name))
-            load(directory.filePath(name));
+            if (isFile(folder / toPath(fromQt(name))))  // what a link leads to may be a pipe
+                load(directory.filePath(name));
     }
 }
 
