@@ -54,7 +54,10 @@ void Focus::step(int by) {
     int to = by > 0 ? 0 : count - 1;
     if (current != order.end())
         to = (static_cast<int>(current - order.begin()) + by + count) % count;
-    moveTo(order[static_cast<std::size_t>(to)]);
+    Control* control = order[static_cast<std::size_t>(to)];
+    if (auto* field = screen_.as<TextField>(control); field && control != control_)
+        field->selectAll();
+    moveTo(control);
 }
 
 }  // namespace quillor

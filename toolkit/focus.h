@@ -24,7 +24,8 @@ class Focus {
     void settle();
     /// The player has chosen a control by the mouse. Nothing happens at one that cannot be used.
     void take(Control& control);
-    /// Tab: on to the next control in reading order, and round.
+    /// Tab: on to the next control in reading order, and round. What is in a field that
+    /// is entered so is selected.
     void next() { step(1); }
     void previous() { step(-1); }
 

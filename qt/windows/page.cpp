@@ -135,11 +135,18 @@ void Page::sync() {
 }
 
 // To the page itself while no control has it: from there keys reach the screen too.
+// What the player has just clicked at is left the focus: the toolkit hears of it only
+// after the control that loses it has.
 void Page::giveFocus() {
-    if (!entered_ || !screen_->enabled)
+    if (!entered_ || !screen_->enabled) {
+        given_ = nullptr;
         return;
+    }
     const Control* control = link_.focus().control();
     QWidget* wanted = control ? &view(*control)->widget() : this;
+    if (wanted == given_ && focusWidget())
+        return;
+    given_ = wanted;
     if (wanted != focusWidget())
         wanted->setFocus(Qt::OtherFocusReason);
 }
@@ -151,6 +158,7 @@ void Page::enter() {
 
 void Page::leave() {
     entered_ = false;
+    given_ = nullptr;
 }
 
 bool Page::focusNextPrevChild(bool next) {

@@ -69,6 +69,7 @@ class Page : public QWidget {
     std::unordered_map<const Control*, ControlView*> viewOf_;
     TimerSet timers_;
     TwipScale scale_;
+    const QWidget* given_ = nullptr;  // what the focus was given to last
     bool entered_ = false;
 };
 

@@ -120,6 +120,20 @@ TEST_F(WindowFocus, IsToldToFieldsOnceEach) {
     EXPECT_EQ(told, "+1-1+2");
 }
 
+TEST_F(WindowFocus, IsTakenByAClickOnAFieldWhateverTheFieldBeforeSays) {
+    TextField first;
+    TextField second;
+    first.setText(u"abc");
+    first.selectAll();
+    screen.firstFocus = &addField(first, "txt1", 0, 1500);
+    addField(second, "txt2", 0, 2100);
+    open();
+    QTest::mouseClick(&widgetOf(second), Qt::LeftButton);
+    EXPECT_EQ(focused(), "txt2");
+    type('x');
+    EXPECT_EQ(second.text(), u"x");
+}
+
 TEST_F(WindowFocus, IsNotTakenByAClickOnAButton) {
     TextField field;
     screen.firstFocus = &addField(field, "txt", 0, 1500);

@@ -108,6 +108,17 @@ TEST_F(ScreenFocus, IsToldToFieldsOnceEach) {
     EXPECT_EQ(told, "+1-1+2");
 }
 
+TEST_F(ScreenFocus, SelectsWhatIsInAFieldThatTabEnters) {
+    TextField field;
+    field.setText(u"sol");
+    screen.addField(field, "txt", 0, 1500);
+    focus.take(field);
+    EXPECT_EQ(field.selectedText(), u"");
+    focus.previous();
+    focus.next();
+    EXPECT_EQ(field.selectedText(), u"sol");
+}
+
 TEST_F(ScreenFocus, GrantsAWishThatAFieldHasOnItsWay) {
     TextField first;
     screen.addField(first, "txt1", 0, 1500);
