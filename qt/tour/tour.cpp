@@ -68,13 +68,13 @@ void moveOnto(QWidget& widget) {
         postMouse(widget, QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton);
 }
 
-// Not every desktop tells a program where its windows stand; a dialog opens in
-// the middle of its owner.
+// Wayland does not tell a program where its windows stand; a dialog appears in the
+// middle of its owner there.
 QRect placeOf(const QWidget& window) {
     QRect place = window.geometry();
-    const auto* dialog = dynamic_cast<const PageWindow*>(&window);
-    if (dialog && dialog->isDialog())
-        place.moveCenter(dialog->parentWidget()->geometry().center());
+    const bool unknown = QGuiApplication::platformName().startsWith("wayland");
+    if (unknown && window.windowType() == Qt::Dialog && window.parentWidget() != nullptr)
+        place.moveCenter(window.parentWidget()->geometry().center());
     return place;
 }
 
