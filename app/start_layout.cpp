@@ -1,7 +1,6 @@
 // Where everything on the start screen stands, in twips.
 #include "app/start_screen.h"
 #include "toolkit/style.h"
-#include "toolkit/symbols.h"
 
 namespace quillor {
 

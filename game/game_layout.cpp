@@ -2,7 +2,6 @@
 // at rest. Later controls stand in front of earlier ones.
 #include "game/game_screen.h"
 #include "toolkit/style.h"
-#include "toolkit/symbols.h"
 
 namespace quillor {
 

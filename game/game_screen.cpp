@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "toolkit/press_feedback.h"
+#include "toolkit/style.h"
 
 namespace quillor {
 

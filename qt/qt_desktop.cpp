@@ -7,14 +7,13 @@
 #include <QGuiApplication>
 #include <QProcess>
 #include <QTime>
+#include <QUrl>
 #include <chrono>
 #include <utility>
 
 #include "core/texts.h"
 #include "qt/boxes/popup_menu.h"
 #include "qt/paint/picture_loader.h"
-#include "qt/system/address.h"
-#include "qt/system/carried_sounds.h"
 #include "qt/system/platform.h"
 #include "qt/windows/page_window.h"
 #include "qt/windows/qt_values.h"
@@ -123,7 +122,7 @@ void QtDesktop::openAddress(TextView page, TextView sought) {
 }
 
 std::span<const std::byte> QtDesktop::sound(int id) {
-    return carriedSound(id);
+    return platform::carriedSound(id);
 }
 
 void QtDesktop::playWave(std::span<const std::byte> image) {
@@ -173,6 +172,11 @@ void QtDesktop::startProgram() {
 
 void QtDesktop::end() {
     shell_.end();
+}
+
+// All signs of the phrase are encoded but those that an address may bear anywhere.
+QString encodedAddress(TextView page, TextView sought) {
+    return toQt(page) + QString::fromLatin1(QUrl::toPercentEncoding(toQt(sought), "/:,;@!$'()*"));
 }
 
 }  // namespace quillor

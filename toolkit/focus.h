@@ -1,5 +1,8 @@
-// Which control of a shown screen the keys go to.
+// Which control of a shown screen the keys go to, and the order in which Tab goes
+// through them.
 #pragma once
+
+#include <vector>
 
 #include "toolkit/screen.h"
 
@@ -36,5 +39,9 @@ class Focus {
     Screen& screen_;
     Control* control_ = nullptr;
 };
+
+/// The buttons, fields and lists that take Tab now: row by row from the top, each row
+/// from the left.
+std::vector<Control*> readingOrder(const Screen& screen);
 
 }  // namespace quillor

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "core/text_rules.h"
-#include "toolkit/caption.h"
+#include "toolkit/controls.h"
 
 namespace quillor {
 

@@ -4,7 +4,7 @@
 
 #include <utility>
 
-#include "toolkit/caption.h"
+#include "toolkit/controls.h"
 
 namespace quillor {
 

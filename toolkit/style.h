@@ -39,3 +39,36 @@ inline constexpr Font kField{Face::Plain, 14, false};
 inline constexpr Font kSymbol{Face::Webdings, 20, false};
 
 }  // namespace quillor::style
+
+/// The letters of the symbol fonts that serve as captions. On every system the
+/// shell draws the picture that the letter stands for, not the letter.
+namespace quillor::symbols {
+
+// In the face Webdings.
+inline constexpr TextView kTick = u"a";
+inline constexpr TextView kLoudspeaker = u"U";
+inline constexpr TextView kLoudspeakerOff = u"V";
+inline constexpr TextView kCross = u"r";
+inline constexpr TextView kQuestion = u"s";
+inline constexpr TextView kTriangleLeft = u"3";
+inline constexpr TextView kTriangleRight = u"4";
+inline constexpr TextView kMagnifier = u"L";
+
+// In the face Wingdings.
+inline constexpr TextView kArrowLeft = u"ß";
+inline constexpr TextView kPlus = u"Ë";
+inline constexpr TextView kDelete = u"û";
+
+}  // namespace quillor::symbols
+
+namespace quillor {
+
+/// While the left button is down on the label, `painted` is in the colour
+/// `pressed`, after it in `atRest`. All three are referred to: they outlive the
+/// label's handlers.
+inline void showPress(Label& label, Color& painted, const Color& pressed, const Color& atRest) {
+    label.onMouseDown = [&painted, &pressed] { painted = pressed; };
+    label.onMouseUp = [&painted, &atRest] { painted = atRest; };
+}
+
+}  // namespace quillor

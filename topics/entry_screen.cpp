@@ -1,7 +1,7 @@
 // Looks, wiring and texts of what both screens have.
 #include "topics/entry_screen.h"
 
-#include "toolkit/press_feedback.h"
+#include "toolkit/style.h"
 
 namespace quillor {
 

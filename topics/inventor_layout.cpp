@@ -1,6 +1,5 @@
 // Where everything on the inventor stands, in twips.
 #include "toolkit/style.h"
-#include "toolkit/symbols.h"
 #include "topics/inventor.h"
 
 namespace quillor {

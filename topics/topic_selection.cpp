@@ -2,8 +2,7 @@
 #include "topics/topic_selection.h"
 
 #include "core/text_rules.h"
-#include "toolkit/press_feedback.h"
-#include "toolkit/symbols.h"
+#include "toolkit/style.h"
 #include "topics/topics.h"
 
 namespace quillor {

@@ -4,7 +4,7 @@
 #include "config/version.h"
 #include "core/files.h"
 #include "core/text_rules.h"
-#include "toolkit/press_feedback.h"
+#include "toolkit/style.h"
 
 namespace quillor {
 

@@ -1,6 +1,5 @@
 // Where everything on the settings screen stands, in twips.
 #include "toolkit/style.h"
-#include "toolkit/symbols.h"
 #include "ui/settings_screen.h"
 
 namespace quillor {

@@ -5,8 +5,7 @@
 
 #include "core/settings_file.h"
 #include "core/text_rules.h"
-#include "toolkit/press_feedback.h"
-#include "toolkit/symbols.h"
+#include "toolkit/style.h"
 
 namespace quillor {
 

@@ -4,8 +4,7 @@
 #include <stdexcept>
 
 #include "core/guard.h"
-#include "toolkit/press_feedback.h"
-#include "toolkit/symbols.h"
+#include "toolkit/style.h"
 
 namespace quillor {
 

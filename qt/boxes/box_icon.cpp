@@ -7,7 +7,6 @@
 #include "qt/paint/symbol_painter.h"
 #include "qt/windows/qt_values.h"
 #include "toolkit/style.h"
-#include "toolkit/symbols.h"
 
 namespace quillor {
 

@@ -12,7 +12,6 @@
 #include "qt/windows/qt_values.h"
 #include "toolkit/contrast.h"
 #include "toolkit/style.h"
-#include "toolkit/symbols.h"
 
 namespace quillor {
 

@@ -6,7 +6,7 @@
 #include <map>
 #include <utility>
 
-#include "toolkit/symbols.h"
+#include "toolkit/style.h"
 
 namespace quillor {
 

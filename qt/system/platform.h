@@ -3,7 +3,9 @@
 
 #include <QString>
 #include <QStringList>
+#include <cstddef>
 #include <filesystem>
+#include <span>
 
 class QWidget;
 
@@ -28,5 +30,9 @@ std::filesystem::path userDataFolder();
 
 /// Shows the system's own about box. False where the system has none.
 bool showSystemAbout(QWidget* parent, const QString& title, const QString& text);
+
+/// The sound 101..107 as a whole WAVE image, which stays for the whole run;
+/// empty when there is none of that number.
+std::span<const std::byte> carriedSound(int id);
 
 }  // namespace quillor::platform

@@ -1,7 +1,9 @@
 // Linux and the other systems of the free desktops.
 #include <QDesktopServices>
 #include <QProcess>
+#include <QResource>
 #include <QStandardPaths>
+#include <QString>
 #include <QUrl>
 
 #include "core/files.h"
@@ -54,6 +56,12 @@ std::filesystem::path userDataFolder() {
 
 bool showSystemAbout(QWidget*, const QString&, const QString&) {
     return false;
+}
+
+std::span<const std::byte> carriedSound(int id) {
+    const QResource carried(QStringLiteral(":/sounds/%1.wav").arg(id));
+    return {reinterpret_cast<const std::byte*>(carried.data()),
+            static_cast<std::size_t>(carried.size())};
 }
 
 }  // namespace quillor::platform

@@ -1,6 +1,8 @@
 // macOS.
 #include <QDesktopServices>
+#include <QResource>
 #include <QStandardPaths>
+#include <QString>
 #include <QUrl>
 #include <algorithm>
 #include <iterator>
@@ -43,6 +45,12 @@ std::filesystem::path userDataFolder() {
 
 bool showSystemAbout(QWidget*, const QString&, const QString&) {
     return false;
+}
+
+std::span<const std::byte> carriedSound(int id) {
+    const QResource carried(QStringLiteral(":/sounds/%1.wav").arg(id));
+    return {reinterpret_cast<const std::byte*>(carried.data()),
+            static_cast<std::size_t>(carried.size())};
 }
 
 }  // namespace quillor::platform

@@ -90,4 +90,14 @@ bool showSystemAbout(QWidget* parent, const QString& title, const QString& text)
     return true;
 }
 
+// Neither handle has to be given back: the data are part of the loaded program.
+std::span<const std::byte> carriedSound(int id) {
+    HRSRC place = FindResourceA(nullptr, MAKEINTRESOURCEA(id), "CUSTOM");
+    HGLOBAL loaded = place ? LoadResource(nullptr, place) : nullptr;
+    const void* data = loaded ? LockResource(loaded) : nullptr;
+    if (!data)
+        return {};
+    return {static_cast<const std::byte*>(data), SizeofResource(nullptr, place)};
+}
+
 }  // namespace quillor::platform

@@ -9,7 +9,7 @@
 #include "core/text_rules.h"
 #include "game/game_screen.h"
 #include "tests/support/open_program.h"
-#include "toolkit/caption.h"
+#include "toolkit/controls.h"
 #include "topics/topics.h"
 #include "ui/settings_screen.h"
 

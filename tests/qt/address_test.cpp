@@ -1,7 +1,7 @@
 // Addresses for the browser: what is encoded, and what stays as it is.
-#include "qt/system/address.h"
-
 #include <gtest/gtest.h>
+
+#include "qt/qt_desktop.h"
 
 namespace quillor {
 

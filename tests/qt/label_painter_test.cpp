@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "qt/paint/symbol_painter.h"
-#include "toolkit/symbols.h"
+#include "toolkit/style.h"
 
 namespace quillor {
 

@@ -1,7 +1,7 @@
 // What a caption says, and which key presses it.
-#include "toolkit/caption.h"
-
 #include <gtest/gtest.h>
+
+#include "toolkit/controls.h"
 
 namespace quillor {
 namespace {

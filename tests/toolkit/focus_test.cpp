@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/plain_screen.h"
-#include "toolkit/reading_order.h"
 
 namespace quillor {
 namespace {
