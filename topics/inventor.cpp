@@ -9,7 +9,7 @@
 #include "core/numbers.h"
 #include "core/text_rules.h"
 #include "core/topic_library.h"
-#include "toolkit/press_feedback.h"
+#include "toolkit/style.h"
 #include "topics/file_name.h"
 
 namespace quillor {
