@@ -92,9 +92,7 @@ void frmGame::popUpMenu(const Control* under) {
 void frmGame::onKeyDown(KeyEvent& event) {
     switch (event.code) {
         case key::kReturn:
-            // A held key is one press: it must not run through games.
-            if (!event.autoRepeat)
-                ePlayButton();
+            ePlayButton();
             break;
         case key::kContextMenu:
             popUpMenu(nullptr);

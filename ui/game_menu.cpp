@@ -124,7 +124,7 @@ bool GameMenu::runShortcut(const KeyEvent& event) const {
             (entry.withControl && !event.onlyControl()))
             continue;
         const bool isWay = entry.item.radio;
-        if (entry.item.enabled && (mAuto.enabled || !isWay) && !event.autoRepeat)
+        if (entry.item.enabled && (mAuto.enabled || !isWay))
             entry.action();
         return true;
     }

@@ -15,6 +15,7 @@
 #include <QStyleOption>
 #include <algorithm>
 
+#include "core/text_rules.h"
 #include "core/texts.h"
 #include "qt/windows/qt_values.h"
 #include "toolkit/style.h"
@@ -201,7 +202,8 @@ QString askText(const BoxStyle& style, const QString& prompt, const QString& acc
     box.addRow(field);
     box.addButton(accept, QDialogButtonBox::AcceptRole);
     box.addButton(cancel, QDialogButtonBox::RejectRole);
-    return box.ask(field) ? field.text() : QString();
+    // What was pasted may have line breaks.
+    return box.ask(field) ? toQt(oneLine(fromQt(field.text()))) : QString();
 }
 
 void showAbout(const BoxStyle& style, const QString& title, const QString& text,

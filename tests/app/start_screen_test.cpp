@@ -15,6 +15,14 @@ class StartScreen : public AppTest {
     }
 };
 
+TEST_F(StartScreen, OpensTheFontsPageOnceHoweverLongItsKeyIsHeld) {
+    panel();
+    player.hold(u'f', 5);
+    EXPECT_EQ(desktop.openedAddresses.size(), 1U);
+    EXPECT_EQ(desktop.programStarts, 0);
+    EXPECT_FALSE(desktop.ended);
+}
+
 TEST_F(StartScreen, LengthensItsLineByOneStepATick) {
     frmStart& screen = start();
     EXPECT_EQ(screen.lnGo.x2, 1950);

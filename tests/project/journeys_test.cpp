@@ -1,5 +1,6 @@
 // The whole program from its first start on, and the files it leaves.
 #include "tests/support/game_test.h"
+#include "topics/inventor.h"
 
 namespace quillor::testing {
 namespace {
@@ -80,6 +81,24 @@ TEST_F(Journey, KeepsScoreAndLibraryWhileFilesGo) {
     EXPECT_EQ(settings.giScore, score);
     deal();
     EXPECT_EQ(settings.gsPhrase, u"TWO");
+}
+
+TEST_F(Journey, TakesNoKeyAlongFromOneScreenToTheNext) {
+    start();
+    player.hold(u'i', 5);
+    EXPECT_EQ(player.screen().name, "frmInventor");
+    player.type(u"zoo");
+    EXPECT_EQ(run.as<frmInventor>(ScreenId::Inventor).txtTheme.text(), u"zoo");
+    player.holdKey(key::kBackspace, 9);
+    EXPECT_EQ(player.screen().name, "frmInventor");
+    player.press(key::kBackspace);
+    EXPECT_EQ(player.screen().name, "frmMenu");
+}
+
+TEST_F(Journey, TypesNoKeyOnThatWasHeldAsTheMenuCame) {
+    run.show(ScreenId::Start);
+    player.hold(u'i', 5, [this] { desktop.advance(2000); });
+    EXPECT_EQ(player.screen().name, "frmMenu");
 }
 
 TEST_F(Journey, StartsAnewFromAGameInPlay) {

@@ -189,6 +189,14 @@ TEST_F(Boxes, GiveBackWhatWasTypedUnlessCancelled) {
     EXPECT_EQ(askText(style, "prompt", "Accept", "Cancel"), "");
 }
 
+TEST_F(Boxes, GiveBackWhatWasPastedInOneLine) {
+    whenOpen([](QDialog& box) {
+        box.findChild<QLineEdit*>()->setText("el\r\nsol\n");
+        type(box, Qt::Key_Return);
+    });
+    EXPECT_EQ(askText(style, "prompt", "Accept", "Cancel"), "el sol");
+}
+
 TEST_F(Boxes, SpeakThePromptAsTheFieldsName) {
     whenOpen([](QDialog& box) {
         const auto* field = box.findChild<QLineEdit*>();
