@@ -99,6 +99,7 @@ std::vector<Control*> readingOrder(const Screen& screen) {
         row = next;
     }
     std::vector<Control*> order;
+    order.reserve(stops.size());
     for (const Stop& stop : stops)
         order.push_back(stop.control);
     return order;

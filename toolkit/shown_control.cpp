@@ -27,7 +27,7 @@ Text nameOf(const ControlRef& ref) {
 
 bool isChecked(const ControlRef& ref) {
     auto* const* label = std::get_if<Label*>(&ref);
-    return label && (*label)->checked;
+    return label != nullptr && (*label)->checked;
 }
 
 // Where a line stands is part of its look.
@@ -75,8 +75,9 @@ struct LookMaker {
 bool isShown(const ShownLook& look, const ControlRef& ref) {
     auto* const* list = std::get_if<ListBox*>(&ref);
     const auto* shown = std::get_if<ShownList>(&look);
-    return list && shown && isSeen(**list) && shown->listIndex == (*list)->listIndex() &&
-           shown->font == (*list)->font && shown->items == (*list)->items;
+    return list != nullptr && shown != nullptr && isSeen(**list) &&
+           shown->listIndex == (*list)->listIndex() && shown->font == (*list)->font &&
+           shown->items == (*list)->items;
 }
 
 }  // namespace

@@ -104,7 +104,7 @@ struct ShownControl {
         bool any() const { return place || words || state || checked || look; }
     };
     /// Takes over what has become of the control, which is always the same one.
-    Changes update(const ControlRef& control);
+    Changes update(const ControlRef& ref);
 };
 
 }  // namespace quillor

@@ -65,7 +65,7 @@ void TextField::userEdited(Text text, int selectionStart, int selectionLength) {
     const std::size_t end = commonEnd(TextView(text_).substr(start), now.substr(start));
     const TextView put = now.substr(start, now.size() - start - end);
     Text allowed = oneLine(put);
-    const std::size_t most = static_cast<std::size_t>(maxLength);
+    const auto most = static_cast<std::size_t>(maxLength);
     if (maxLength > 0 && start + allowed.size() + end > most)
         allowed.resize(most > start + end ? most - start - end : 0);
     if (allowed == put)

@@ -138,7 +138,7 @@ void NotebookStyle::paintButton(QPainter& painter, const QStyleOptionButton& but
         paintRounded(painter, whole, em(kRadius) + gap, Qt::NoBrush,
                      QPen(toQt(style::kInk), em(1) / 7.0));
     painter.setPen(colored ? QColor(Qt::white) : toQt(style::kInk));
-    const bool marked = proxy()->styleHint(SH_UnderlineShortcut, &button, widget, nullptr);
+    const bool marked = proxy()->styleHint(SH_UnderlineShortcut, &button, widget, nullptr) != 0;
     painter.drawText(button.rect,
                      Qt::AlignCenter | (marked ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
                      button.text);

@@ -128,14 +128,14 @@ void paintLabel(QPainter& painter, const QRectF& rect, const LabelLook& look, co
     if (look.caption.empty())
         return;
     painter.setOpacity(look.enabled ? 1.0 : kDisabledOpacity);
-    QFont font = fonts.font(look.font, pixelsPerTwip);
+    const QFont font = fonts.font(look.font, pixelsPerTwip);
     if (isSymbolFace(look.font.face)) {
         paintSymbol(painter, rect, look, font.pixelSize());
         return;
     }
     const QString text = toQt(look.caption).replace("\r\n", "\n");
     const int flags = alignment(look);
-    painter.setFont(fitted(std::move(font), rect, flags, text));
+    painter.setFont(fitted(font, rect, flags, text));
     const QRectF place = placeOfText(painter.font(), rect, flags, text);
     if (const double need = outlineNeed(look); need > 0)
         paintOutline(painter, place, flags, text, need);
