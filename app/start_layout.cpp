@@ -48,7 +48,7 @@ void frmStart::layOutTitle() {
     lblMarca.id = "lblMarca";
     lblMarca.caption = texts::kMakers;
     lblMarca.font = {Face::Display, 9, true};
-    lblMarca.textColor = rgb(110, 110, 110);
+    lblMarca.textColor = style::kFaint;
     lblMarca.align = Align::Left;
     add(lblMarca, &frmeTitle).place(1980, 1470, 2460, 240);
 }

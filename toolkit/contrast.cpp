@@ -16,12 +16,12 @@ double linear(int component) {
     return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
 }
 
+}  // namespace
+
 double luminance(Color color) {
     return 0.2126 * linear(redOf(color)) + 0.7152 * linear(greenOf(color)) +
            0.0722 * linear(blueOf(color));
 }
-
-}  // namespace
 
 double contrast(Color one, Color other) {
     const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});

@@ -10,6 +10,9 @@ namespace quillor {
 inline constexpr double kSmallTextContrast = 4.5;
 inline constexpr double kLargeTextContrast = 3;
 
+/// How light a colour is: 0 (black) to 1 (white).
+double luminance(Color color);
+
 /// Contrast of two colours as web pages measure it: 1 (the same) to 21 (black
 /// on white).
 double contrast(Color one, Color other);

@@ -21,6 +21,7 @@ inline constexpr Color kPaper = rgb(252, 251, 247);      // where nothing is rul
 inline constexpr Color kEdge = rgb(135, 135, 142);       // of fields, lists, quiet buttons
 inline constexpr Color kFineEdge = rgb(200, 204, 208);   // of keys, and between entries
 inline constexpr Color kQuietFace = rgb(244, 243, 239);  // of buttons in boxes
+inline constexpr Color kDisabledFace = rgb(214, 214, 214);
 inline constexpr Color kQuietField = rgb(224, 224, 224);
 inline constexpr Color kBoxHover = rgb(22, 136, 22);  // white text on it has 4.5:1
 inline constexpr Color kBoxPressed = rgb(14, 104, 14);

@@ -32,7 +32,7 @@ class EntryScreen : public Screen {
     void layOutAccept(Twips top);
     /// Either part of the button runs the handler and shows the press.
     void connectAccept(const std::function<void()>& handler);
-    void enableAccept(bool now) { lblOk(0).enabled = lblOk(1).enabled = now; }
+    void enableAccept(bool now) { lblOk(0).enabled = lblOk(1).enabled = shpOk.enabled = now; }
     void translateAccept();
 
     /// Panel and button in the colours of the game.

@@ -109,7 +109,7 @@ void frmInventor::eTranslate() {
 void frmInventor::eRefreshButton() {
     const int phrases = static_cast<int>(lstTopics.items.size());
     lblCont.caption = twoDigits(phrases) + u"/" + twoDigits(kCounted);
-    lblSave(0).enabled = phrases > 0 && !txtFile.text().empty();
+    lblSave(0).enabled = shpSave.enabled = phrases > 0 && !txtFile.text().empty();
 }
 
 char16_t frmInventor::eCheck_Key(char16_t character) const {

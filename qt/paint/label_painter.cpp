@@ -1,6 +1,8 @@
 #include "qt/paint/label_painter.h"
 
 #include <QFontMetricsF>
+#include <QImage>
+#include <QPaintDevice>
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -8,14 +10,15 @@
 #include "core/text_rules.h"
 #include "qt/paint/symbol_painter.h"
 #include "qt/windows/qt_values.h"
-#include "toolkit/contrast.h"
+#include "toolkit/ground.h"
+#include "toolkit/style.h"
 
 namespace quillor {
 
 namespace {
 
 constexpr int kSmallestFont = 6;  // pixels: smaller text is clipped instead
-constexpr double kDisabledOpacity = 0.45;
+constexpr double kDisabledOpacity = 0.5;
 
 int alignment(const LabelLook& look) {
     int flags = Qt::AlignVCenter | Qt::TextDontClip;
@@ -71,49 +74,84 @@ QRectF placeOfText(const QFont& font, const QRectF& rect, int flags, const QStri
     return rect.translated(0, -inkOfLine(metrics, text).center().y() - baseline);
 }
 
-// How much of an outline a text needs on its own ground: 0 none to 1.
-double outlineNeed(const LabelLook& look) {
-    constexpr double kNone = 2.5;
-    constexpr double kFull = 1.9;
-    if (!look.opaque)
-        return 0;
-    return std::clamp((kNone - contrast(look.textColor, look.backColor)) / (kNone - kFull), 0.0,
-                      1.0);
-}
-
-// A dark edge around every letter, so that a text in a colour too close to its
-// ground can still be read.
-void paintOutline(QPainter& painter, const QRectF& rect, int flags, const QString& text,
-                  double need) {
-    constexpr int kDirections = 12;
-    const double reach = std::max(1.0, painter.font().pixelSize() / 14.0);
-    painter.save();
-    painter.setOpacity(painter.opacity() * need);
-    painter.setPen(QColor(40, 40, 40));
-    for (int i = 0; i < kDirections; ++i) {
-        const double angle = i * 2 * std::numbers::pi / kDirections;
-        painter.drawText(rect.translated(reach * std::cos(angle), reach * std::sin(angle)), flags,
-                         text);
-    }
-    painter.restore();
-}
-
-void paintSymbol(QPainter& painter, const QRectF& rect, const LabelLook& look, double size) {
+QRectF placeOfSymbol(const QRectF& rect, Align align, double size) {
     size = std::min({size, rect.width(), rect.height()});
     QRectF box(0, 0, size, size);
     box.moveCenter(rect.center());
-    if (look.align == Align::Left)
+    if (align == Align::Left)
         box.moveLeft(rect.left());
-    if (look.align == Align::Right)
+    if (align == Align::Right)
         box.moveRight(rect.right());
-    drawSymbol(painter, box, look.font.face, look.caption.front(), toQt(look.textColor));
+    return box;
 }
+
+/// A caption where it stands in its label, in a colour to be chosen.
+class Caption {
+  public:
+    Caption(const QRectF& rect, const LabelLook& look, QFont font)
+        : face_(look.font.face), text_(toQt(look.caption).replace("\r\n", "\n")) {
+        flags_ = alignment(look);
+        symbol_ = isSymbolFace(face_);
+        font_ = symbol_ ? std::move(font) : fitted(std::move(font), rect, flags_, text_);
+        place_ = symbol_ ? placeOfSymbol(rect, look.align, font_.pixelSize())
+                         : placeOfText(font_, rect, flags_, text_);
+    }
+
+    void draw(QPainter& painter, const QColor& color, QPointF shift = {}) const {
+        const QRectF place = place_.translated(shift);
+        painter.setFont(font_);
+        painter.setPen(color);
+        if (symbol_)
+            drawSymbol(painter, place, face_, text_.front().unicode(), color);
+        else
+            painter.drawText(place, flags_, text_);
+    }
+
+    // Around every letter. What overlaps is painted on a layer first, so that the
+    // edge is equally strong everywhere.
+    void drawEdge(QPainter& painter, const QRectF& rect, const Edge& edge) const {
+        constexpr int kDirections = 12;
+        const double reach = std::max(1.5, font_.pixelSize() / 13.0);
+        const double density = painter.device()->devicePixelRatioF();
+        QImage layer((rect.size() * density).toSize().expandedTo(QSize(1, 1)),
+                     QImage::Format_ARGB32_Premultiplied);
+        layer.setDevicePixelRatio(density);
+        layer.fill(Qt::transparent);
+        QPainter onLayer(&layer);
+        onLayer.setRenderHint(QPainter::Antialiasing);
+        for (int i = 0; i < kDirections; ++i) {
+            const double angle = i * 2 * std::numbers::pi / kDirections;
+            const QPointF way(reach * std::cos(angle), reach * std::sin(angle));
+            draw(onLayer, toQt(edge.color), way - rect.topLeft());
+        }
+        onLayer.end();
+        painter.setOpacity(edge.share);
+        painter.drawImage(rect.topLeft(), layer);
+        painter.setOpacity(1);
+    }
+
+  private:
+    Face face_;
+    bool symbol_ = false;
+    QString text_;
+    int flags_ = 0;
+    QFont font_;
+    QRectF place_;
+};
 
 }  // namespace
 
 LabelLook lookOf(const Label& label) {
-    return {label.caption, label.literal,      label.font,  label.textColor, label.backColor,
-            label.opaque,  label.cornerRadius, label.align, label.wordWrap,  label.enabled};
+    return {.caption = label.caption,
+            .literal = label.literal,
+            .font = label.font,
+            .textColor = label.textColor,
+            .backColor = label.backColor,
+            .opaque = label.opaque,
+            .cornerRadius = label.cornerRadius,
+            .align = label.align,
+            .wordWrap = label.wordWrap,
+            .enabled = label.enabled};
 }
 
 void paintLabel(QPainter& painter, const QRectF& rect, const LabelLook& look, const FontBook& fonts,
@@ -127,20 +165,16 @@ void paintLabel(QPainter& painter, const QRectF& rect, const LabelLook& look, co
     }
     if (look.caption.empty())
         return;
-    painter.setOpacity(look.enabled ? 1.0 : kDisabledOpacity);
-    const QFont font = fonts.font(look.font, pixelsPerTwip);
-    if (isSymbolFace(look.font.face)) {
-        paintSymbol(painter, rect, look, font.pixelSize());
+    const Caption caption(rect, look, fonts.font(look.font, pixelsPerTwip));
+    if (!look.enabled) {
+        painter.setOpacity(kDisabledOpacity);
+        caption.draw(painter, toQt(style::kInk));
         return;
     }
-    const QString text = toQt(look.caption).replace("\r\n", "\n");
-    const int flags = alignment(look);
-    painter.setFont(fitted(font, rect, flags, text));
-    const QRectF place = placeOfText(painter.font(), rect, flags, text);
-    if (const double need = outlineNeed(look); need > 0)
-        paintOutline(painter, place, flags, text, need);
-    painter.setPen(toQt(look.textColor));
-    painter.drawText(place, flags, text);
+    const Edge edge = edgeFor(look.textColor, look.grounds, contrastNeeded(look.font));
+    if (edge.share > 0)
+        caption.drawEdge(painter, rect, edge);
+    caption.draw(painter, toQt(look.textColor));
 }
 
 void paintFocusRing(QPainter& painter, const QRectF& rect, double radius) {

@@ -5,6 +5,7 @@
 #include <QRectF>
 
 #include "qt/paint/font_book.h"
+#include "qt/paint/paper.h"
 #include "toolkit/controls.h"
 
 namespace quillor {
@@ -22,13 +23,16 @@ struct LabelLook {
     Align align = Align::Center;
     bool wordWrap = false;
     bool enabled = true;
+    ColorRange grounds{rgb(255, 255, 255), rgb(255, 255, 255)};  // behind it
 
     bool operator==(const LabelLook&) const = default;
 };
 
+/// All of it but the grounds.
 LabelLook lookOf(const Label& label);
 
-/// Text that does not fit the rectangle is drawn smaller.
+/// Text that does not fit the rectangle is drawn smaller. Where it could not be
+/// read on its grounds, its letters get an edge.
 void paintLabel(QPainter& painter, const QRectF& rect, const LabelLook& look, const FontBook& fonts,
                 double pixelsPerTwip);
 

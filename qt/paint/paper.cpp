@@ -2,13 +2,17 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 #include <utility>
+
+#include "qt/windows/qt_values.h"
+#include "toolkit/contrast.h"
+#include "toolkit/style.h"
 
 namespace quillor {
 
 namespace {
 
-constexpr std::size_t kKeptCopies = 4;
 // The notebook page, in twips.
 constexpr double kPen = 15;
 constexpr double kRulePitch = 300;
@@ -45,26 +49,53 @@ const QImage& pixelsOf(const ImageRef& image) {
     return static_cast<const DecodedImage&>(*image).image;
 }
 
+ColorRange rangeOf(const QImage& image) {
+    constexpr int kSpots = 48;  // across and down
+    const QImage spots =
+        image.scaled(kSpots, kSpots, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    ColorRange range{rgb(255, 255, 255), rgb(0, 0, 0)};
+    for (int y = 0; y < spots.height(); ++y)
+        for (int x = 0; x < spots.width(); ++x) {
+            const QColor pixel = spots.pixelColor(x, y);
+            const Color color = rgb(pixel.red(), pixel.green(), pixel.blue());
+            if (luminance(color) <= luminance(range[0]))
+                range[0] = color;
+            if (luminance(color) >= luminance(range[1]))
+                range[1] = color;
+        }
+    return range;
+}
+
 }  // namespace
 
+DecodedImage::DecodedImage(QImage pixels) : image(std::move(pixels)), range(rangeOf(image)) {}
+
+ColorRange colorRange(const Ground& ground) {
+    if (!ground.picture)
+        return {ground.color, ground.color};
+    const ImageRef& image = ground.picture->image;
+    return image ? static_cast<const DecodedImage&>(*image).range
+                 : ColorRange{style::kPaper, style::kPaper};
+}
+
+std::size_t qHash(const PaperCache::Wish& wish, std::size_t seed) {
+    return qHashMulti(seed, wish.image.get(), QByteArray::fromStdString(wish.drawing),
+                      wish.size.width(), wish.size.height(), wish.density);
+}
+
 const QPixmap& PaperCache::filling(const Wish& wish) {
-    const auto found = std::find_if(entries_.begin(), entries_.end(),
-                                    [&](const Entry& entry) { return entry.wish == wish; });
-    if (found != entries_.end()) {
-        entries_.splice(entries_.begin(), entries_, found);
-        return entries_.front().pixmap;
-    }
+    if (const QPixmap* known = copies_.object(wish))
+        return *known;
     const QSize pixels = (QSizeF(wish.size) * wish.density).toSize().expandedTo(QSize(1, 1));
-    QPixmap pixmap = wish.image ? cropped(pixelsOf(wish.image), pixels) : notebook(pixels, wish);
-    pixmap.setDevicePixelRatio(wish.density);
-    entries_.push_front({wish, std::move(pixmap)});
-    if (entries_.size() > kKeptCopies)
-        entries_.pop_back();
-    return entries_.front().pixmap;
+    auto made = std::make_unique<QPixmap>(wish.image ? cropped(pixelsOf(wish.image), pixels)
+                                                     : notebook(pixels, wish));
+    made->setDevicePixelRatio(wish.density);
+    copies_.insert(wish, made.release());
+    return *copies_.object(wish);
 }
 
 void paintNotebook(QPainter& painter, const QRectF& area, double top, double pixelsPerTwip) {
-    painter.fillRect(area, kPaperColor);
+    painter.fillRect(area, toQt(style::kPaper));
     const double pen = std::max(1.0, std::round(kPen * pixelsPerTwip));
     const double pitch = kRulePitch * pixelsPerTwip;
     const double first = top + kFirstRule * pixelsPerTwip;

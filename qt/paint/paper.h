@@ -1,32 +1,35 @@
 // Pictures ready to be painted: a player's own, or the program's notebook page.
 #pragma once
 
-#include <QColor>
+#include <QCache>
 #include <QImage>
 #include <QPainter>
 #include <QPixmap>
 #include <QRectF>
 #include <QSize>
-#include <list>
+#include <array>
 #include <string>
 
-#include "toolkit/controls.h"
+#include "toolkit/ground.h"
 
 namespace quillor {
-
-/// Of the notebook page, where nothing is ruled.
-inline const QColor kPaperColor(252, 251, 247);
 
 /// What is inside an Image.
 class DecodedImage : public Image {
   public:
-    explicit DecodedImage(QImage pixels) : image(std::move(pixels)) {}
+    explicit DecodedImage(QImage pixels);
     const QImage image;
+    const ColorRange range;  // of what can be seen from a distance
 };
+
+/// Of the ground's image, or of the notebook page, or its only colour.
+ColorRange colorRange(const Ground& ground);
 
 /// Scaled copies of pictures. Several controls of one size share one copy.
 class PaperCache {
   public:
+    static constexpr int kKeptCopies = 4;
+
     /// What decides how a picture looks.
     struct Wish {
         ImageRef image;       // null: the notebook page
@@ -39,15 +42,13 @@ class PaperCache {
         bool operator==(const Wish&) const = default;
     };
     /// The image cropped to fill its size, or the notebook page with its drawing.
+    /// Stays until the next call.
     const QPixmap& filling(const Wish& wish);
 
   private:
-    struct Entry {
-        Wish wish;
-        QPixmap pixmap;
-    };
-    std::list<Entry> entries_;  // the one used last is in front
+    QCache<Wish, QPixmap> copies_{kKeptCopies};
 };
+std::size_t qHash(const PaperCache::Wish& wish, std::size_t seed);
 
 /// Paints the notebook page over `area`. Its rules lie as on a page that begins at
 /// `top`; the margin's lines keep to the left edge of `area`.

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "qt/windows/qt_values.h"
+#include "toolkit/style.h"
 
 namespace quillor {
 
@@ -16,7 +17,8 @@ ShapeView::ShapeView(Shape& shape, ScreenLink& link, QWidget* parent)
 
 void ShapeView::syncLook() {
     const Shape& s = shape_;
-    const Look look{s.kind, s.backColor, s.filled, s.borderColor, s.borderWidth, s.radius};
+    const Look look{s.kind,        s.backColor, s.filled, s.borderColor,
+                    s.borderWidth, s.radius,    s.enabled};
     if (look == shown_)
         return;
     shown_ = look;
@@ -24,13 +26,14 @@ void ShapeView::syncLook() {
 }
 
 void ShapeView::paintEvent(QPaintEvent*) {
-    const auto& [kind, backColor, filled, borderColor, borderTwips, radiusTwips] = shown_;
+    const auto& [kind, backColor, filled, borderColor, borderTwips, radiusTwips, enabled] = shown_;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const double border = static_cast<double>(borderTwips) * pixelsPerTwip();
     const QRectF area = QRectF(rect()).adjusted(border / 2, border / 2, -border / 2, -border / 2);
     painter.setPen(border > 0 ? QPen(toQt(borderColor), border) : QPen(Qt::NoPen));
-    painter.setBrush(filled ? QBrush(toQt(backColor)) : QBrush(Qt::NoBrush));
+    const Color face = enabled ? backColor : style::kDisabledFace;
+    painter.setBrush(filled ? QBrush(toQt(face)) : QBrush(Qt::NoBrush));
     const double radius = std::min(
         {static_cast<double>(radiusTwips) * pixelsPerTwip(), area.width() / 2, area.height() / 2});
     if (kind == ShapeKind::Oval)
@@ -59,7 +62,10 @@ void LineView::syncLook() {
               scale().place(stroke.translated(parent)).translated(-corner),
               2 * half * pixelsPerTwip(),
               l.color,
-              l.roundEnds};
+              l.roundEnds,
+              {}};
+    if (const Screen* screen = link().screen(); screen && l.visible)
+        look.edge = edgeFor(l.color, colorRange(groundBehind(*screen, l)), kLargeTextContrast);
     if (look == shown_)
         return;
     shown_ = look;
@@ -68,7 +74,7 @@ void LineView::syncLook() {
 
 // With room for the pen and for its rounding to whole pixels.
 QRectF LineView::extent() const {
-    const double room = static_cast<double>(line_.thickness) + 15;
+    const double room = 1.5 * static_cast<double>(line_.thickness) + 15;
     const QRectF span(QPointF(line_.x1, line_.y1), QPointF(line_.x2, line_.y2));
     return span.normalized().adjusted(-room, -room, room, room).translated(parentOrigin(line_));
 }
@@ -76,7 +82,7 @@ QRectF LineView::extent() const {
 // Upright and level lines lie on whole pixels; their right or lower edge is where
 // other controls have theirs that end there.
 void LineView::paintEvent(QPaintEvent*) {
-    auto [from, to, stroke, thickness, color, roundEnds] = shown_;
+    auto [from, to, stroke, thickness, color, roundEnds, edge] = shown_;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const double density = devicePixelRatioF();
@@ -91,9 +97,16 @@ void LineView::paintEvent(QPaintEvent*) {
         from.rx() = std::round(from.x());
         to.rx() = std::round(to.x());
     }
-    painter.setPen(QPen(toQt(color), upright || level ? whole : std::max(thickness, 1.0),
-                        Qt::SolidLine, roundEnds ? Qt::RoundCap : Qt::FlatCap, Qt::RoundJoin));
-    painter.drawLine(from, to);
+    const double width = upright || level ? whole : std::max(thickness, 1.0);
+    const auto draw = [&, ends = roundEnds ? Qt::RoundCap : Qt::FlatCap](Color ink, double pen) {
+        painter.setPen(QPen(toQt(ink), pen, Qt::SolidLine, ends, Qt::RoundJoin));
+        painter.drawLine(from, to);
+    };
+    painter.setOpacity(edge.share);
+    if (edge.share > 0)
+        draw(edge.color, 2 * width);
+    painter.setOpacity(1);
+    draw(color, width);
 }
 
 PictureView::PictureView(Picture& picture, ScreenLink& link, QWidget* parent)

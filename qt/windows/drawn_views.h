@@ -5,6 +5,7 @@
 #include <tuple>
 
 #include "qt/windows/control_view.h"
+#include "toolkit/ground.h"
 
 namespace quillor {
 
@@ -20,7 +21,7 @@ class ShapeView : public QWidget, public ControlView {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    using Look = std::tuple<ShapeKind, Color, bool, Color, Twips, Twips>;
+    using Look = std::tuple<ShapeKind, Color, bool, Color, Twips, Twips, bool>;
     Shape& shape_;
     Look shown_;
 };
@@ -43,6 +44,7 @@ class LineView : public QWidget, public ControlView {
         double thickness = 0;
         Color color = 0;
         bool roundEnds = true;
+        Edge edge;
 
         bool operator==(const Look&) const = default;
     };

@@ -5,14 +5,27 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "toolkit/ground.h"
+
 namespace quillor {
 
 void LabelView::syncLook() {
     LabelLook look = lookOf(label_);
+    takeGround(look);
     if (look == look_)
         return;
     look_ = std::move(look);
     widget().update();
+}
+
+// What is not seen needs none.
+void LabelView::takeGround(LabelLook& look) const {
+    const Screen* screen = link().screen();
+    if (!screen || !label_.visible || label_.caption.empty())
+        return;
+    const Ground ground = groundBehind(*screen, label_);
+    look.grounds = colorRange(ground);
+    look.enabled = look.enabled && ground.enabled;
 }
 
 void LabelView::syncWords() {

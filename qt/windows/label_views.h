@@ -27,6 +27,8 @@ class LabelView : public ControlView {
     const LabelLook& look() const { return look_; }
 
   private:
+    void takeGround(LabelLook& look) const;
+
     Label& label_;
     LabelLook look_;
 };

@@ -29,6 +29,8 @@ class ScreenLink {
             shell_.keyEvent([&] { std::forward<Body>(body)(*screen_); });
     }
 
+    /// Null once it is closed.
+    const Screen* screen() const { return screen_; }
     bool isOpen() const { return screen_ != nullptr; }
     void cut() { screen_ = nullptr; }
 

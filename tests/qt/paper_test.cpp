@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "qt/windows/qt_values.h"
 #include "toolkit/style.h"
 
 namespace quillor {
@@ -71,7 +72,7 @@ TEST(Paper, RulesTheWholeOfAnyShape) {
     constexpr int kRule = 50 + 6;  // the first one on the screen, from its top
     for (const int y : {kRule - 50, kRule, kRule + 300})
         EXPECT_EQ(page.pixelColor(590, y), QColor(223, 233, 244)) << y;
-    EXPECT_EQ(page.pixelColor(590, kRule + 5), kPaperColor);
+    EXPECT_EQ(page.pixelColor(590, kRule + 5), toQt(style::kPaper));
 }
 
 TEST(Paper, IsPaintedOnceForControlsOfOneSize) {

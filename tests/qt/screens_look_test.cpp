@@ -8,6 +8,7 @@
 #include "qt/paint/label_painter.h"
 #include "qt/windows/page_window.h"
 #include "tests/support/game_test.h"
+#include "topics/inventor.h"
 #include "ui/colors.h"
 
 namespace quillor::testing {
@@ -73,6 +74,36 @@ TEST_F(ScreensLook, ShowsTheWholeOfEveryLetterOnTheBoard) {
     play(u"\u00c1\u00c9\u00cd\u00d3\u00da\u00d1\u00dcQJ");
     expectNothingCut(game());
     EXPECT_EQ(game().board.lblLetter(1).caption, u"\u00c1");
+}
+
+// The colours of a button's face and of the strongest ink on it.
+std::pair<QColor, int> buttonLook(Page& page, const Control& control) {
+    QWidget& widget = page.view(control)->widget();
+    const QRect area(widget.mapTo(&page, QPoint()), widget.size());
+    const QImage image = page.grab(area).toImage();
+    int light = 0;
+    for (int x = 0; x < image.width(); ++x)
+        for (int y = 0; y < image.height(); ++y)
+            light = std::max(light, qGray(image.pixel(x, y)));
+    return {image.pixelColor(image.width() / 2, 3), light};
+}
+
+TEST_F(ScreensLook, GreysAButtonThatCannotBePressed) {
+    start();
+    auto& inventor = dynamic_cast<frmInventor&>(run.show(ScreenId::Inventor));
+    Shell shell(fonts);
+    shell.event([&] { shell.show(inventor); });
+    Page& page = *shell.find(&inventor);
+    const auto [grey, brightest] = buttonLook(page, inventor.lblSave(1));
+    EXPECT_LT(grey.hslSaturation(), 10);
+    EXPECT_LT(brightest, 230);  // no white words
+    shell.event([&] {
+        inventor.lstTopics.items.push_back(u"PHRASE");
+        inventor.txtTheme.setText(u"topic");
+    });
+    const auto [red, white] = buttonLook(page, inventor.lblSave(1));
+    EXPECT_GT(red.hslSaturation(), 200);
+    EXPECT_GT(white, 245);
 }
 
 TEST_F(ScreensLook, KeepsItsColumns) {
