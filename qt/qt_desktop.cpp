@@ -60,7 +60,7 @@ BoxStyle QtDesktop::boxStyle() const {
     BoxStyle style;
     Page* page = shell_.front();
     style.parent = page ? &page->pageWindow() : nullptr;
-    style.low = page && !page->pageWindow().isDialog();
+    style.low = page != nullptr && !page->pageWindow().isDialog();
     const double scale = page ? page->scale().pixels : TwipScale().pixels;
     style.font = shell_.fonts.font(kBoxFont, scale);
     style.buttonFont = shell_.fonts.font(kButtonFont, scale);

@@ -73,8 +73,8 @@ void paintCheck(QPainter& painter, const QRectF& box, const QStyleOptionMenuItem
 }
 
 void paintEntry(QPainter& painter, QStyleOptionMenuItem item, const Em& em) {
-    const bool enabled = item.state & QStyle::State_Enabled;
-    const bool hovered = enabled && (item.state & QStyle::State_Selected);
+    const bool enabled = item.state.testFlag(QStyle::State_Enabled);
+    const bool hovered = enabled && item.state.testFlag(QStyle::State_Selected);
     QPalette& colors = item.palette;
     const QColor ink = hovered ? colors.highlightedText().color() : QColor(toQt(style::kInk));
     if (hovered)
@@ -122,9 +122,9 @@ NotebookStyle::NotebookStyle() : QProxyStyle(QStyleFactory::create("Fusion")) {}
 void NotebookStyle::paintButton(QPainter& painter, const QStyleOptionButton& button,
                                 const QWidget* widget) const {
     const Em em(widget);
-    const bool enabled = button.state & State_Enabled;
-    const bool pressed = enabled && (button.state & State_Sunken);
-    const bool hovered = enabled && (button.state & State_MouseOver);
+    const bool enabled = button.state.testFlag(State_Enabled);
+    const bool pressed = enabled && button.state.testFlag(State_Sunken);
+    const bool hovered = enabled && button.state.testFlag(State_MouseOver);
     const QColor face = pressed   ? toQt(style::kBoxPressed)
                         : hovered ? toQt(style::kBoxHover)
                                   : button.palette.button().color();
@@ -134,7 +134,7 @@ void NotebookStyle::paintButton(QPainter& painter, const QStyleOptionButton& but
     painter.setOpacity(enabled ? 1 : kFaded);
     paintRounded(painter, whole.adjusted(gap, gap, -gap, -gap), em(kRadius), face,
                  colored ? QPen(Qt::NoPen) : QPen(toQt(style::kEdge), em.line()));
-    if ((button.state & State_HasFocus) && (button.state & State_KeyboardFocusChange))
+    if (button.state.testFlag(State_HasFocus) && button.state.testFlag(State_KeyboardFocusChange))
         paintRounded(painter, whole, em(kRadius) + gap, Qt::NoBrush,
                      QPen(toQt(style::kInk), em(1) / 7.0));
     painter.setPen(colored ? QColor(Qt::white) : toQt(style::kInk));
@@ -169,7 +169,7 @@ void NotebookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
     painter->save();
     if (element == PE_PanelLineEdit && frame && frame->lineWidth > 0)
         paintRounded(*painter, option->rect, em(kRadius), option->palette.base(),
-                     option->state & State_HasFocus
+                     option->state.testFlag(State_HasFocus)
                          ? QPen(option->palette.highlight(), 2 * em.line())
                          : QPen(toQt(style::kEdge), em.line()));
     else if (element == PE_PanelMenu)

@@ -86,12 +86,12 @@ Symbol magnifier() {
     return symbol;
 }
 
-Symbol stroked(QPainterPath path) {
-    return {std::move(path), {}, 0.13};
+Symbol stroked(const QPainterPath& path) {
+    return {path, {}, 0.13};
 }
 
 // The pen rounds the corners of a filled figure too.
-Symbol filled(QPainterPath path) {
+Symbol filled(const QPainterPath& path) {
     return {path, path, 0.1};
 }
 

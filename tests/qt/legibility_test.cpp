@@ -79,9 +79,10 @@ class Legibility : public GameTest {
         page.pageWindow().resize(1320, static_cast<int>(1320 * screen.height / screen.width));
         shell.event([] {});
         const QImage image = page.grab().toImage();
-        for (ControlView* view : page.views()) {
+        for (const ControlRef& ref : screen.controls()) {
+            ControlView* view = page.view(controlOf(ref));
             const auto* label = dynamic_cast<LabelView*>(view);
-            if (!label || !view->isUsable() || label->label().caption.empty())
+            if (!label || !isUsable(controlOf(ref)) || label->label().caption.empty())
                 continue;
             if (label->label().font.face == Face::Comic)
                 continue;  // the man's face: of the same ink as his head
@@ -194,7 +195,7 @@ INSTANTIATE_TEST_SUITE_P(
                       Surroundings{"yellow", rgb(240, 230, 60), 0, 0},
                       Surroundings{"navy", rgb(10, 10, 60), rgb(10, 30, 10), rgb(60, 80, 60)},
                       Surroundings{"sky", rgb(180, 240, 255), rgb(0, 0, 0), rgb(255, 255, 255)}),
-    [](const auto& info) { return info.param.name; });
+    [](const auto& palette) { return palette.param.name; });
 
 }  // namespace
 
