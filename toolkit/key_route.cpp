@@ -160,9 +160,9 @@ void KeyRoute::typeOn(Screen& screen, TextView text) {
             screen.keyPress(character);
 }
 
+// What was held is kept: the systems do not tell a key that repeats from one that is
+// let go before its next press comes.
 void KeyRoute::release(int id) {
-    if (held_ && held_->id == id)
-        held_.reset();
     if (!down_ || down_->id != id)
         return;
     const Down down = *std::exchange(down_, std::nullopt);

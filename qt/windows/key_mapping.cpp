@@ -65,6 +65,18 @@ int keyId(const QKeyEvent& event) {
     return key ? static_cast<int>(key) : event.key();
 }
 
+void RepeatFinder::release(const QKeyEvent& event) {
+    id_ = keyId(event);
+    time_ = event.timestamp();
+}
+
+bool RepeatFinder::isRepeat(const QKeyEvent& press) const {
+    constexpr quint64 kSameMoment = 3;  // ms; no finger is as quick
+    return press.isAutoRepeat() ||
+           (time_ > 0 && keyId(press) == id_ && press.timestamp() >= time_ &&
+            press.timestamp() - time_ <= kSameMoment);
+}
+
 KeyPress toKeyPress(const QKeyEvent& event) {
     KeyPress press;
     press.key.code = virtualKeyCode(event);

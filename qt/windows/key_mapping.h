@@ -15,6 +15,18 @@ KeyPress toKeyPress(const QKeyEvent& event);
 /// Which key of the keyboard it is, whatever it types.
 int keyId(const QKeyEvent& event);
 
+/// Finds the presses of a key that is held where the toolkit has not: X11 tells of them
+/// as of a release and a press at the same moment, which may come one by one.
+class RepeatFinder {
+  public:
+    void release(const QKeyEvent& event);
+    bool isRepeat(const QKeyEvent& press) const;
+
+  private:
+    int id_ = 0;        // of the key that was let go last
+    quint64 time_ = 0;  // when, in ms; 0: not told
+};
+
 /// The characters that the key types: printable text, Return or Backspace.
 /// Empty for shortcuts and function keys.
 QString typedText(const QKeyEvent& event);

@@ -174,7 +174,10 @@ bool Page::eventFilter(QObject* object, QEvent* event) {
             return true;
         case QEvent::KeyRelease:
             if (const auto& key = *static_cast<QKeyEvent*>(event); !key.isAutoRepeat())
-                link_.event([&](Screen&) { link_.shell().keys.release(keyId(key)); });
+                link_.event([&](Screen&) {
+                    link_.shell().repeats.release(key);
+                    link_.shell().keys.release(keyId(key));
+                });
             return true;
         case QEvent::InputMethod:
             if (dynamic_cast<FieldView*>(object))
@@ -193,7 +196,8 @@ void Page::press(QKeyEvent& event) {
     if (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab)
         link_.shell().showsFocus = true;
     link_.keyEvent([&](Screen& screen) {
-        const KeyPress press = toKeyPress(event);
+        KeyPress press = toKeyPress(event);
+        press.key.autoRepeat = link_.shell().repeats.isRepeat(event);
         const KeyRoute::Rest rest = link_.shell().keys.press(screen, link_.focus(), press);
         if (rest == KeyRoute::Rest::Field)
             dynamic_cast<FieldView&>(*view(*link_.focus().control())).edit(event);

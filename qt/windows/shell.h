@@ -9,6 +9,7 @@
 
 #include "qt/paint/font_book.h"
 #include "qt/paint/paper.h"
+#include "qt/windows/key_mapping.h"
 #include "toolkit/key_route.h"
 
 namespace quillor {
@@ -26,6 +27,7 @@ class Shell {
     const FontBook& fonts;
     PaperCache papers;
     KeyRoute keys;
+    RepeatFinder repeats;
     /// Called when no handler of any screen is running any more.
     std::function<void()> onIdle;
 

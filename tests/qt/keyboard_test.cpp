@@ -149,6 +149,32 @@ TEST_F(WindowKeys, DoesNothingOnANewScreenWithAKeyThatIsStillHeld) {
     shell.event([&] { shell.close(next); });
 }
 
+TEST_F(WindowKeys, KnowsAHeldKeyByItsReleaseAtTheSameMoment) {
+    TextField field;
+    addField(field, "txt", 0, 0);
+    open();
+    const auto send = [&](QEvent::Type type, quint64 time) {
+        QKeyEvent event(type, Qt::Key_F, {}, "f");
+        event.setTimestamp(time);
+        QApplication::sendEvent(shell.find(&screen)->focusWidget(), &event);
+    };
+    send(QEvent::KeyPress, 1000);
+    for (const quint64 time : {1500U, 1540U}) {
+        send(QEvent::KeyRelease, time);
+        send(QEvent::KeyPress, time);
+    }
+    EXPECT_EQ(log, (Log{"down 70", "press 102"}));
+    send(QEvent::KeyRelease, 1560);
+    send(QEvent::KeyPress, 1660);
+    EXPECT_EQ(log.size(), 4U);
+    shell.event([&] { screen.setFocus(field); });
+    send(QEvent::KeyRelease, 1700);
+    send(QEvent::KeyPress, 1800);
+    send(QEvent::KeyRelease, 1900);
+    send(QEvent::KeyPress, 1901);
+    EXPECT_EQ(field.text(), u"ff");
+}
+
 TEST_F(WindowKeys, DoesNothingWithAKeyThatWasHeldWhileABoxWasOpen) {
     TextField field;
     screen.firstFocus = &addField(field, "txt", 0, 0);

@@ -92,6 +92,18 @@ class InventorInSpanish(Player):
         self.expect_content("txtFile", "x")
         self.assertTrue(self.is_enabled("lblSave(0)"))
 
+    def test_held_keys_command_once_and_type_on(self):
+        self.key("BackSpace")
+        self.expect_title(self.words.menu_title)
+        self.hands.hold_key("i", 1.2)
+        self.expect_title("Quillor | Inventor")
+        self.expect_content("txtTheme", "")
+        self.hands.hold_key("x", 1.2)
+        self.assertGreater(self.content("txtTheme").count("x"), 3)
+        self.hands.hold_key("BackSpace", 2.5)
+        self.expect_content("txtTheme", "")
+        self.expect_title("Quillor | Inventor")
+
     def test_question_mark_gives_help_and_backspace_leads_back(self):
         self.click("txtTheme")
         self.type("?")

@@ -51,7 +51,8 @@ class SettingsInSpanish(Player):
         for key, line in (("w", WIKIPEDIA), ("d", HARD), ("i", INFINITE), ("c", CLOCK)):
             self.key(key)
             self.expect_line(line, "1")
-        for key, design in (("4", "3"), ("2", "1"), ("KP_3", "2"), ("KP_1", "0")):
+        digits = ("4", "3"), ("2", "1"), ("KP_3", "2"), ("KP_1", "0")
+        for key, design in (*digits, ("shift+3", "2"), ("shift+1", "0")):
             self.key(key)
             self.expect_line(0, design)
 

@@ -28,6 +28,10 @@ class Hands:
         """Presses keys one after the other, by their X names: "a", "Return", "ctrl+e"."""
         self._do("key", "--delay", 30, *names)
 
+    def hold_key(self, name, seconds):
+        """Holds a key for so long, in which it repeats; the keyboard waits 0.66 s at first."""
+        self._do("keydown", name, "sleep", seconds, "keyup", name)
+
     def type(self, text):
         """Types a text; characters that are on no key of the keyboard work too."""
         self._do("type", "--delay", 30, "--", text)
