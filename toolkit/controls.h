@@ -233,6 +233,7 @@ struct TextField : Control {
 /// A single-column list with at most one selected entry.
 struct ListBox : Control {
     Font font;
+    Color selectionColor = rgb(20, 140, 220);  // shown darker where its text needs that
     std::vector<Text> items;
 
     std::function<void()> onClick;  // an entry was selected, by the player or by select

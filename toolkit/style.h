@@ -21,6 +21,8 @@ inline constexpr Color kPaper = rgb(252, 251, 247);      // where nothing is rul
 inline constexpr Color kEdge = rgb(135, 135, 142);       // of fields, lists, quiet buttons
 inline constexpr Color kFineEdge = rgb(200, 204, 208);   // of keys, and between entries
 inline constexpr Color kQuietFace = rgb(244, 243, 239);  // of buttons in boxes
+inline constexpr Color kSelection = rgb(16, 112, 176);   // of text in fields
+inline constexpr Color kHoveredRow = rgb(230, 236, 244);
 inline constexpr Color kDisabledFace = rgb(214, 214, 214);
 inline constexpr Color kQuietField = rgb(224, 224, 224);
 inline constexpr Color kBoxHover = rgb(22, 136, 22);  // white text on it has 4.5:1
@@ -33,10 +35,11 @@ inline constexpr const char* kIdleDrawing = "idle";
 inline constexpr const char* kSettingsDrawing = "settings";
 
 inline constexpr Font kButton{Face::Display, 17, true};
-inline constexpr Font kSmallButton{Face::Display, 13, true};
+inline constexpr Font kSmallButton{Face::Display, 14, true};
 inline constexpr Font kBarText{Face::Display, 14, true};
 inline constexpr Font kText{Face::Display, 12, true};
 inline constexpr Font kField{Face::Plain, 14, false};
+inline constexpr Font kToolTip{Face::Plain, 10, false};
 inline constexpr Font kSymbol{Face::Webdings, 20, false};
 
 }  // namespace quillor::style

@@ -115,7 +115,7 @@ void frmWord1::layOut() {
     layOutPanel(4920);
 
     const auto field = [&](TextField& text, const char* id, Label& label, Twips top, int length) {
-        label.font = style::kText;
+        label.font = style::kBarText;
         label.textColor = kPale;
         label.align = Align::Left;
         add(label).place(kEdge, top, kInner, 360);

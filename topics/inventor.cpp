@@ -70,6 +70,7 @@ void frmInventor::onLoad() {
     for (Shape* shape : {&shpHead, &shpAdd, &shpDel, &shpHelp})
         shape->backColor = settings_.glTheme;
     shpBack.backColor = shpSave.backColor = settings_.glRed;
+    lstTopics.selectionColor = settings_.glTheme;
     for (Label* label : {&lblOk, &lblDel, &lblHelp, &lblBack, &lblSave(1), &lblLabel(0)})
         label->textColor = settings_.glWhite;
     eRefreshButton();

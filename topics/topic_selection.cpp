@@ -26,6 +26,7 @@ void frmWord2::connect() {
 void frmWord2::onLoad() {
     eTranslate();
     colour();
+    lstTopics.selectionColor = settings_.glTheme;
     // The caption of the mode keeps its first text, whatever mode is pending.
     pendingMode_ = settings_.giWay;
     fillList();
@@ -99,7 +100,7 @@ void frmWord2::layOutModes() {
     constexpr Twips kArrow = 600;
     constexpr Twips kRightArrow = kEdge + kInner - kArrow;  // ends with the list
     lblSelect.id = "lblSelect";
-    lblSelect.font = style::kText;
+    lblSelect.font = style::kBarText;
     lblSelect.textColor = kPale;
     lblSelect.align = Align::Left;
     add(lblSelect).place(kEdge, 4230, 1920, 540);

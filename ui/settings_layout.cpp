@@ -62,6 +62,7 @@ void frmOptions::layOut() {
 
     for (int i = 0; i <= kLastDesign; ++i) {
         const Twips x = kLeft + 3360 + 900 * static_cast<Twips>(i);
+        shpDs(i).borderColor = style::kEdge;
         add(shpDs(i)).place(x, kFirstRow - 60, 720, 720);
         lblDs(i).caption = Text(1, static_cast<char16_t>(u'1' + i));
         lblDs(i).font = {Face::Display, 18, true};

@@ -9,6 +9,10 @@
 
 namespace quillor {
 
+namespace {
+constexpr Twips kMarkWidth = 60;  // of the edge that marks the chosen design
+}
+
 frmOptions::frmOptions(Program& program)
     : Screen("frmOptions"), program_(program), settings_(program.settings) {
     layOut();
@@ -117,6 +121,8 @@ void frmOptions::markDesign(int design) {
     for (int i = 0; i <= kLastDesign; ++i) {
         lblDs(i).checked = i == design;
         shpDs(i).backColor = i == design ? eDarkShade(settings_.glTheme) : settings_.glTheme;
+        // A dark theme hardly differs from its dark shade.
+        shpDs(i).borderWidth = i == design ? kMarkWidth : 0;
     }
 }
 

@@ -181,6 +181,20 @@ void NotebookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
     painter->restore();
 }
 
+// A scroll bar is a slider alone.
+void NotebookStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                       QPainter* painter, const QWidget* widget) const {
+    if (control != CC_ScrollBar) {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        return;
+    }
+    const QRectF slider = proxy()->subControlRect(control, option, SC_ScrollBarSlider, widget);
+    const double radius = std::min(slider.width(), slider.height()) / 2;
+    painter->save();
+    paintRounded(*painter, slider, radius, toQt(style::kEdge));
+    painter->restore();
+}
+
 int NotebookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
                                const QWidget* widget) const {
     const Em em(widget);
@@ -195,7 +209,9 @@ int NotebookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
         case PM_MenuScrollerHeight:
             return em(1.2);
         case PM_TextCursorWidth:
-            return static_cast<int>(em.line());
+            return static_cast<int>(std::lround(em.line()));
+        case PM_ScrollBarExtent:
+            return em(0.55);
         default:
             return QProxyStyle::pixelMetric(metric, option, widget);
     }

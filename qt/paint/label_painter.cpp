@@ -177,16 +177,32 @@ void paintLabel(QPainter& painter, const QRectF& rect, const LabelLook& look, co
     caption.draw(painter, toQt(look.textColor));
 }
 
-void paintFocusRing(QPainter& painter, const QRectF& rect, double radius) {
+double fineLine(double pixelsPerTwip) {
+    return std::max(1.0, 15 * pixelsPerTwip);
+}
+
+void paintFocusRing(QPainter& painter, const QRectF& rect, double radius, double pixelsPerTwip) {
+    const double line = fineLine(pixelsPerTwip);
+    const QRectF place = rect.adjusted(2 * line, 2 * line, -2 * line, -2 * line);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setOpacity(1);
     painter.setBrush(Qt::NoBrush);
-    const auto ring = [&](double inset, double width, const QColor& color) {
-        painter.setPen(QPen(color, width));
-        painter.drawRoundedRect(rect.adjusted(inset, inset, -inset, -inset), radius, radius);
-    };
-    ring(2, 4, QColor(255, 255, 255));
-    ring(2, 2, QColor(20, 20, 40));
+    painter.setPen(QPen(Qt::white, 4 * line));
+    painter.drawRoundedRect(place, radius, radius);
+    painter.setPen(QPen(toQt(style::kInk), 2 * line));
+    painter.drawRoundedRect(place, radius, radius);
+}
+
+void paintField(QPainter& painter, const QRectF& rect, Twips radius, Color face, bool focused,
+                double pixelsPerTwip) {
+    const double inset = fineLine(pixelsPerTwip) / 2;
+    const double corner = static_cast<double>(radius) * pixelsPerTwip;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(toQt(style::kEdge), 2 * inset));
+    painter.setBrush(toQt(face));
+    painter.drawRoundedRect(rect.adjusted(inset, inset, -inset, -inset), corner, corner);
+    if (focused)
+        paintFocusRing(painter, rect, corner, pixelsPerTwip);
 }
 
 }  // namespace quillor

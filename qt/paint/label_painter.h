@@ -36,7 +36,15 @@ LabelLook lookOf(const Label& label);
 void paintLabel(QPainter& painter, const QRectF& rect, const LabelLook& look, const FontBook& fonts,
                 double pixelsPerTwip);
 
-/// A ring inside the rectangle that shows on light and on dark ground.
-void paintFocusRing(QPainter& painter, const QRectF& rect, double radius);
+/// The width of fine edges, in pixels: at least 1.
+double fineLine(double pixelsPerTwip);
+
+/// A ring inside the rectangle, 4 fine lines wide, that shows on light and on
+/// dark ground.
+void paintFocusRing(QPainter& painter, const QRectF& rect, double radius, double pixelsPerTwip);
+
+/// The white box of fields and lists with its edge, and its ring when it has the focus.
+void paintField(QPainter& painter, const QRectF& rect, Twips radius, Color face, bool focused,
+                double pixelsPerTwip);
 
 }  // namespace quillor

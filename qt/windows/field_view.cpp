@@ -8,12 +8,13 @@
 
 #include "qt/paint/label_painter.h"
 #include "qt/windows/qt_values.h"
+#include "toolkit/style.h"
 
 namespace quillor {
 
 namespace {
 
-constexpr double kRadius = 90;   // twips, of the box's corners
+constexpr Twips kRadius = 90;    // twips, of the box's corners
 constexpr double kPadding = 90;  // twips, from the box's edge to the text
 
 // How many characters both texts have in common at their beginnings.
@@ -60,6 +61,8 @@ void FieldView::syncColors() {
     QPalette colors = palette();
     colors.setColor(QPalette::Text, toQt(shownTextColor_));
     colors.setColor(QPalette::Base, Qt::transparent);  // the box is painted below
+    colors.setColor(QPalette::Highlight, toQt(style::kSelection));
+    colors.setColor(QPalette::HighlightedText, Qt::white);
     setPalette(colors);
     update();
 }
@@ -149,13 +152,7 @@ void FieldView::mouseMoveEvent(QMouseEvent* event) {
 void FieldView::paintEvent(QPaintEvent* event) {
     {
         QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        const double radius = kRadius * pixelsPerTwip();
-        painter.setPen(QPen(QColor(150, 150, 160), 1));
-        painter.setBrush(toQt(shownBackColor_));
-        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
-        if (hasFocus())
-            paintFocusRing(painter, rect(), radius);
+        paintField(painter, rect(), kRadius, shownBackColor_, hasFocus(), pixelsPerTwip());
     }
     QLineEdit::paintEvent(event);
 }

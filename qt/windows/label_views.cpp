@@ -71,7 +71,8 @@ void ButtonView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     paint(painter);
     if (hasFocus() && link().shell().showsFocus)
-        paintFocusRing(painter, rect(), static_cast<double>(look().cornerRadius) * pixelsPerTwip());
+        paintFocusRing(painter, rect(), static_cast<double>(look().cornerRadius) * pixelsPerTwip(),
+                       pixelsPerTwip());
 }
 
 void ButtonView::mouseMoveEvent(QMouseEvent* event) {

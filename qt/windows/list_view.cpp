@@ -4,17 +4,24 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QStyledItemDelegate>
+#include <cmath>
 
 #include "qt/paint/label_painter.h"
 #include "qt/windows/qt_values.h"
+#include "toolkit/contrast.h"
+#include "toolkit/style.h"
 
 namespace quillor {
 
 namespace {
 
-constexpr double kRadius = 120;      // twips, of the box's corners
-constexpr double kInset = 60;        // twips, from the box to its entries
-constexpr double kRowHeight = 1.75;  // in font sizes
+constexpr Twips kRadius = 120;  // twips, of the box's corners
+constexpr double kInset = 60;   // twips, from the box to its entries
+// In sizes of the font.
+constexpr double kRowHeight = 1.75;
+constexpr double kRowGap = 0.05;
+constexpr double kRowRadius = 0.25;
+constexpr double kRowPadding = 0.5;
 
 // Flat rows with a rounded selection.
 class RowDelegate : public QStyledItemDelegate {
@@ -29,18 +36,21 @@ class RowDelegate : public QStyledItemDelegate {
                const QModelIndex& index) const override {
         const bool selected = option.state.testFlag(QStyle::State_Selected);
         const bool hovered = option.state.testFlag(QStyle::State_MouseOver);
-        const QRectF row = QRectF(option.rect).adjusted(1, 1, -1, -1);
+        const double em = option.font.pixelSize();
+        const double gap = em * kRowGap;
+        const QRectF row = QRectF(option.rect).adjusted(gap, gap, -gap, -gap);
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing);
         painter->setPen(Qt::NoPen);
         if (selected || hovered) {
-            painter->setBrush(selected ? option.palette.highlight() : QColor(230, 236, 244));
-            painter->drawRoundedRect(row, 5, 5);
+            painter->setBrush(selected ? option.palette.highlight()
+                                       : QBrush(toQt(style::kHoveredRow)));
+            painter->drawRoundedRect(row, em * kRowRadius, em * kRowRadius);
         }
-        const double padding = option.font.pixelSize() * 0.5;
+        const double padding = em * kRowPadding;
         const QRectF space = row.adjusted(padding, 0, -padding, 0);
         painter->setFont(option.font);
-        painter->setPen(selected ? QColor(Qt::white) : QColor(30, 30, 30));
+        painter->setPen(selected ? QColor(Qt::white) : toQt(style::kInk));
         const QString text =
             QFontMetricsF(option.font)
                 .elidedText(index.data().toString(), Qt::ElideRight, space.width());
@@ -53,7 +63,7 @@ class RowDelegate : public QStyledItemDelegate {
 
 ListView::ListView(ListBox& list, ScreenLink& link, QWidget* parent)
     : QListWidget(parent), ControlView(&list, link), list_(list) {
-    setFrameShape(QFrame::NoFrame);
+    setFrameStyle(QFrame::Box | QFrame::Plain);  // painted here; the scroll bar stands within it
     setItemDelegate(new RowDelegate(this));
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -70,6 +80,7 @@ ListView::ListView(ListBox& list, ScreenLink& link, QWidget* parent)
 // The selection may run ahead of what was shown last: it is compared itself.
 void ListView::syncLook() {
     syncFont();
+    syncColors();
     const QScopedValueRollback writing(writing_, true);
     syncItems();
     syncSelection();
@@ -81,9 +92,18 @@ void ListView::syncFont() {
     shownFont_ = list_.font;
     shownScale_ = pixelsPerTwip();
     setFont(link().shell().fonts.font(shownFont_, shownScale_));
-    const int inset = static_cast<int>(kInset * shownScale_) + 2;
-    setViewportMargins(inset, inset, inset, inset);
+    const int inset = static_cast<int>(std::ceil(kInset * shownScale_));
+    setLineWidth(inset);
     scheduleDelayedItemsLayout();
+}
+
+void ListView::syncColors() {
+    const QColor wanted = toQt(darkEnoughForWhite(list_.selectionColor, kSmallTextContrast));
+    if (palette().color(QPalette::Highlight) == wanted)
+        return;
+    QPalette colors = palette();
+    colors.setColor(QPalette::Highlight, wanted);
+    setPalette(colors);
 }
 
 void ListView::syncItems() {
@@ -151,13 +171,7 @@ bool ListView::event(QEvent* event) {
 
 void ListView::paintBox() {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const double radius = kRadius * pixelsPerTwip();
-    painter.setPen(QPen(QColor(150, 150, 160), 1));
-    painter.setBrush(QColor(255, 255, 255));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
-    if (hasFocus())
-        paintFocusRing(painter, rect(), radius);
+    paintField(painter, rect(), kRadius, rgb(255, 255, 255), hasFocus(), pixelsPerTwip());
 }
 
 void ListView::enterEvent(QEnterEvent*) {

@@ -27,6 +27,7 @@ class ListView : public QListWidget, public ControlView {
   private:
     void paintBox();
     void syncFont();
+    void syncColors();
     void syncItems();
     void syncSelection();
     int selectedRow() const;

@@ -4,6 +4,7 @@
 #include <QInputMethodEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 #include <algorithm>
 
 #include "qt/paint/paper.h"
@@ -14,6 +15,7 @@
 #include "qt/windows/list_view.h"
 #include "qt/windows/page_window.h"
 #include "qt/windows/qt_values.h"
+#include "toolkit/style.h"
 
 namespace quillor {
 
@@ -115,6 +117,7 @@ void Page::layOut() {
         scale_.origin.setY(0);
     for (ControlView* each : views_)
         each->sync(scale_);
+    QToolTip::setFont(link_.shell().fonts.font(style::kToolTip, scale_.pixels));
     update();
 }
 

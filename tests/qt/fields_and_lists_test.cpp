@@ -1,13 +1,18 @@
 // Text fields and lists in step with their screen.
+#include <QApplication>
 #include <QClipboard>
 #include <QDropEvent>
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMimeData>
+#include <QScrollBar>
+#include <QToolTip>
 
 #include "core/text_rules.h"
+#include "qt/paint/label_painter.h"
 #include "tests/qt/shell_fixture.h"
+#include "toolkit/contrast.h"
 
 namespace quillor {
 
@@ -201,6 +206,69 @@ TEST_F(Lists, ReportADoubleClick) {
     QTest::mouseDClick(widget().viewport(), Qt::LeftButton, {}, second);
     EXPECT_EQ(list.listIndex(), 1);
     EXPECT_EQ(doubles, 1);
+}
+
+/// Looked at as they are painted.
+using FieldsAndLists = ShellTest;
+
+TEST_F(FieldsAndLists, KeepTheScrollBarWithinTheFrame) {
+    ListBox list;
+    screen.add(list).place(300, 300, 3000, 1500);
+    list.items.assign(100, u"entry");
+    PageWindow& window = open();
+    for (const int width : {1320, 3960}) {
+        window.resize(width, width / 2);
+        shell.event([] {});
+        auto& view = as<QListWidget>(list);
+        const QWidget& bar = *view.verticalScrollBar();
+        ASSERT_TRUE(bar.isVisible());
+        const QRect place(bar.mapTo(&view, QPoint()), bar.size());
+        const int ring = static_cast<int>(4 * fineLine(shell.find(&screen)->scale().pixels));
+        EXPECT_TRUE(view.rect().adjusted(ring, ring, -ring, -ring).contains(place)) << width;
+    }
+}
+
+TEST_F(FieldsAndLists, ShowTheChosenRowInAColorThatWhiteCanBeReadOn) {
+    QPalette light = QApplication::palette();
+    light.setColor(QPalette::Highlight, QColor(220, 230, 255));
+    QApplication::setPalette(light);
+    ListBox list;
+    screen.add(list).place(300, 300, 3000, 1500);
+    list.items = {u"entry"};
+    list.selectionColor = rgb(180, 240, 255);
+    open();
+    shell.event([&] { list.select(0); });
+    auto& view = as<QListWidget>(list);
+    const QRect row = view.visualItemRect(view.item(0));
+    const QColor face =
+        view.viewport()->grab().toImage().pixelColor(row.right() - row.height(), row.center().y());
+    EXPECT_GE(contrast(rgb(255, 255, 255), rgb(face.red(), face.green(), face.blue())), 4.5);
+    QApplication::setPalette(QPalette());
+}
+
+TEST_F(FieldsAndLists, GrowTheirEdgesAndCaretsWithTheWindow) {
+    TextField field;
+    addField(field, "txtWord", 300, 300);
+    field.font.size = 14;
+    PageWindow& window = open();
+    const auto edge = [&] {
+        auto& line = as<QLineEdit>(field);
+        line.clearFocus();
+        const QImage image = line.grab().toImage();
+        int y = 0;
+        while (qGray(image.pixel(image.width() / 2, y)) < 200)
+            ++y;
+        return std::pair(y, line.style()->pixelMetric(QStyle::PM_TextCursorWidth, nullptr, &line));
+    };
+    window.resize(660, 405);
+    shell.event([] {});
+    EXPECT_EQ(edge(), std::pair(1, 1));
+    const int tip = QFontInfo(QToolTip::font()).pixelSize();
+    window.resize(3960, 2430);
+    shell.event([] {});
+    EXPECT_GE(edge().first, 3);
+    EXPECT_GE(edge().second, 3);
+    EXPECT_GE(QFontInfo(QToolTip::font()).pixelSize(), 3 * tip);
 }
 
 }  // namespace

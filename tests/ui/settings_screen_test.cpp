@@ -59,6 +59,8 @@ TEST_F(OptionsTest, ShowsWhatTheFileSays) {
     EXPECT_EQ(options().lblCheck(3).caption, u"a");
     EXPECT_EQ(options().lblCheck(4).caption, u"");
     EXPECT_NE(options().shpDs(2).backColor, settings.glTheme);
+    EXPECT_GT(options().shpDs(2).borderWidth, 0);  // seen on a dark theme too
+    EXPECT_EQ(options().shpDs(0).borderWidth, 0);
     EXPECT_EQ(options().shpDs(0).backColor, settings.glTheme);
 }
 
