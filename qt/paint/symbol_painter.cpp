@@ -4,7 +4,6 @@
 #include <QPainterPath>
 #include <initializer_list>
 #include <map>
-#include <utility>
 
 #include "toolkit/style.h"
 

@@ -89,7 +89,7 @@ T& Player::usable(const std::string& id, const char* action) const {
 }
 
 void Player::click(const std::string& id) {
-    Label& label = usable<Label>(id, "click");
+    auto& label = usable<Label>(id, "click");
     EXPECT_TRUE(label.onClick) << id << " cannot be clicked";
     Screen& where = screen();
     desktop_.deliver([&] { where.mouseMove(label); });
@@ -100,22 +100,22 @@ void Player::click(const std::string& id) {
 
 void Player::rightClick(const std::string& id) {
     Screen& where = screen();
-    Control& target = usable<Control>(id, "right click");
+    auto& target = usable<Control>(id, "right click");
     desktop_.deliver([&] { where.rightClick(target); });
 }
 
 void Player::hover(const std::string& id) {
-    Control& target = usable<Control>(id, "hover");
+    auto& target = usable<Control>(id, "hover");
     desktop_.deliver([&] { screen().mouseMove(target); });
 }
 
 void Player::mouseDown(const std::string& id) {
-    Label& label = usable<Label>(id, "press");
+    auto& label = usable<Label>(id, "press");
     desktop_.deliver([&] { screen().mouseDown(label); });
 }
 
 void Player::mouseUp(const std::string& id) {
-    Label& label = usable<Label>(id, "release");
+    auto& label = usable<Label>(id, "release");
     desktop_.deliver([&] { screen().mouseUp(label); });
 }
 
@@ -124,14 +124,14 @@ void Player::clickInto(const std::string& fieldId, int caret) {
 }
 
 void Player::selectText(const std::string& fieldId, int start, int length) {
-    TextField& field = usable<TextField>(fieldId, "click");
+    auto& field = usable<TextField>(fieldId, "click");
     Screen& where = screen();
     desktop_.deliver([&] { desktop_.focus(where).take(field); });
     desktop_.deliver([&] { where.edit(field, field.text(), start, length); });
 }
 
 void Player::selectItem(const std::string& listId, int index) {
-    ListBox& list = usable<ListBox>(listId, "select");
+    auto& list = usable<ListBox>(listId, "select");
     Screen& where = screen();
     desktop_.deliver([&] { desktop_.focus(where).take(list); });
     desktop_.deliver([&] { where.selectItem(list, index); });
@@ -139,7 +139,7 @@ void Player::selectItem(const std::string& listId, int index) {
 
 void Player::doubleClickItem(const std::string& listId, int index) {
     selectItem(listId, index);
-    ListBox& list = usable<ListBox>(listId, "double click");
+    auto& list = usable<ListBox>(listId, "double click");
     desktop_.deliver([&] { screen().doubleClick(list); });
 }
 
