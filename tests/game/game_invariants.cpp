@@ -29,7 +29,7 @@ std::string readAll(const std::filesystem::path& path) {
 // The eleven lines that the record means; the settings screen leaves the last empty.
 std::string expectedFile(const GameSettings& settings, bool bySettingsScreen) {
     std::ostringstream lines;
-    const auto line = [&lines](int value) { lines << value << "\r\n"; };
+    const auto line = [&lines](auto value) { lines << value << "\r\n"; };
     line(settings.giDesign);
     for (const bool flag : {settings.gbUseSounds, settings.gbUseWikipedia, settings.gbHiddenLetters,
                             settings.gbHardScore, settings.gbInfiniteScore, settings.gbAgainstClock,
@@ -124,7 +124,8 @@ void GameInvariants::startModel() {
 }
 
 void GameInvariants::checkScreen(const frmGame& game) {
-    const bool covered = program_.find(ScreenId::Word1) || program_.find(ScreenId::Word2);
+    const bool covered =
+        program_.find(ScreenId::Word1) != nullptr || program_.find(ScreenId::Word2) != nullptr;
     require(game.enabled == !covered, "the game takes input under another screen, or never");
     switch (program_.settings.giGameState) {
         case kIdle:
@@ -181,7 +182,7 @@ void GameInvariants::checkBoard(const frmGame& game) {
     for (int cell = 1; cell <= static_cast<int>(game.round.cells.size()); ++cell) {
         const char16_t letter = folded.at(static_cast<std::size_t>(cell - 1));
         require(isLetter(game, cell) == (letter != u' '), "an underline is wrong");
-        require(isFound(game, cell) == (uncovered_.count(letter) > 0),
+        require(isFound(game, cell) == uncovered_.contains(letter),
                 "the visible cells do not match the guessed letters");
         found += isFound(game, cell) ? 1 : 0;
         letters += letter != u' ' ? 1 : 0;
@@ -194,7 +195,7 @@ void GameInvariants::checkBoard(const frmGame& game) {
 void GameInvariants::checkKeys(const frmGame& game) {
     for (int key = 1; key <= Keyboard::kLastGuessKey; ++key) {
         const Label& label = game.keyboard.lblKey(key);
-        const bool used = uncovered_.count(label.caption.front()) > 0;
+        const bool used = uncovered_.contains(label.caption.front());
         require(label.visible == !used, "a used key is offered, or an unused one is not");
         require(game.keyboard.shpKey(key).visible == label.visible, "a key and its face differ");
     }
@@ -235,7 +236,7 @@ void GameInvariants::checkStrikes(const frmGame& game) {
         require(filled == box, "a strike box is left out");
         ++filled;
         require(keys.insert(caption).second, "one letter is two mistakes");
-        require(program_.settings.giGameState != kPlaying || uncovered_.count(caption.front()) > 0,
+        require(program_.settings.giGameState != kPlaying || uncovered_.contains(caption.front()),
                 "a mistake nobody made");
     }
     require(filled == program_.settings.giStrikes, "giStrikes does not count the strike boxes");
@@ -254,7 +255,8 @@ void GameInvariants::checkFigure(const frmGame& game) {
     for (const auto& [piece, mistake] : pieces)
         require(piece->visible == (dropped || strikes >= mistake),
                 "the figure does not agree with the mistakes");
-    require(figure.shpPrt7.top == (dropped ? 3720 : 3360), "the platform is in no right place");
+    require(figure.shpPrt7.top == (dropped ? 3720.0F : 3360.0F),
+            "the platform is in no right place");
 }
 
 void GameInvariants::checkScore() {

@@ -48,7 +48,7 @@ TEST_F(GameKeysTest, DoNothingUnderTheSelectionScreen) {
     player.press(key::kReturn);
     for (const int code : {key::kReturn, key::kF2, key::kF3, key::kContextMenu})
         pressOnGame(code);
-    for (const int code : {'E', 'A', 'S', 'L', 'O', 'M'})
+    for (const int code : {u'E', u'A', u'S', u'L', u'O', u'M'})
         pressOnGame(code, true);
     EXPECT_EQ(player.screen().name, "frmWord2");
     EXPECT_TRUE(desktop.popUps.empty());

@@ -84,7 +84,7 @@ bool allowed(const std::string& folder, const Include& include) {
     if (include.name == kMadeHeader)
         return true;
     const std::string from = folderOf(include.name);
-    return from == folder || room.mayInclude.count(from) > 0;
+    return from == folder || room.mayInclude.contains(from);
 }
 
 class Boundaries : public ::testing::TestWithParam<std::string> {

@@ -111,7 +111,7 @@ TEST_P(EveryScreen, PutsEachControlInFrontOfItsFrame) {
     std::set<const Control*> behind;
     for (const ControlRef& ref : screen().controls()) {
         const Control& control = controlOf(ref);
-        EXPECT_TRUE(!control.parent || behind.count(control.parent)) << control.id;
+        EXPECT_TRUE(control.parent == nullptr || behind.contains(control.parent)) << control.id;
         behind.insert(&control);
     }
 }

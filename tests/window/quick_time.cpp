@@ -45,6 +45,8 @@ long long quickReading() {
 }  // namespace
 
 // The names under which the C library offers these; libraries loaded later find ours first.
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name): its headers' own
+// parameters have reserved names.
 extern "C" {
 
 int clock_gettime(clockid_t clock, timespec* now) noexcept {
@@ -79,3 +81,4 @@ int poll(pollfd* files, nfds_t count, int milliseconds) {
     return ppoll(files, count, milliseconds < 0 ? nullptr : &longest, nullptr);
 }
 }
+// NOLINTEND(readability-inconsistent-declaration-parameter-name)
