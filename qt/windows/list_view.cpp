@@ -95,6 +95,7 @@ void ListView::syncFont() {
     const int inset = static_cast<int>(std::ceil(kInset * shownScale_));
     setLineWidth(inset);
     scheduleDelayedItemsLayout();
+    keepSelectionInView();
 }
 
 void ListView::syncColors() {
@@ -130,7 +131,18 @@ void ListView::syncSelection() {
         return;
     }
     setCurrentRow(wanted);
-    scrollToItem(item(wanted));
+    keepSelectionInView();
+}
+
+void ListView::keepSelectionInView() {
+    if (const int row = selectedRow(); row >= 0)
+        scrollToItem(item(row));
+}
+
+// Rows grow with the window, so that others would be in view afterwards.
+void ListView::resizeEvent(QResizeEvent* event) {
+    QListWidget::resizeEvent(event);
+    keepSelectionInView();
 }
 
 int ListView::selectedRow() const {

@@ -20,6 +20,7 @@ class ListView : public QListWidget, public ControlView {
   protected:
     void syncLook() override;
     bool event(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -30,6 +31,7 @@ class ListView : public QListWidget, public ControlView {
     void syncColors();
     void syncItems();
     void syncSelection();
+    void keepSelectionInView();
     int selectedRow() const;
     void selectionMade();
 

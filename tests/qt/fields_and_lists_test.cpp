@@ -178,6 +178,18 @@ TEST_F(Lists, ShowWhatTheScreenSelectsWithoutReportingItBack) {
     EXPECT_EQ(clicks, 1);
 }
 
+TEST_F(Lists, KeepTheSelectionInViewAtEverySize) {
+    list.items.assign(100, u"entry");
+    list.select(60);
+    PageWindow& window = open();
+    for (const QSize size : {QSize(2640, 1620), QSize(900, 800), QSize(1320, 810)}) {
+        window.resize(size);
+        shell.event([] {});
+        const QRect row = widget().visualItemRect(widget().item(60));
+        EXPECT_TRUE(widget().viewport()->rect().contains(row)) << size.width();
+    }
+}
+
 TEST_F(Lists, DropAnEntryAndWithItTheSelection) {
     list.select(1);
     open();
