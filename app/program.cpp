@@ -6,6 +6,7 @@
 
 #include "app/menu_screen.h"
 #include "app/start_screen.h"
+#include "core/text_rules.h"
 
 namespace quillor {
 
@@ -88,6 +89,23 @@ void Program::close(Screen& screen) {
 
 void Program::end() {
     desktop.end();
+}
+
+int ePasteText(Program& program, TextView text, TextView selected, int caret) {
+    PastedText pasted = ePasteText(text, selected, caret, program.desktop.clipboard());
+    program.settings.gsTextResult = std::move(pasted.text);
+    return pasted.caret;
+}
+
+void eCopyToClipboard(Program& program, TextView text) {
+    program.desktop.setClipboard(text);
+}
+
+void eRestartGame(Program& program, Screen& caller) {
+    if (Screen* start = program.find(ScreenId::Start))
+        program.close(*start);
+    program.show(ScreenId::Start);
+    program.close(caller);
 }
 
 }  // namespace quillor

@@ -1,7 +1,7 @@
 // The loading sequence in its order, and the progress line that runs after it.
 #include "app/start_screen.h"
 
-#include "app/shared_operations.h"
+#include "app/program.h"
 #include "core/files.h"
 #include "core/guard.h"
 #include "core/numbers.h"

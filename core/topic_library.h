@@ -1,4 +1,5 @@
-// Topic files: the folder they live in, the sample topic, and loading them all.
+// Topic files: the folder they live in, what they may be called, the sample topic, and
+// loading them all.
 #pragma once
 
 #include <string_view>
@@ -6,6 +7,7 @@
 
 #include "core/disk.h"
 #include "core/game_settings.h"
+#include "core/types.h"
 
 namespace quillor {
 
@@ -38,5 +40,16 @@ void eLoadWords(GameSettings& settings, const Place& programFolder);
 
 /// The title as the player reads it: without the tag of Spanish topics.
 Text topicTitle(const Topic& topic);
+
+/// Whether a sign can be in no file's name on one system or another.
+bool isForbiddenInNames(char16_t sign);
+
+/// The name without those signs. With ".txt" behind it every system takes it,
+/// unless it is empty or a reserved one.
+Text withoutForbidden(TextView name);
+
+/// The name with "_" behind the word that Windows reserves for a device, if it
+/// is one: "CON" and "CON.1" become "CON_" and "CON_.1". Any other is unchanged.
+Text besideDevices(TextView name);
 
 }  // namespace quillor

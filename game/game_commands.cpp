@@ -1,5 +1,5 @@
 // What the menu and its keys do beside playing: leaving, restarting, switches.
-#include "app/shared_operations.h"
+#include "app/program.h"
 #include "core/settings_file.h"
 #include "game/game_screen.h"
 #include "game/rules/ways.h"

@@ -53,7 +53,7 @@ class frmGame : public Screen {
     void ePutSomeLucky();
 
   protected:
-    void onLoad() override;  // game_set_up.cpp, as are the next three
+    void onLoad() override;
     void onUnload() override { score.keepScore(); }
     void onKeyDown(KeyEvent& event) override;
     void onKeyPress(char16_t character) override;

@@ -18,7 +18,7 @@
 #include "qt/system/platform.h"
 #include "qt/system/program_folder.h"
 #include "qt/system/system_disk.h"
-#include "qt/tour/tour_script.h"
+#include "qt/tour/tour.h"
 #include "qt/windows/qt_values.h"
 #include "topics/topics.h"
 #include "ui/settings_screen.h"

@@ -1,7 +1,11 @@
+// Contrast and luminance as web pages measure them.
 #include "toolkit/contrast.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <optional>
+#include <span>
 
 namespace quillor {
 
@@ -44,6 +48,108 @@ Color mixed(Color under, Color over, double share) {
     };
     return rgb(mix(redOf(under), redOf(over)), mix(greenOf(under), greenOf(over)),
                mix(blueOf(under), blueOf(over)));
+}
+
+namespace {
+
+struct Point {
+    Twips x = 0;
+    Twips y = 0;
+};
+
+// A point of a control's parent, on their screen.
+Point onScreen(const Control& control, Point point) {
+    for (const Frame* frame = control.parent; frame; frame = frame->parent)
+        point = {point.x + frame->left, point.y + frame->top};
+    return point;
+}
+
+bool covers(const Control& control, Point point) {
+    const Point corner = onScreen(control, {control.left, control.top});
+    return isSeen(control) && point.x >= corner.x && point.x < corner.x + control.width &&
+           point.y >= corner.y && point.y < corner.y + control.height;
+}
+
+// What a control puts behind those in front of it.
+std::optional<Ground> groundOf(const ControlRef& ref) {
+    if (const auto* const* picture = std::get_if<Picture*>(&ref))
+        return Ground{.picture = *picture};
+    if (const auto* const* shape = std::get_if<Shape*>(&ref); shape && (*shape)->filled)
+        return Ground{.color = (*shape)->backColor, .enabled = (*shape)->enabled};
+    if (const auto* const* frame = std::get_if<Frame*>(&ref); frame && (*frame)->opaque)
+        return Ground{.color = (*frame)->backColor};
+    if (const auto* const* label = std::get_if<Label*>(&ref); label && (*label)->opaque)
+        return Ground{.color = (*label)->backColor};
+    return std::nullopt;
+}
+
+double leastContrast(Color ink, std::span<const Color> grounds, Color edge, double share) {
+    double least = contrast(ink, edge);
+    for (const Color ground : grounds)
+        least = std::min(least, contrast(ink, mixed(ground, edge, share)));
+    return least;
+}
+
+// The least opacity from which on an edge in that colour is enough; none: nothing is.
+std::optional<double> shareNeeded(Color ink, std::span<const Color> grounds, Color edge,
+                                  double needed) {
+    constexpr double kStep = 1.0 / 32;
+    double share = 1;
+    if (leastContrast(ink, grounds, edge, share) < needed)
+        return std::nullopt;
+    while (share > 0 && leastContrast(ink, grounds, edge, share - kStep) >= needed)
+        share -= kStep;
+    return share;
+}
+
+// At a point of the control's parent.
+Ground groundAt(const Screen& screen, const Control& front, Point point) {
+    point = onScreen(front, point);
+    Ground ground{.color = rgb(255, 255, 255)};
+    for (const ControlRef& ref : screen.controls()) {
+        const Control& control = controlOf(ref);
+        if (&control == &front)
+            break;
+        if (const auto found = groundOf(ref); found && covers(control, point))
+            ground = *found;
+    }
+    return ground;
+}
+
+}  // namespace
+
+Ground groundBehind(const Screen& screen, const Label& label) {
+    if (label.opaque)
+        return {.color = label.backColor};
+    return groundAt(screen, label, {label.left + label.width / 2, label.top + label.height / 2});
+}
+
+Ground groundBehind(const Screen& screen, const Line& line) {
+    return groundAt(screen, line, {(line.x1 + line.x2) / 2, (line.y1 + line.y2) / 2});
+}
+
+double contrastNeeded(const Font& font) {
+    const bool symbol = font.face == Face::Webdings || font.face == Face::Wingdings;
+    const bool large = font.size >= 18 || (font.bold && font.size >= 14);
+    return symbol || large ? kLargeTextContrast : kSmallTextContrast;
+}
+
+Edge edgeFor(Color ink, const ColorRange& ground, double needed) {
+    const double light = luminance(ink);
+    const bool between = luminance(ground[0]) < light && light < luminance(ground[1]);
+    const std::array<Color, 3> grounds{ground[0], ground[1], between ? ink : ground[0]};
+    const double without =
+        std::min({contrast(ink, grounds[0]), contrast(ink, grounds[1]), contrast(ink, grounds[2])});
+    if (without >= needed)
+        return {};
+    Edge best{farthestFrom(ink), 1};
+    for (const Color color : {rgb(0, 0, 0), rgb(255, 255, 255)})
+        if (const auto share = shareNeeded(ink, grounds, color, needed);
+            share && *share < best.share)
+            best = {color, *share};
+    const double lack = (needed - without) / (needed - 1);
+    best.share += (1 - best.share) * lack;
+    return best;
 }
 
 }  // namespace quillor

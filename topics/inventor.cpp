@@ -3,14 +3,13 @@
 
 #include <algorithm>
 
-#include "app/shared_operations.h"
+#include "app/program.h"
 #include "core/files.h"
 #include "core/guard.h"
 #include "core/numbers.h"
 #include "core/text_rules.h"
 #include "core/topic_library.h"
 #include "toolkit/style.h"
-#include "topics/file_name.h"
 
 namespace quillor {
 

@@ -1,6 +1,6 @@
 #include "ui/game_menu.h"
 
-#include "app/shared_operations.h"
+#include "app/program.h"
 #include "config/version.h"
 #include "core/files.h"
 #include "core/text_rules.h"

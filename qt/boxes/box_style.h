@@ -4,12 +4,19 @@
 
 #include <QFont>
 #include <QPalette>
+#include <QPixmap>
 #include <QProxyStyle>
 #include <QStyleOption>
 
 #include "core/types.h"
 
 namespace quillor {
+
+enum class BoxSign { Information, Question, Critical };
+
+/// A filled circle with a white mark, for a square of `size` logical pixels: red
+/// for what is critical, in the accent otherwise.
+QPixmap boxIcon(BoxSign sign, const QColor& accent, int size, double density);
 
 /// Over which window a box stands (null: none), and what it is drawn with.
 struct BoxStyle {

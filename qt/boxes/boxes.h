@@ -3,7 +3,6 @@
 
 #include <QString>
 
-#include "qt/boxes/box_icon.h"
 #include "qt/boxes/box_style.h"
 
 namespace quillor {

@@ -10,7 +10,7 @@
 #include "core/text_rules.h"
 #include "qt/paint/symbol_painter.h"
 #include "qt/windows/qt_values.h"
-#include "toolkit/ground.h"
+#include "toolkit/contrast.h"
 #include "toolkit/style.h"
 
 namespace quillor {

@@ -10,7 +10,7 @@
 #include <array>
 #include <string>
 
-#include "toolkit/ground.h"
+#include "toolkit/contrast.h"
 
 namespace quillor {
 

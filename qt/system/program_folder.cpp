@@ -4,7 +4,6 @@
 #include <stdexcept>
 #include <system_error>
 
-#include "core/draft.h"
 #include "core/files.h"
 #include "core/guard.h"
 #include "qt/system/system_disk.h"

@@ -8,9 +8,11 @@
 #include <QPoint>
 #include <QString>
 #include <QStringList>
+#include <filesystem>
 #include <functional>
 #include <vector>
 
+#include "app/program.h"
 #include "toolkit/screen.h"
 
 class QWidget;
@@ -76,5 +78,13 @@ class Tour : public QObject {
     int pictures_ = 0;
     QElapsedTimer waiting_;
 };
+
+/// Puts a topic with a known answer into an empty program folder, and takes
+/// over what changes the look from `model` (empty: nothing): the language
+/// marker, the colour file and the picture.
+void prepareTourFolder(const std::filesystem::path& folder, const std::filesystem::path& model);
+
+/// The steps, in the language of the program. Ends the program.
+std::vector<TourStep> tourScript(Tour& tour, bool english);
 
 }  // namespace quillor

@@ -1,9 +1,8 @@
-#include "qt/tour/tour_script.h"
-
 #include <array>
 #include <system_error>
 
 #include "core/files.h"
+#include "qt/tour/tour.h"
 #include "qt/windows/qt_values.h"
 
 namespace quillor {

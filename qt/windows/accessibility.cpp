@@ -1,12 +1,11 @@
 // A factory of accessible objects: labels know their role, state and press. A page
 // is a named pane, so that it is announced when the focus comes into it: the window
 // has been announced long before.
-#include "qt/windows/accessibility.h"
-
 #include <QAccessibleWidget>
 
 #include "qt/windows/label_views.h"
 #include "qt/windows/page_window.h"
+#include "qt/windows/shell.h"
 
 namespace quillor {
 

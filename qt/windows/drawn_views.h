@@ -5,7 +5,7 @@
 #include <tuple>
 
 #include "qt/windows/control_view.h"
-#include "toolkit/ground.h"
+#include "toolkit/contrast.h"
 
 namespace quillor {
 

@@ -5,7 +5,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include "toolkit/ground.h"
+#include "toolkit/contrast.h"
 
 namespace quillor {
 

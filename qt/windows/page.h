@@ -2,17 +2,38 @@
 // among them, keys and timers.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QKeyEvent>
+#include <QTimer>
 #include <QWidget>
 #include <unordered_map>
 #include <vector>
 
 #include "qt/windows/control_view.h"
-#include "qt/windows/screen_link.h"
-#include "qt/windows/timer_set.h"
-#include "qt/windows/twip_scale.h"
+#include "qt/windows/shell.h"
+#include "toolkit/timer_clock.h"
 
 namespace quillor {
+
+/// Runs a screen's timers.
+class TimerSet {
+  public:
+    TimerSet(ScreenLink& link, Screen& screen);
+
+    /// Starts, stops and re-times what has changed.
+    void sync();
+    void stop();
+
+  private:
+    void setAlarm();
+    void tick();
+
+    ScreenLink& link_;
+    Screen& screen_;
+    TimerClock clock_;
+    QElapsedTimer time_;
+    QTimer alarm_;  // for the tick that is due next
+};
 
 class PageWindow;
 

@@ -8,8 +8,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "qt/windows/accessibility.h"
 #include "qt/windows/qt_values.h"
+#include "qt/windows/shell.h"
 #include "toolkit/style.h"
 
 namespace quillor {

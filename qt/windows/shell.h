@@ -10,6 +10,7 @@
 #include "qt/paint/font_book.h"
 #include "qt/paint/paper.h"
 #include "qt/windows/key_mapping.h"
+#include "toolkit/focus.h"
 #include "toolkit/key_route.h"
 
 namespace quillor {
@@ -111,5 +112,41 @@ class Shell {
     bool again_ = false;
     bool ended_ = false;
 };
+
+/// How a control's widget reaches its screen, for as long as there is one.
+class ScreenLink {
+  public:
+    ScreenLink(Shell& shell, Screen& screen) : shell_(shell), screen_(&screen), focus_(screen) {}
+
+    Shell& shell() const { return shell_; }
+    /// Not to be asked for anything but its control once the screen is closed.
+    Focus& focus() { return focus_; }
+
+    /// Runs `body(screen)` as one event; does nothing once the screen is closed.
+    template <typename Body>
+    void event(Body&& body) {
+        if (screen_)
+            shell_.event([&] { std::forward<Body>(body)(*screen_); });
+    }
+
+    template <typename Body>
+    void keyEvent(Body&& body) {
+        if (screen_)
+            shell_.keyEvent([&] { std::forward<Body>(body)(*screen_); });
+    }
+
+    /// Null once it is closed.
+    const Screen* screen() const { return screen_; }
+    bool isOpen() const { return screen_ != nullptr; }
+    void cut() { screen_ = nullptr; }
+
+  private:
+    Shell& shell_;
+    Screen* screen_;
+    Focus focus_;
+};
+
+/// Tells the toolkit about our own roles; once is enough, more do no harm.
+void installAccessibility();
 
 }  // namespace quillor

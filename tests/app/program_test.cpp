@@ -1,7 +1,6 @@
 // Opening and closing of screens, and the operations that several share.
 #include "app/program.h"
 
-#include "app/shared_operations.h"
 #include "tests/app/app_fixture.h"
 
 namespace quillor::testing {

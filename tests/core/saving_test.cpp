@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include "core/draft.h"
 #include "core/files.h"
 #include "tests/support/environment.h"
 #include "tests/support/faulty_disk.h"

@@ -7,7 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include "qt/boxes/box_icon.h"
 #include "qt/windows/qt_values.h"
 #include "toolkit/contrast.h"
 

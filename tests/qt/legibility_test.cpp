@@ -14,7 +14,7 @@
 #include "qt/windows/page_window.h"
 #include "qt/windows/qt_values.h"
 #include "tests/support/game_test.h"
-#include "toolkit/ground.h"
+#include "toolkit/contrast.h"
 
 namespace quillor::testing {
 

@@ -10,7 +10,6 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
-#include "qt/paint/jpeg_header.h"
 #include "qt/paint/paper.h"
 #include "tests/support/faulty_disk.h"
 #include "tests/support/temp_folder.h"

@@ -8,7 +8,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "core/draft.h"
 #include "core/files.h"
 #include "qt/system/system_disk.h"
 #include "tests/support/temp_folder.h"

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "core/draft.h"
 #include "core/files.h"
 #include "tests/support/temp_folder.h"
 

@@ -1,7 +1,7 @@
 // What lies behind a text, and the edges that follow from it.
-#include "toolkit/ground.h"
-
 #include <gtest/gtest.h>
+
+#include "toolkit/contrast.h"
 
 namespace quillor::testing {
 namespace {

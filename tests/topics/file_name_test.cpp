@@ -1,7 +1,7 @@
 // Names of topic files: what goes, what is marked, what is left alone.
-#include "topics/file_name.h"
-
 #include <gtest/gtest.h>
+
+#include "core/topic_library.h"
 
 namespace quillor {
 namespace {
