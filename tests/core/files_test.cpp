@@ -1,10 +1,15 @@
-// Whole files: lines with any ends, and writing that replaces all or nothing.
+// Whole files: lines with any ends, and writing that replaces all or nothing. And the
+// guard, which ends an operation on an error, keeps what it did, and tells of it on wish.
 #include "core/files.h"
 
 #include <chrono>
+#include <stdexcept>
+#include <string>
 
 #include <gtest/gtest.h>
 
+#include "core/guard.h"
+#include "tests/support/environment.h"
 #include "tests/support/temp_folder.h"
 
 namespace quillor {
@@ -208,5 +213,45 @@ TEST(FileExists, TakesEveryErrorAsNo) {
     EXPECT_FALSE(eFileExists(std::filesystem::path()));
 }
 
+TEST(Guard, SaysThatTheBodyRanToItsEnd) {
+    EXPECT_TRUE(quietly("eTest", [] {}));
+}
+
+TEST(Guard, KeepsWhatWasDoneBeforeTheError) {
+    int done = 0;
+    const bool ended = quietly("eTest", [&] {
+        done = 1;
+        throw std::runtime_error("broken");
+    });
+    EXPECT_FALSE(ended);
+    EXPECT_EQ(done, 1);
+}
+
+TEST(Guard, SwallowsWhatIsNoException) {
+    EXPECT_FALSE(quietly("eTest", [] { throw 1; }));
+}
+
+class GuardLog : public ::testing::Test {
+  protected:
+    void TearDown() override { clearVariable("QUILLOR_LOG"); }
+
+    static std::string logOf(const char* error) {
+        ::testing::internal::CaptureStderr();
+        quietly("eTest", [&] { throw std::runtime_error(error); });
+        return ::testing::internal::GetCapturedStderr();
+    }
+};
+
+TEST_F(GuardLog, SaysNothingUnlessAsked) {
+    clearVariable("QUILLOR_LOG");
+    EXPECT_EQ(logOf("broken"), "");
+}
+
+TEST_F(GuardLog, WritesOneLineWithOperationAndErrorWhenAsked) {
+    setVariable("QUILLOR_LOG", "1");
+    EXPECT_EQ(logOf("broken"), "quillor: eTest ended: broken\n");
+}
+
 }  // namespace
+
 }  // namespace quillor

@@ -1,4 +1,5 @@
-// The topic folder: its listing, the sample topic, and the loading of all files.
+// The topic folder: its listing, the names that files in it may have, and the loading of
+// all files.
 #include "core/topic_library.h"
 
 #include <gtest/gtest.h>
@@ -200,5 +201,34 @@ TEST_F(Library, LoadedAgainHoldsNothingOfTheOldFiles) {
     EXPECT_EQ(settings.gaTopicLines.at(0)[2], u"");
 }
 
+TEST(FileName, LosesSignsThatSomeSystemDoesNotTake) {
+    EXPECT_EQ(withoutForbidden(u"a\\b/c:d*e?f\"g<h>i|j"), u"abcdefghij");
+    EXPECT_EQ(withoutForbidden(u"a\tb\r\nc\x7F"), u"abc");
+}
+
+TEST(FileName, KeepsStopsBlanksAndAnyLetter) {
+    EXPECT_EQ(withoutForbidden(u" EE.UU. ñ Ω. "), u" EE.UU. ñ Ω. ");
+}
+
+TEST(FileName, IsMarkedWhereItIsADevice) {
+    EXPECT_EQ(besideDevices(u"CON"), u"CON_");
+    EXPECT_EQ(besideDevices(u"nul"), u"nul_");
+    EXPECT_EQ(besideDevices(u"Lpt9"), u"Lpt9_");
+    EXPECT_EQ(besideDevices(u"COM²"), u"COM²_");
+    EXPECT_EQ(besideDevices(u"CONIN$"), u"CONIN$_");
+}
+
+TEST(FileName, IsMarkedBehindTheDeviceItself) {
+    EXPECT_EQ(besideDevices(u"CON.1.2"), u"CON_.1.2");
+    EXPECT_EQ(besideDevices(u"PRN "), u"PRN_ ");
+    EXPECT_EQ(besideDevices(u"AUX ."), u"AUX_ .");
+}
+
+TEST(FileName, IsLeftWhereItOnlyLooksLikeADevice) {
+    for (const TextView name : {u"", u".", u"CONE", u"COM", u"COM10", u"COMX", u"A.CON", u"CON_"})
+        EXPECT_EQ(besideDevices(name), name);
+}
+
 }  // namespace
+
 }  // namespace quillor

@@ -1,14 +1,15 @@
 // Random games of random events: whatever is done, the game stays whole.
 // QUILLOR_RANDOM_GAMES in the environment is how many games are played in all,
 // QUILLOR_RANDOM_SEED where the seeds begin.
+#include <algorithm>
 #include <cstdlib>
 #include <sstream>
 #include <tuple>
+#include <vector>
 
 #include <gtest/gtest.h>
 
 #include "tests/game/random_session.h"
-#include "tests/game/shrink.h"
 
 namespace quillor::testing {
 namespace {
@@ -18,6 +19,25 @@ constexpr int kEvents = 800;  // in one session
 std::uint64_t fromEnvironment(const char* name, std::uint64_t otherwise) {
     const char* value = std::getenv(name);
     return value ? std::strtoull(value, nullptr, 10) : otherwise;
+}
+
+// Leaves out parts of the list, large ones first, as long as `fails` says that the rest
+// still fails, which must be true of the list itself.
+template <typename T, typename Fails>
+std::vector<T> shrunk(std::vector<T> list, Fails&& fails) {
+    for (std::size_t part = std::max<std::size_t>(list.size() / 2, 1); part > 0; part /= 2) {
+        for (std::size_t from = 0; from < list.size();) {
+            const auto first = list.begin() + static_cast<std::ptrdiff_t>(from);
+            const auto length = std::min(part, list.size() - from);
+            std::vector<T> rest(list.begin(), first);
+            rest.insert(rest.end(), first + static_cast<std::ptrdiff_t>(length), list.end());
+            if (fails(rest))
+                list = std::move(rest);
+            else
+                from += length;
+        }
+    }
+    return list;
 }
 
 // The shortest list of events that still makes the same problem.

@@ -1,4 +1,5 @@
-// Which folder may include which, checked on every #include there is.
+// What no compiler would notice: which folder may include which, checked on every
+// #include there is, and the table of texts, read as source.
 #include <map>
 #include <optional>
 #include <regex>
@@ -172,5 +173,28 @@ TEST(BoundaryRules, SeeEveryFormOfInclude) {
     EXPECT_FALSE(includeOf("// include <a>").has_value());
 }
 
+std::vector<SourceLine> textLines() {
+    std::vector<SourceLine> lines = sourceLines("core");
+    std::erase_if(lines, [](const SourceLine& line) { return line.file != "core/texts.h"; });
+    return lines;
+}
+
+TEST(SourceTexts, AreNeverEmpty) {
+    ASSERT_FALSE(textLines().empty());
+    for (const SourceLine& line : textLines())
+        EXPECT_EQ(line.text.find("u\"\""), std::string::npos) << line.place();
+}
+
+TEST(SourceTexts, StandInNoOtherFile) {
+    for (const char* folder : {"toolkit", "app", "game/rules", "ui", "topics", "game"}) {
+        for (const SourceLine& line : sourceLines(folder)) {
+            const std::string code = line.text.substr(0, line.text.find("//"));
+            EXPECT_EQ(code.find("\xC2\xA1"), std::string::npos) << line.place();  // ¡
+            EXPECT_EQ(code.find("\xC2\xBF"), std::string::npos) << line.place();  // ¿
+        }
+    }
+}
+
 }  // namespace
+
 }  // namespace quillor::testing

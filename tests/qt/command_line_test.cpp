@@ -1,10 +1,18 @@
-// Options, their values, and what is refused.
+// Options, their values, and what is refused; where the program keeps its files, and
+// where it cannot; addresses for the browser.
 #include "qt/command_line.h"
 
+#include <stdexcept>
+
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "qt/qt_desktop.h"
+#include "qt/system/program_folder.h"
+#include "tests/support/temp_folder.h"
 
 namespace quillor {
-
 namespace {
 
 using Action = CommandLine::Action;
@@ -62,6 +70,107 @@ TEST(CommandLine, SpeaksTheLanguageThatTheUserLikesBetter) {
     EXPECT_TRUE(prefersEnglish({"en-GB", "es"}));
     EXPECT_TRUE(prefersEnglish({"fr-FR"}));
     EXPECT_TRUE(prefersEnglish({}));
+}
+
+constexpr TextView kSearch = u"http://find.example/search?q=";
+constexpr TextView kArticle = u"http://es.wiki.example/wiki/";
+
+TEST(Address, EncodesBlanksAndAccentsOfASearch) {
+    EXPECT_EQ(encodedAddress(kSearch, u"pingüino feliz"),
+              "http://find.example/search?q=ping%C3%BCino%20feliz");
+}
+
+TEST(Address, KeepsSignsOfThePhraseThatMeanSomethingInAnAddress) {
+    EXPECT_EQ(encodedAddress(kSearch, u"a&b #1 50% c++ ¿qué?"),
+              "http://find.example/search?q=a%26b%20%231%2050%25%20c%2B%2B%20%C2%BFqu%C3%A9%3F");
+}
+
+TEST(Address, EncodesAnArticlesName) {
+    EXPECT_EQ(encodedAddress(kArticle, u"torre eiffel"),
+              "http://es.wiki.example/wiki/torre%20eiffel");
+    EXPECT_EQ(encodedAddress(kArticle, u"¿qué es #1?"),
+              "http://es.wiki.example/wiki/%C2%BFqu%C3%A9%20es%20%231%3F");
+}
+
+TEST(Address, TakesNoSignOfAnArticlesNameForAQuery) {
+    EXPECT_EQ(encodedAddress(kArticle, u"what?a=b"), "http://es.wiki.example/wiki/what%3Fa%3Db");
+    EXPECT_EQ(encodedAddress(kArticle, u"http://x?y=z"),
+              "http://es.wiki.example/wiki/http://x%3Fy%3Dz");
+}
+
+TEST(Address, MayBeThePageAlone) {
+    EXPECT_EQ(encodedAddress(kSearch, u""), "http://find.example/search?q=");
+}
+
+using testing::TempFolder;
+
+TEST(ProgramFolder, IsTheExecutablesFolderWhenItCanBeWrittenTo) {
+    const TempFolder here;
+    const TempFolder user;
+    EXPECT_EQ(findProgramFolder(here.path(), user / "quillor"), here.path());
+    EXPECT_FALSE(user.has("quillor"));
+    EXPECT_TRUE(std::filesystem::is_empty(here.path()));
+}
+
+TEST(ProgramFolder, IsTheUsersOwnOtherwise) {
+    const TempFolder here;
+    const TempFolder user;
+    const auto found = findProgramFolder(here / "is not there", user / "data/quillor");
+    EXPECT_EQ(found, user / "data/quillor");
+    EXPECT_TRUE(user.has("data/quillor"));
+}
+
+// Root may write everywhere, so what root runs is run as another user meanwhile.
+class UsersFolder : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        std::filesystem::permissions(here.path(), std::filesystem::perms{0555});
+        std::filesystem::permissions(user.path(), std::filesystem::perms{0777});
+        if (before_ == 0 && seteuid(65534) != 0)
+            GTEST_SKIP() << "root cannot be another user here";
+    }
+    void TearDown() override {
+        ASSERT_EQ(seteuid(before_), 0);
+        std::filesystem::permissions(here.path(), std::filesystem::perms::owner_all);
+    }
+    TempFolder here;
+    TempFolder user;
+
+  private:
+    const uid_t before_ = geteuid();
+};
+
+class UsersFolderWithManual : public UsersFolder {
+  protected:
+    UsersFolderWithManual() { here.write("Quillor-Manual.txt", "help"); }
+};
+
+TEST_F(UsersFolderWithManual, GetsTheManual) {
+    EXPECT_EQ(findProgramFolder(here.path(), user / "quillor"), user / "quillor");
+    EXPECT_EQ(user.read("quillor/Quillor-Manual.txt"), "help");
+}
+
+class UsersFolderWithPipe : public UsersFolder {
+  protected:
+    UsersFolderWithPipe() { mkfifo((here / "Quillor-Manual.txt").c_str(), 0666); }
+};
+
+TEST_F(UsersFolderWithPipe, WaitsForNobodyWhoWouldFillIt) {
+    EXPECT_EQ(findProgramFolder(here.path(), user / "quillor"), user / "quillor");
+    EXPECT_FALSE(user.has("quillor/Quillor-Manual.txt"));
+}
+
+TEST(ProgramFolder, MakesTheGivenFolder) {
+    const TempFolder folder;
+    EXPECT_EQ(useFolder(folder / "a/b"), folder / "a/b");
+    EXPECT_TRUE(folder.has("a/b"));
+}
+
+TEST(ProgramFolder, RefusesAFile) {
+    const TempFolder folder;
+    folder.write("file", "x");
+    EXPECT_THROW(useFolder(folder / "file"), std::runtime_error);
+    EXPECT_THROW(useFolder(folder / "file/below"), std::runtime_error);
 }
 
 }  // namespace

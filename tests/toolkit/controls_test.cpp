@@ -1,4 +1,5 @@
-// What frames do to a control; what lists hold, and when they tell of a change.
+// What frames do to a control; what lists hold, and when they tell of a change; what a
+// caption says, and which key presses it.
 #include "toolkit/controls.h"
 
 #include <stdexcept>
@@ -105,5 +106,32 @@ TEST(Timer, IsServedNoFasterThanTheSystemsTimers) {
     EXPECT_EQ(timer.servedInterval(), 400);
 }
 
+TEST(Caption, NamesTheAccessKey) {
+    EXPECT_EQ(accessKey(u"AJU&STES"), u'S');
+    EXPECT_EQ(accessKey(u"&ábaco"), u'Á');
+    EXPECT_EQ(accessKey(u"¿QUÉ ES ESO&?"), u'?');
+    EXPECT_EQ(accessKey(u"SAVE && CREATE"), 0);
+    EXPECT_EQ(accessKey(u"A && &B"), u'B');
+    EXPECT_EQ(accessKey(u"END&"), 0);
+}
+
+TEST(Caption, IsReadWithoutItsMarks) {
+    EXPECT_EQ(plainCaption(u"MODO &ARCADE"), u"MODO ARCADE");
+    EXPECT_EQ(plainCaption(u"SAVE && CREATE"), u"SAVE & CREATE");
+    EXPECT_EQ(plainCaption(u"END&"), u"END");
+    EXPECT_EQ(plainCaption(u""), u"");
+}
+
+TEST(Caption, HasNoMarksWhereItIsData) {
+    Label label;
+    label.caption = u"R&B && 100%S";
+    EXPECT_EQ(accessKey(label), u'B');
+    EXPECT_EQ(plainCaption(label), u"RB & 100%S");
+    label.literal = true;
+    EXPECT_EQ(accessKey(label), 0);
+    EXPECT_EQ(plainCaption(label), u"R&B && 100%S");
+}
+
 }  // namespace
+
 }  // namespace quillor
