@@ -270,6 +270,74 @@ inline constexpr TextPair kBackHelp{
 inline constexpr TextPair kAskRestart{u"¿Quieres reiniciar el juego para cargar el nuevo tema?",
                                       u"Do you want to restart the game to load the new topic?"};
 
+// What is found in topics; the detail stands in place of "%".
+inline constexpr TextPair kFlawNoText{
+    u"no es un texto, o es uno en UTF-16: el juego mostrará signos sin sentido; guárdalo como "
+    u"UTF-8",
+    u"is no text, or one in UTF-16: the game will show signs without a meaning; save it as UTF-8"};
+inline constexpr TextPair kFlawEncoding{
+    u"«%» parece una letra mal codificada: el juego la mostrará así; guarda todo el archivo como "
+    u"UTF-8",
+    u"\"%\" looks like a letter in the wrong encoding: the game will show it so; save the whole "
+    u"file as UTF-8"};
+inline constexpr TextPair kFlawControl{
+    u"codificación dudosa, hay un signo que no se ve (%): la frase no se podrá completar con "
+    u"letras",
+    u"doubtful encoding, there is a sign that is not seen (%): the phrase cannot be completed by "
+    u"letters"};
+inline constexpr TextPair kFlawNoTitle{u"falta el título: el juego mostrará (NINGÚN TEMA)",
+                                       u"the title is missing: the game will show (NO TOPIC)"};
+inline constexpr TextPair kFlawLongTitle{
+    u"el título tiene más de % caracteres: el juego lo mostrará más pequeño",
+    u"the title has more than % characters: the game will show it smaller"};
+inline constexpr TextPair kFlawNoMark{
+    u"el título no termina en [español]: el juego lo carga igual, pero nadie verá en qué idioma "
+    u"está",
+    u"the title does not end in [español]: the game loads it all the same, but nobody will see "
+    u"what language it is in"};
+inline constexpr TextPair kFlawTooFew{
+    u"hay menos de dos frases seguidas tras el título: el juego no dejará jugar este tema",
+    u"there are fewer than two phrases in a row behind the title: the game will not let this topic "
+    u"be played"};
+inline constexpr TextPair kFlawTooMany{
+    u"es la frase 51 y sólo caben 50: aquí deja de cargar el juego, también todos los temas que "
+    u"siguen",
+    u"is phrase 51 and there is room for 50: here the game stops loading, all later topics too"};
+inline constexpr TextPair kFlawGap{
+    u"línea vacía: las frases que siguen no saldrán nunca en el juego",
+    u"empty line: the phrases after it will never come up in the game"};
+inline constexpr TextPair kFlawOnlyBlanks{u"sólo tiene espacios: no saldrá nunca en el juego",
+                                          u"consists of blanks: it will never come up in the game"};
+inline constexpr TextPair kFlawNoKey{
+    u"ninguna tecla ofrece «%»: la frase no se podrá completar con letras",
+    u"no key offers \"%\": the phrase cannot be completed by letters"};
+inline constexpr TextPair kFlawCut{
+    u"no cabe en las tres filas de catorce casillas: el juego la recortará",
+    u"does not fit into the three rows of fourteen cells: the game will cut it"};
+inline constexpr TextPair kFlawLongWord{
+    u"«%» no cabe en una fila de catorce casillas: el juego la partirá",
+    u"\"%\" does not fit into a row of fourteen cells: the game will break it"};
+inline constexpr TextPair kFlawEndBlanks{
+    u"los espacios del principio o del final son parte de la respuesta: quien la escriba sin ellos "
+    u"perderá",
+    u"blanks at the start or the end belong to the answer: whoever types it without them will "
+    u"lose"};
+inline constexpr TextPair kFlawManyBlanks{
+    u"tiene espacios seguidos, que son parte de la respuesta: quien la escriba con uno solo "
+    u"perderá",
+    u"has blanks in a row, which belong to the answer: whoever types it with one alone will lose"};
+inline constexpr TextPair kFlawTwice{
+    u"ya está en la línea %: saldrá con más frecuencia que las demás",
+    u"is on line % already: it will come up more often than the others"};
+inline constexpr TextPair kFlawTwiceFolded{
+    u"sólo difiere de la línea % en tildes: en el juego son la misma respuesta",
+    u"differs from line % in accents alone: in the game both are the same answer"};
+inline constexpr TextPair kFlawElsewhere{u"también está en %: saldrá en los dos temas",
+                                         u"is also in %: it will come up in both topics"};
+inline constexpr TextPair kFlawLineEnd{
+    u"el fin de línea no es CR LF: el juego lo lee igual, pero otros programas quizá no",
+    u"the line end is not CR LF: the game reads it all the same, but other programs may not"};
+
 // Spoken names: what a screen reader says of a control whose caption is a
 // symbol, a field or a drawing.
 inline constexpr TextPair kSpokenSounds{u"Sonidos", u"Sounds"};
@@ -305,11 +373,16 @@ inline constexpr TextPair kTerminalHelp{
     u"\n"
     u"El ahorcado con frases completas, en español y en inglés.\n"
     u"\n"
-    u"Uso: quillor [opciones]\n"
+    u"Uso: quillor [opciones] [TEMA.txt]...\n"
+    u"     quillor --check-topics [ARCHIVO o CARPETA]...\n"
     u"\n"
+    u"  TEMA.txt           copia ese tema a la carpeta de temas del juego\n"
     u"  --folder CARPETA   guarda ajustes y temas en CARPETA\n"
     u"  --tour CARPETA     juega solo una partida corta y deja imágenes de ella\n"
     u"                     en CARPETA\n"
+    u"  --check-topics     dice qué tienen de malo unos temas, o los del juego, sin\n"
+    u"                     abrir ventanas; termina con 0 si nada, con 1 si algo y\n"
+    u"                     con 2 si hay alguno que no se puede leer\n"
     u"  --version          muestra la versión y termina\n"
     u"  --help             muestra este texto y termina\n"
     u"\n"
@@ -319,12 +392,17 @@ inline constexpr TextPair kTerminalHelp{
     u"\n"
     u"Hangman on whole phrases, in Spanish and English.\n"
     u"\n"
-    u"Usage: quillor [options]\n"
+    u"Usage: quillor [options] [TOPIC.txt]...\n"
+    u"       quillor --check-topics [FILE or DIR]...\n"
     u"\n"
-    u"  --folder DIR   keep settings and topics in DIR\n"
-    u"  --tour DIR     play a short game by itself and write pictures of it to DIR\n"
-    u"  --version      print the version and exit\n"
-    u"  --help         print this text and exit\n"
+    u"  TOPIC.txt        copy that topic into the game's topic folder\n"
+    u"  --folder DIR     keep settings and topics in DIR\n"
+    u"  --tour DIR       play a short game by itself and write pictures of it to DIR\n"
+    u"  --check-topics   say what is wrong with topics, or with the game's own,\n"
+    u"                   without a window; exit with 0 if nothing is, with 1 if\n"
+    u"                   something is and with 2 if one cannot be read\n"
+    u"  --version        print the version and exit\n"
+    u"  --help           print this text and exit\n"
     u"\n"
     u"Without --folder everything is kept in the folder of the program itself or,\n"
     u"where that is write-protected, in the user's data folder. A file English.txt\n"
@@ -332,6 +410,8 @@ inline constexpr TextPair kTerminalHelp{
 inline constexpr TextPair kUnknownOption{u"opción desconocida: ", u"unknown option: "};
 inline constexpr TextPair kNeedsFolder{u"falta la carpeta de la opción: ",
                                        u"a folder is missing for the option: "};
+inline constexpr TextPair kNoTopicToRead{u"no se puede leer ningún tema de: ",
+                                         u"no topic can be read from: "};
 inline constexpr TextPair kTryHelp{u" (prueba --help)", u" (try --help)"};
 inline constexpr TextPair kNoDisplay{
     u"no se puede abrir ninguna pantalla (¿tiene valor DISPLAY o WAYLAND_DISPLAY?)",

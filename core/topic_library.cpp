@@ -110,6 +110,12 @@ Text topicTitle(const Topic& topic) {
     return trimmed(replaceAll(upperCase(topic[0]), texts::kSpanishTag, u""));
 }
 
+int countPhrases(const Topic& topic) {
+    const auto gap =
+        std::find_if(topic.begin() + 1, topic.end(), [](const Text& line) { return line.empty(); });
+    return static_cast<int>(gap - topic.begin()) - 1;
+}
+
 namespace {
 
 // The rules of the strictest system, which is Windows, hold for all: topics travel.

@@ -41,6 +41,9 @@ void eLoadWords(GameSettings& settings, const Place& programFolder);
 /// The title as the player reads it: without the tag of Spanish topics.
 Text topicTitle(const Topic& topic);
 
+/// How many phrases can be dealt: those from the first slot on, up to the first gap.
+int countPhrases(const Topic& topic);
+
 /// Whether a sign can be in no file's name on one system or another.
 bool isForbiddenInNames(char16_t sign);
 

@@ -45,6 +45,14 @@ CommandLine parseCommandLine(const QStringList& arguments, bool english) {
                 word == "--help" ? CommandLine::Action::Help : CommandLine::Action::Version;
             return result;
         }
+        if (word == "--check-topics") {
+            result.action = CommandLine::Action::CheckTopics;
+            continue;
+        }
+        if (!word.startsWith('-')) {
+            result.files << word;
+            continue;
+        }
         const qsizetype equals = word.indexOf('=');
         const QString option = equals < 0 ? word : word.left(equals);
         QString* value = valueOf(option, result);
@@ -55,6 +63,11 @@ CommandLine parseCommandLine(const QStringList& arguments, bool english) {
         if (value->isEmpty())
             return refused(texts::kNeedsFolder, option);
     }
+    // Topics are taken in from nothing else; what is to be checked may be a folder.
+    for (const QString& file : result.files)
+        if (result.action == CommandLine::Action::Play &&
+            !file.endsWith(".txt", Qt::CaseInsensitive))
+            return refused(texts::kUnknownOption, file);
     return result;
 }
 

@@ -11,6 +11,7 @@
 
 #include "app/program.h"
 #include "core/files.h"
+#include "core/topic_library.h"
 #include "game/game_screen.h"
 #include "qt/boxes/box_style.h"
 #include "qt/command_line.h"
@@ -20,6 +21,7 @@
 #include "qt/system/system_disk.h"
 #include "qt/tour/tour.h"
 #include "qt/windows/qt_values.h"
+#include "topics/topic_check.h"
 #include "topics/topics.h"
 #include "ui/settings_screen.h"
 
@@ -134,6 +136,38 @@ int play(const CommandLine& line, int argc, char** argv) {
     return Session(folder).run();
 }
 
+// The topics named or, where none is, the game's own in both languages.
+std::vector<Place> topicsToCheck(const CommandLine& line) {
+    Disk& disk = platform::systemDisk();
+    std::vector<Place> places;
+    for (const QString& file : line.files)
+        places.emplace_back(toPath(fromQt(file)), disk);
+    if (!places.empty())
+        return places;
+    const Place folder(line.folder.isEmpty()
+                           ? findProgramFolder(executableFolder(), platform::userDataFolder())
+                           : useFolder(toPath(fromQt(line.folder))),
+                       disk);
+    for (const bool english : {false, true}) {
+        GameSettings settings;
+        settings.gbEnglish = english;
+        if (const Place topics = topicFolder(settings, folder); eFileExists(topics))
+            places.push_back(topics);
+    }
+    return places;
+}
+
+int tellOfTopics(const CommandLine& line, bool english, int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName("Quillor");
+    const TopicReport report = checkTopics(topicsToCheck(line), english);
+    for (const Text& finding : report.found)
+        say(toQt(finding) + "\n");
+    for (const Text& place : report.unread)
+        complain(onTerminal(texts::kNoTopicToRead, english) + toQt(place));
+    return report.exitCode();
+}
+
 int run(int argc, char** argv) {
     const bool english = systemIsEnglish();
     const CommandLine line = parseCommandLine(platform::arguments(argc, argv), english);
@@ -147,6 +181,8 @@ int run(int argc, char** argv) {
         case CommandLine::Action::Refuse:
             complain(line.error);
             return kBadUsage;
+        case CommandLine::Action::CheckTopics:
+            return tellOfTopics(line, english, argc, argv);
         case CommandLine::Action::Play:
             break;
     }

@@ -27,13 +27,6 @@ void startTour(GameSettings& settings) {
     }
 }
 
-/// Consecutive phrases from the first slot; a gap ends the count.
-int countPhrases(const Topic& topic) {
-    const auto gap =
-        std::find_if(topic.begin() + 1, topic.end(), [](const Text& line) { return line.empty(); });
-    return static_cast<int>(gap - topic.begin()) - 1;
-}
-
 bool isAcceptable(const Text& phrase, const Text& last) {
     return !trimmed(phrase).empty() && phrase != last;
 }

@@ -39,6 +39,26 @@ TEST(CommandLine, AnswersForVersionAndHelp) {
     EXPECT_TRUE(helpText(true).contains("--folder DIR"));
 }
 
+TEST(CommandLine, TakesTopicsBetweenOptions) {
+    const CommandLine line = parseCommandLine({"mi tema.txt", "--folder", "x", "B.TXT"}, true);
+    EXPECT_EQ(line.action, Action::Play);
+    EXPECT_EQ(line.files, QStringList({"mi tema.txt", "B.TXT"}));
+    EXPECT_EQ(line.folder, "x");
+}
+
+TEST(CommandLine, TakesNothingButTopics) {
+    const CommandLine line = parseCommandLine({"topic.doc"}, true);
+    EXPECT_EQ(line.action, Action::Refuse);
+    EXPECT_TRUE(line.error.contains("topic.doc"));
+}
+
+TEST(CommandLine, ChecksFilesAndFolders) {
+    const CommandLine line = parseCommandLine({"--check-topics", "Temas", "a.txt"}, true);
+    EXPECT_EQ(line.action, Action::CheckTopics);
+    EXPECT_EQ(line.files, QStringList({"Temas", "a.txt"}));
+    EXPECT_EQ(parseCommandLine({"--check-topics"}, true).action, Action::CheckTopics);
+}
+
 TEST(CommandLine, RefusesWhatItDoesNotKnow) {
     const CommandLine line = parseCommandLine({"--fodler", "x"}, true);
     EXPECT_EQ(line.action, Action::Refuse);
