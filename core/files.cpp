@@ -242,10 +242,14 @@ void writeLines(const Place& file, const std::vector<Text>& lines) {
     writeFile(file, joined(lines));
 }
 
-void writeNewLines(const Place& file, const std::vector<Text>& lines) {
+void writeNewFile(const Place& file, std::string_view bytes) {
     Draft draft(folderOf(file));
-    draft.fill(joined(lines));
+    draft.fill(bytes);
     draft.becomeNew(file);
+}
+
+void writeNewLines(const Place& file, const std::vector<Text>& lines) {
+    writeNewFile(file, joined(lines));
 }
 
 fs::path toPath(TextView text) {

@@ -33,6 +33,10 @@ std::string readFileStart(const Place& file, std::size_t lines);
 /// std::runtime_error; a folder or a read-only file is not replaced.
 void writeFile(const Place& file, std::string_view bytes);
 
+/// Writes a file that is not there yet. When there is anything of that name, be it a
+/// folder or a link to nothing, that stays as it is. Throws as writeFile does.
+void writeNewFile(const Place& file, std::string_view bytes);
+
 /// Removes the temporary files in a folder that killed runs have left there.
 /// Says nothing of those that it cannot remove.
 void removeLeftovers(const Place& folder);
@@ -51,8 +55,7 @@ std::vector<Text> readLines(const Place& file, std::size_t most);
 
 /// The lines with CR LF after each, the last one included. Throws as writeFile does.
 void writeLines(const Place& file, const std::vector<Text>& lines);
-/// The same into a new file. When there is anything of that name, be it a folder
-/// or a link to nothing, that stays as it is.
+/// The same into a new file, as writeNewFile does.
 void writeNewLines(const Place& file, const std::vector<Text>& lines);
 
 /// A path from text, and back. Bytes of a path that are no text become U+FFFD.

@@ -79,6 +79,47 @@ void eWriteDemoTopic(const GameSettings& settings, const Place& programFolder) {
     });
 }
 
+namespace {
+
+constexpr const char* kLaidOut = "Quillor-Packs.txt";  // the topics' names, one a line
+constexpr std::size_t kMostPackBytes = 1'000'000;
+
+// Adds the names of those that are there now to `known`.
+void layOutFolder(const Place& from, const Place& to, std::vector<Text>& known) {
+    if (from.disk().look(from).kind != Disk::Kind::Folder)
+        return;
+    if (to.disk().look(to).kind == Disk::Kind::Nothing)
+        to.disk().makeFolder(to);
+    for (const Place& pack : topicFiles(from)) {
+        const fs::path name = pack.path().filename();
+        const Text line = fromPath(to.path().filename()) + u"/" + fromPath(name);
+        if (std::find(known.begin(), known.end(), line) != known.end())
+            continue;
+        quietly("lay out a topic", [&] {
+            if (const auto bytes = readFile(pack, kMostPackBytes)) {
+                writeNewFile(to / name, *bytes);
+                known.push_back(line);
+            }
+        });
+    }
+}
+
+}  // namespace
+
+void layOutTopics(const Place& packs, const Place& programFolder) {
+    quietly("layOutTopics", [&] {
+        const Place list = programFolder / kLaidOut;
+        std::vector<Text> known;
+        if (list.disk().look(list).kind != Disk::Kind::Nothing)
+            known = readLines(list, 2 * kMostTopics);
+        const std::size_t before = known.size();
+        for (const char* folder : {"Temas", "Topics"})
+            layOutFolder(packs / folder, programFolder / folder, known);
+        if (known.size() > before)
+            writeLines(list, known);
+    });
+}
+
 ParsedTopic parseTopic(std::string_view bytes) {
     const SplitLines split = splitLines(bytes, kTopicLines);
     ParsedTopic parsed;

@@ -23,6 +23,13 @@ std::vector<Place> topicFiles(const Place& folder);
 /// Fails silently.
 void eWriteDemoTopic(const GameSettings& settings, const Place& programFolder);
 
+/// Copies the topics that come with the program, `packs`/Temas and `packs`/Topics, into
+/// the folders of those names in the program folder. Each is laid out once: what the
+/// player has made of it, or that it was removed, stays so, and a topic of that name that
+/// was there before. Which were laid out stands in a file of the program folder. Fails
+/// silently.
+void layOutTopics(const Place& packs, const Place& programFolder);
+
 /// What a topic file's bytes hold.
 struct ParsedTopic {
     Topic topic;           // in capitals

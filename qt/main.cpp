@@ -131,8 +131,11 @@ int play(const CommandLine& line, int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
     if (!line.tour.isEmpty())
         return playTour(line.tour, folder);
-    if (folder.empty())
+    if (folder.empty()) {
         folder = findProgramFolder(executableFolder(), platform::userDataFolder());
+        layOutTopics({executableFolder() / "packs", platform::systemDisk()},
+                     {folder, platform::systemDisk()});
+    }
     return Session(folder).run();
 }
 

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "core/files.h"
+#include "tests/support/faulty_disk.h"
 #include "tests/support/temp_folder.h"
 
 namespace quillor {
@@ -199,6 +200,83 @@ TEST_F(Library, LoadedAgainHoldsNothingOfTheOldFiles) {
     load();
     EXPECT_EQ(settings.gaTopicLines.at(0)[1], u"NEW");
     EXPECT_EQ(settings.gaTopicLines.at(0)[2], u"");
+}
+
+// A package's topics in `packs`, and a program folder to lay them out in.
+class LayingOut : public ::testing::Test {
+  protected:
+    LayingOut() {
+        packs.write("Temas/Aves.txt", "AVES\r\n");
+        packs.write("Temas/El mar.txt", "EL MAR\r\n");
+        packs.write("Topics/Birds.txt", "BIRDS\r\n");
+    }
+    void layOut() { layOutTopics({packs.path(), disk}, {folder.path(), disk}); }
+    testing::TempFolder packs;
+    testing::TempFolder folder;
+    testing::FaultyDisk disk;
+};
+
+TEST_F(LayingOut, BringsTheTopicsOfBothLanguages) {
+    layOut();
+    EXPECT_EQ(folder.read("Temas/Aves.txt"), "AVES\r\n");
+    EXPECT_EQ(folder.read("Temas/El mar.txt"), "EL MAR\r\n");
+    EXPECT_EQ(folder.read("Topics/Birds.txt"), "BIRDS\r\n");
+    EXPECT_EQ(folder.read("Quillor-Packs.txt"),
+              "Temas/Aves.txt\r\nTemas/El mar.txt\r\nTopics/Birds.txt\r\n");
+}
+
+TEST_F(LayingOut, KeepsWhatThePlayerHasMadeOfThem) {
+    layOut();
+    folder.write("Temas/Aves.txt", "MINE\r\n");
+    std::filesystem::remove(folder / "Topics/Birds.txt");
+    layOut();
+    EXPECT_EQ(folder.read("Temas/Aves.txt"), "MINE\r\n");
+    EXPECT_FALSE(folder.has("Topics/Birds.txt"));
+}
+
+TEST_F(LayingOut, ReplacesNoTopicThatWasThereBefore) {
+    folder.write("Temas/Aves.txt", "MINE\r\n");
+    layOut();
+    EXPECT_EQ(folder.read("Temas/Aves.txt"), "MINE\r\n");
+    std::filesystem::remove(folder / "Temas/Aves.txt");
+    layOut();
+    EXPECT_FALSE(folder.has("Temas/Aves.txt"));
+}
+
+TEST_F(LayingOut, BringsWhatALaterPackageHasMore) {
+    layOut();
+    packs.write("Topics/Trees.txt", "TREES\r\n");
+    layOut();
+    EXPECT_TRUE(folder.has("Topics/Trees.txt"));
+    EXPECT_TRUE(folder.read("Quillor-Packs.txt").ends_with("Topics/Trees.txt\r\n"));
+}
+
+TEST_F(LayingOut, WithoutAPackageMakesNothing) {
+    std::filesystem::remove_all(packs.path());
+    layOut();
+    EXPECT_EQ(folder.size(), 0);
+}
+
+TEST_F(LayingOut, PutsNothingBackWhileTheListCannotBeRead) {
+    layOut();
+    std::filesystem::remove(folder / "Temas/Aves.txt");
+    disk.breakDown(testing::FaultyDisk::Operation::Open);
+    layOut();
+    disk.mend();
+    EXPECT_FALSE(folder.has("Temas/Aves.txt"));
+    layOut();
+    EXPECT_FALSE(folder.has("Temas/Aves.txt"));
+}
+
+TEST_F(LayingOut, TriesAgainWhatCouldNotBeWritten) {
+    disk.breakDown(testing::FaultyDisk::Operation::Flush, 2);
+    layOut();
+    EXPECT_TRUE(folder.has("Temas/Aves.txt"));
+    EXPECT_FALSE(folder.has("Temas/El mar.txt"));
+    disk.mend();
+    layOut();
+    EXPECT_TRUE(folder.has("Temas/El mar.txt"));
+    EXPECT_TRUE(folder.has("Topics/Birds.txt"));
 }
 
 TEST(FileName, LosesSignsThatSomeSystemDoesNotTake) {

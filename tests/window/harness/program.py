@@ -21,13 +21,16 @@ def executable():
 
 
 class Program:
-    def __init__(self, desktop, folder, arguments=(), environment=None, binary=None):
+    def __init__(
+        self, desktop, folder, arguments=(), environment=None, binary=None, own_folder=False
+    ):
         self.desktop = desktop
         self.folder = folder
         self._known = {}  # control id -> Node
         self._log_path = desktop.scratch / "program.log"
         settings = {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "QUILLOR_TEST_IDS": "1"}
-        command = [str(binary or executable()), "--folder", str(folder), *arguments]
+        named = [] if own_folder else ["--folder", str(folder)]
+        command = [str(binary or executable()), *named, *arguments]
         with open(self._log_path, "wb") as log:
             self.process = desktop.start_program(command, {**settings, **(environment or {})}, log)
 

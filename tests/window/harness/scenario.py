@@ -88,9 +88,11 @@ class Scenario(Eyes, Dialogs, unittest.TestCase):
 
     # The program
 
-    def start(self, *arguments, environment=None, binary=None):
+    def start(self, *arguments, environment=None, binary=None, own_folder=False):
+        """With a folder of its own the program is not told which one to use."""
+        environment = {"QUILLOR_LOG": "1", **(environment or {})}
         self.program = Program(
-            self.desktop, self.folder, arguments, {"QUILLOR_LOG": "1", **(environment or {})}, binary
+            self.desktop, self.folder, arguments, environment, binary, own_folder
         )
 
     def end_program(self):
