@@ -378,6 +378,8 @@ inline constexpr TextPair kTerminalHelp{
     u"\n"
     u"  TEMA.txt           copia ese tema a la carpeta de temas del juego\n"
     u"  --folder CARPETA   guarda ajustes y temas en CARPETA\n"
+    u"  --portable         los guarda en la carpeta del programa, aunque el juego\n"
+    u"                     esté instalado para todos\n"
     u"  --tour CARPETA     juega solo una partida corta y deja imágenes de ella\n"
     u"                     en CARPETA\n"
     u"  --check-topics     dice qué tienen de malo unos temas, o los del juego, sin\n"
@@ -386,9 +388,9 @@ inline constexpr TextPair kTerminalHelp{
     u"  --version          muestra la versión y termina\n"
     u"  --help             muestra este texto y termina\n"
     u"\n"
-    u"Sin --folder todo se guarda en la carpeta del programa o, si está protegida\n"
-    u"contra escritura, en la carpeta de datos del usuario. Con un archivo\n"
-    u"English.txt en ella, el juego está en inglés.\n",
+    u"Sin --folder todo se guarda en la carpeta del programa o, si el juego está\n"
+    u"instalado para todos o la carpeta protegida contra escritura, en la de datos\n"
+    u"del usuario. Con un archivo English.txt en ella, el juego está en inglés.\n",
     u"\n"
     u"Hangman on whole phrases, in Spanish and English.\n"
     u"\n"
@@ -397,6 +399,8 @@ inline constexpr TextPair kTerminalHelp{
     u"\n"
     u"  TOPIC.txt        copy that topic into the game's topic folder\n"
     u"  --folder DIR     keep settings and topics in DIR\n"
+    u"  --portable       keep them in the program's own folder, even where the game is\n"
+    u"                   installed for everybody\n"
     u"  --tour DIR       play a short game by itself and write pictures of it to DIR\n"
     u"  --check-topics   say what is wrong with topics, or with the game's own,\n"
     u"                   without a window; exit with 0 if nothing is, with 1 if\n"
@@ -405,8 +409,8 @@ inline constexpr TextPair kTerminalHelp{
     u"  --help           print this text and exit\n"
     u"\n"
     u"Without --folder everything is kept in the folder of the program itself or,\n"
-    u"where that is write-protected, in the user's data folder. A file English.txt\n"
-    u"in it makes the interface English.\n"};
+    u"where the game is installed for everybody or that folder is write-protected, in\n"
+    u"the user's data folder. A file English.txt in it makes the interface English.\n"};
 inline constexpr TextPair kUnknownOption{u"opción desconocida: ", u"unknown option: "};
 inline constexpr TextPair kNeedsFolder{u"falta la carpeta de la opción: ",
                                        u"a folder is missing for the option: "};

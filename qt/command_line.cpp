@@ -45,6 +45,10 @@ CommandLine parseCommandLine(const QStringList& arguments, bool english) {
                 word == "--help" ? CommandLine::Action::Help : CommandLine::Action::Version;
             return result;
         }
+        if (word == "--portable") {
+            result.portable = true;
+            continue;
+        }
         if (word == "--check-topics") {
             result.action = CommandLine::Action::CheckTopics;
             continue;

@@ -18,10 +18,11 @@ QString onTerminal(const TextPair& text, bool english);
 struct CommandLine {
     enum class Action { Play, CheckTopics, Version, Help, Refuse };
     Action action = Action::Play;
-    QString folder;     // empty: the program finds it itself
-    QString tour;       // where the tour's pictures go; empty: no tour
-    QStringList files;  // topics to take in or, with folders, to check
-    QString error;      // one line, for Refuse
+    QString folder;         // empty: the program finds it itself
+    QString tour;           // where the tour's pictures go; empty: no tour
+    QStringList files;      // topics to take in or, with folders, to check
+    bool portable = false;  // the program's own folder, even where it is installed for all
+    QString error;          // one line, for Refuse
 };
 
 /// `arguments` is the command line without the program's name. Never fails: what

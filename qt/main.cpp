@@ -66,8 +66,8 @@ std::filesystem::path executableFolder() {
 
 class Session {
   public:
-    explicit Session(const std::filesystem::path& folder)
-        : fonts_({folder / "fonts", executableFolder() / "fonts"}),
+    Session(const std::filesystem::path& folder, const Installation& here)
+        : fonts_({folder / "fonts", here.executableFolder / "fonts", here.shared / "fonts"}),
           shell_(fonts_),
           desktop_(shell_, makeSoundPlayer()),
           program_(desktop_, {folder, platform::systemDisk()}) {
@@ -106,13 +106,14 @@ class Session {
 
 // In a folder of its own, so that the player's settings and topics stay as they
 // are; what changes the look is taken from the player's folder.
-int playTour(const QString& pictures, const std::filesystem::path& model) {
+int playTour(const QString& pictures, const std::filesystem::path& model,
+             const Installation& here) {
     const QTemporaryDir folder;
     if (!folder.isValid())
         throw std::runtime_error("no temporary folder for the tour");
     const std::filesystem::path path = toPath(fromQt(folder.path()));
     prepareTourFolder(path, model);
-    return Session(path).runTour(pictures);
+    return Session(path, here).runTour(pictures);
 }
 
 int play(const CommandLine& line, int argc, char** argv) {
@@ -127,16 +128,18 @@ int play(const CommandLine& line, int argc, char** argv) {
     qInstallMessageHandler(nullptr);
     QApplication::setStyle(new NotebookStyle);
     QApplication::setApplicationName("Quillor");
+    QApplication::setDesktopFileName("org.quillor.quillor");
     QApplication::setWindowIcon(programIcon());
     QApplication::setQuitOnLastWindowClosed(false);
+    const Installation here = findInstallation(executableFolder(), line.portable);
     if (!line.tour.isEmpty())
-        return playTour(line.tour, folder);
+        return playTour(line.tour, folder, here);
     if (folder.empty()) {
-        folder = findProgramFolder(executableFolder(), platform::userDataFolder());
-        layOutTopics({executableFolder() / "packs", platform::systemDisk()},
+        folder = findProgramFolder(here, platform::userDataFolder());
+        layOutTopics({here.shared / "packs", platform::systemDisk()},
                      {folder, platform::systemDisk()});
     }
-    return Session(folder).run();
+    return Session(folder, here).run();
 }
 
 // The topics named or, where none is, the game's own in both languages.
@@ -148,7 +151,8 @@ std::vector<Place> topicsToCheck(const CommandLine& line) {
     if (!places.empty())
         return places;
     const Place folder(line.folder.isEmpty()
-                           ? findProgramFolder(executableFolder(), platform::userDataFolder())
+                           ? findProgramFolder(findInstallation(executableFolder(), line.portable),
+                                               platform::userDataFolder())
                            : useFolder(toPath(fromQt(line.folder))),
                        disk);
     for (const bool english : {false, true}) {

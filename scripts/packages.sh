@@ -12,7 +12,8 @@
     packages_test=(libgtest-dev libgmock-dev libbenchmark-dev xdotool imagemagick at-spi2-core
         weston python3 python3-gi python3-xlib hunspell hunspell-es hunspell-en-us)
     # One version of the formatter, because each formats a little differently.
-    packages_check=(clang-format-14 clang-tidy-14 shellcheck)
+    packages_check=(clang-format-14 clang-tidy-14 shellcheck desktop-file-utils appstream
+        man-db)
 }
 
 as_root() {

@@ -15,6 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kManual = "Quillor-Manual.txt";
+constexpr const char* kPortableMarker = "Portable.txt";
 constexpr std::size_t kMostManualBytes = 1'000'000;
 
 // Permissions do not tell on every system and file system: trying does.
@@ -22,19 +23,34 @@ bool canWriteTo(const fs::path& folder) {
     return quietly("try the folder", [&] { const Draft probe({folder, platform::systemDisk()}); });
 }
 
-// A newer program brings a newer manual.
+bool isFolder(const fs::path& path) {
+    std::error_code ignored;
+    return fs::is_directory(path, ignored);
+}
+
+// A newer program brings a newer manual. The copy is as old as what it was copied from.
 void bringManual(const fs::path& fromFolder, const fs::path& toFolder) {
     quietly("bring the manual", [&] {
         const Place from(fromFolder / kManual, platform::systemDisk());
         const Place to(toFolder / kManual, platform::systemDisk());
-        if (isFile(to) && fs::last_write_time(to) >= fs::last_write_time(from))
+        const fs::file_time_type age = fs::last_write_time(from);
+        if (isFile(to) && fs::last_write_time(to) >= age)
             return;
-        if (const auto bytes = readFile(from, kMostManualBytes))
+        if (const auto bytes = readFile(from, kMostManualBytes)) {
             writeFile(to, *bytes);
+            fs::last_write_time(to, age);
+        }
     });
 }
 
 }  // namespace
+
+Installation findInstallation(const fs::path& executableFolder, bool portable) {
+    const fs::path shared = executableFolder / QUILLOR_SHARED_FROM_PROGRAM;
+    if (!portable && isFolder(shared) && !fs::exists(executableFolder / kPortableMarker))
+        return {executableFolder, shared, true};
+    return {executableFolder, executableFolder, false};
+}
 
 fs::path useFolder(const fs::path& folder) {
     std::error_code error;
@@ -46,11 +62,11 @@ fs::path useFolder(const fs::path& folder) {
     return fs::absolute(folder);
 }
 
-fs::path findProgramFolder(const fs::path& executableFolder, const fs::path& userDataFolder) {
-    if (canWriteTo(executableFolder))
-        return executableFolder;
-    fs::path folder = useFolder(userDataFolder);
-    bringManual(executableFolder, folder);
+fs::path findProgramFolder(const Installation& here, const fs::path& userDataFolder) {
+    if (!here.systemWide && canWriteTo(here.executableFolder))
+        return here.executableFolder;
+    const fs::path folder = useFolder(userDataFolder);
+    bringManual(here.shared, folder);
     return folder;
 }
 

@@ -59,6 +59,11 @@ TEST(CommandLine, ChecksFilesAndFolders) {
     EXPECT_EQ(parseCommandLine({"--check-topics"}, true).action, Action::CheckTopics);
 }
 
+TEST(CommandLine, TakesAPortableProgramAtItsWord) {
+    EXPECT_TRUE(parseCommandLine({"--portable", "--tour", "x"}, true).portable);
+    EXPECT_FALSE(parseCommandLine({}, true).portable);
+}
+
 TEST(CommandLine, RefusesWhatItDoesNotKnow) {
     const CommandLine line = parseCommandLine({"--fodler", "x"}, true);
     EXPECT_EQ(line.action, Action::Refuse);
@@ -127,7 +132,8 @@ using testing::TempFolder;
 TEST(ProgramFolder, IsTheExecutablesFolderWhenItCanBeWrittenTo) {
     const TempFolder here;
     const TempFolder user;
-    EXPECT_EQ(findProgramFolder(here.path(), user / "quillor"), here.path());
+    EXPECT_EQ(findProgramFolder(findInstallation(here.path(), false), user / "quillor"),
+              here.path());
     EXPECT_FALSE(user.has("quillor"));
     EXPECT_TRUE(std::filesystem::is_empty(here.path()));
 }
@@ -135,7 +141,8 @@ TEST(ProgramFolder, IsTheExecutablesFolderWhenItCanBeWrittenTo) {
 TEST(ProgramFolder, IsTheUsersOwnOtherwise) {
     const TempFolder here;
     const TempFolder user;
-    const auto found = findProgramFolder(here / "is not there", user / "data/quillor");
+    const auto found =
+        findProgramFolder(findInstallation(here / "is not there", false), user / "data/quillor");
     EXPECT_EQ(found, user / "data/quillor");
     EXPECT_TRUE(user.has("data/quillor"));
 }
@@ -166,7 +173,8 @@ class UsersFolderWithManual : public UsersFolder {
 };
 
 TEST_F(UsersFolderWithManual, GetsTheManual) {
-    EXPECT_EQ(findProgramFolder(here.path(), user / "quillor"), user / "quillor");
+    EXPECT_EQ(findProgramFolder(findInstallation(here.path(), false), user / "quillor"),
+              user / "quillor");
     EXPECT_EQ(user.read("quillor/Quillor-Manual.txt"), "help");
 }
 
@@ -176,8 +184,47 @@ class UsersFolderWithPipe : public UsersFolder {
 };
 
 TEST_F(UsersFolderWithPipe, WaitsForNobodyWhoWouldFillIt) {
-    EXPECT_EQ(findProgramFolder(here.path(), user / "quillor"), user / "quillor");
+    EXPECT_EQ(findProgramFolder(findInstallation(here.path(), false), user / "quillor"),
+              user / "quillor");
     EXPECT_FALSE(user.has("quillor/Quillor-Manual.txt"));
+}
+
+// A program in bin/, and what everybody shares where the build says.
+class SystemWide : public ::testing::Test {
+  protected:
+    SystemWide() {
+        system.write("bin/quillor", "");
+        system.write(kManual, "help");
+        std::filesystem::last_write_time(system / kManual, {});
+    }
+    std::filesystem::path find(bool portable = false) {
+        return findProgramFolder(findInstallation(system / "bin", portable), user / "quillor");
+    }
+    static constexpr const char* kManual = "bin/" QUILLOR_SHARED_FROM_PROGRAM "/Quillor-Manual.txt";
+    TempFolder system;
+    TempFolder user;
+};
+
+TEST_F(SystemWide, KeepsThePlayersFilesInTheDataFolderEvenForRoot) {
+    EXPECT_EQ(find(), user / "quillor");
+    EXPECT_EQ(user.read("quillor/Quillor-Manual.txt"), "help");
+}
+
+// The manual of an older release that was installed late is no newer than a newer one's.
+TEST_F(SystemWide, BringsTheManualOfANewerRelease) {
+    find();
+    system.write(kManual, "more help");
+    std::filesystem::last_write_time(system / kManual,
+                                     std::filesystem::file_time_type{} + std::chrono::hours(1));
+    find();
+    EXPECT_EQ(user.read("quillor/Quillor-Manual.txt"), "more help");
+}
+
+TEST_F(SystemWide, IsPortableWhenToldSo) {
+    EXPECT_EQ(find(true), system / "bin");
+    system.write("bin/Portable.txt", "");
+    EXPECT_EQ(find(), system / "bin");
+    EXPECT_FALSE(user.has("quillor"));
 }
 
 TEST(ProgramFolder, MakesTheGivenFolder) {
