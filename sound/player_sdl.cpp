@@ -132,8 +132,12 @@ void SdlSoundDevice::rest() {
 
 }  // namespace
 
+std::unique_ptr<SoundDevice> makeSoundDevice() {
+    return std::make_unique<SdlSoundDevice>();
+}
+
 std::unique_ptr<SoundPlayer> makeSoundPlayer() {
-    return std::make_unique<ThreadedSoundPlayer>(std::make_unique<SdlSoundDevice>());
+    return std::make_unique<ThreadedSoundPlayer>(makeSoundDevice());
 }
 
 }  // namespace quillor

@@ -62,4 +62,7 @@ class ThreadedSoundPlayer final : public SoundPlayer {
     std::thread thread_;
 };
 
+/// The device of this build, where it is played on a thread.
+std::unique_ptr<SoundDevice> makeSoundDevice();
+
 }  // namespace quillor

@@ -5,7 +5,6 @@
 #include <QBuffer>
 #include <QImage>
 #include <QImageWriter>
-#include <chrono>
 #include <memory>
 #include <stdexcept>
 
@@ -102,11 +101,9 @@ TEST_F(PictureLoader, TakesAJpegOfManyMegapixels) {
 
 TEST_F(PictureLoader, HasNoUseForMoreThanAHundredMegapixels) {
     const long before = memoryUsed();
-    const auto start = std::chrono::steady_clock::now();
     EXPECT_EQ(load(claiming(20000, 20000, true)), nullptr);
     EXPECT_EQ(load(claiming(10001, 10000, false)), nullptr);
     EXPECT_LT(memoryUsed() - before, 50'000);
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
 }
 
 TEST_F(PictureLoader, HasNoUseForAProgressivePictureThatIsKeptWholeWhileDecoded) {

@@ -9,8 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include "sound/player.h"
-#include "sound/wave_decoder.h"
+#include "sound/player_thread.h"
 #include "tests/sound/wave_bytes.h"
 
 namespace quillor::testing {
@@ -18,6 +17,16 @@ namespace {
 
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
+
+/// Far more than anything here takes on a busy machine, far less than what hangs.
+constexpr auto kSoon = 20s;
+
+/// Waits for its device as long as a busy machine may need.
+std::unique_ptr<SoundPlayer> patientPlayer() {
+    return std::make_unique<ThreadedSoundPlayer>(
+        makeSoundDevice(),
+        ThreadedSoundPlayer::Limits{.opening = 1min, .reopening = 1min, .overtime = 1min});
+}
 
 Clock::duration play(SoundPlayer& player, const Image& image) {
     const auto start = Clock::now();
@@ -53,7 +62,7 @@ class SoundFile : public ::testing::Test {
 
     /// The file grows by silence for as long as there is a player.
     static void playAll(std::span<const int> ids) {
-        const auto player = makeSoundPlayer();
+        const auto player = patientPlayer();
         for (const int id : ids)
             player->play(carriedSound(id));
     }
@@ -83,36 +92,44 @@ TEST_F(SoundFile, HoldsASoundOfAnotherFormatUnconverted) {
 
 class StalledDevice : public SoundFile {
   protected:
-    StalledDevice() : SoundFile("60000") {}
+    StalledDevice() : SoundFile("60000") { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
+
+    /// As the program would play; leaves 0 when nothing has waited for the device.
+    [[noreturn]] static void playAndLeave() {
+        auto player = makeSoundPlayer();
+        const Image image = carriedSound(104);
+        bool held = play(*player, image) > kSoon;
+        held |= play(*player, image) > kSoon;
+        const auto start = Clock::now();
+        player = nullptr;
+        held |= Clock::now() - start > kSoon;
+        std::_Exit(held ? 1 : 0);
+    }
 };
 
-TEST_F(StalledDevice, HoldsTheGameNotMuchLongerThanTheSound) {
-    auto player = makeSoundPlayer();
-    const Image image = carriedSound(104);
-    EXPECT_LT(play(*player, image), decodeWave(image).length() + 800ms);
-    EXPECT_LT(play(*player, image), 100ms);
-    const auto start = Clock::now();
-    player = nullptr;
-    EXPECT_LT(Clock::now() - start, 800ms);
+// In a process of its own: what hangs in the audio library would be in the next test's way.
+TEST_F(StalledDevice, DoesNotHoldTheGame) {
+    EXPECT_EXIT(playAndLeave(), ::testing::ExitedWithCode(0), "");
 }
 
 TEST(SilentDevice, ReturnsWhenTheSoundIsOver) {
     setenv("SDL_AUDIODRIVER", "dummy", 1);
-    const auto player = makeSoundPlayer();
+    const auto player = patientPlayer();
     const Image image = carriedSound(104);
-    const auto length = decodeWave(image).length();
     for (int i = 0; i < 2; ++i) {
         const auto taken = play(*player, image);
-        EXPECT_GT(taken, length - 30ms);
-        EXPECT_LT(taken, length + 600ms);
+        EXPECT_GT(taken, decodeWave(image).length() - 30ms);
+        EXPECT_LT(taken, kSoon);
     }
 }
 
+// Of four sounds not even one could be heard in that time, and no limit runs out.
 TEST(MissingDevice, IsSilentAtOnce) {
     setenv("SDL_AUDIODRIVER", "there-is-no-such-driver", 1);
-    const auto player = makeSoundPlayer();
+    const auto player = patientPlayer();
+    const Image image = carriedSound(105);
     for (int i = 0; i < 4; ++i)
-        EXPECT_LT(play(*player, carriedSound(105)), 200ms);
+        EXPECT_LT(play(*player, image), decodeWave(image).length());
 }
 
 }  // namespace
