@@ -32,13 +32,13 @@ bool hasNothingToErase(const TextField& field) {
 KeyRoute::Rest KeyRoute::press(Screen& screen, Focus& focus, const KeyPress& press) {
     if (!screen.enabled)
         return Rest::None;
-    if (!press.key.autoRepeat)
+    if (!press.autoRepeat)
         held_ = Held{press.id, &screen, focus.control()};
     else if (!mayRepeat(screen, focus, press))
         return Rest::None;
     visited_ = &screen;
-    const bool taken = !press.key.autoRepeat &&
-                       (isTaken(screen, focus, press.key) || pressAccessKey(screen, press));
+    const bool taken =
+        !press.autoRepeat && (isTaken(screen, focus, press.key) || pressAccessKey(screen, press));
     const Rest rest = taken ? Rest::None : serve(screen, focus, press);
     visited_ = nullptr;
     return rest;
@@ -94,7 +94,7 @@ KeyRoute::Rest KeyRoute::serve(Screen& screen, Focus& focus, const KeyPress& pre
         return Rest::None;
     const bool list = focus.as<ListBox>() != nullptr;
     letRepeat(list);
-    if (!press.key.autoRepeat)
+    if (!press.autoRepeat)
         typeOn(screen, press.typed);
     return list && goesOn(screen) ? Rest::List : Rest::None;
 }
@@ -109,8 +109,8 @@ KeyRoute::Rest KeyRoute::serveField(Screen& screen, TextField& field, const KeyP
         return Rest::Field;
     } else {
         // At the beginning of a text Backspace may be a command of the screen.
-        const bool spent = press.key.autoRepeat && press.typed.front() == kCharBackspace &&
-                           hasNothingToErase(field);
+        const bool spent =
+            press.autoRepeat && press.typed.front() == kCharBackspace && hasNothingToErase(field);
         letRepeat(!spent && typeInto(screen, field, press.typed));
     }
     return Rest::None;

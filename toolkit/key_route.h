@@ -12,9 +12,10 @@ namespace quillor {
 /// A key going down, as a shell tells of it.
 struct KeyPress {
     KeyEvent key;
-    Text typed;         // printable text, Return or Backspace; empty for a shortcut
-    char16_t sign = 0;  // what the key would type without Alt, for access keys; 0: nothing
-    int id = 0;         // which key of the keyboard it is: the same for as long as it is held
+    Text typed;               // printable text, Return or Backspace; empty for a shortcut
+    char16_t sign = 0;        // what the key would type without Alt, for access keys; 0: nothing
+    int id = 0;               // which key of the keyboard it is: the same for as long as it is held
+    bool autoRepeat = false;  // not the first press since the key went down
 };
 
 /// One for all screens of a shell. A key that is held types into a field, moves in a list

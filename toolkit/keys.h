@@ -32,7 +32,6 @@ struct KeyEvent {
     bool shift = false;
     bool control = false;
     bool alt = false;
-    bool autoRepeat = false;  // the key is held down
     bool handled = false;
 
     /// Control and nothing else.

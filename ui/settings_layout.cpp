@@ -17,17 +17,23 @@ constexpr Twips kBlank = 90;  // that the options' captions begin with
 }  // namespace
 
 void frmOptions::layOut() {
-    constexpr Twips kTile = 900;
-    constexpr Twips kTilePitch = 1080;
-    constexpr Twips kTilesLeft = (style::kScreenWidth - 7 * kTilePitch + kTilePitch - kTile) / 2;
-    constexpr Twips kTilesTop = 840;
-    constexpr Twips kLine = 60;
     width = style::kScreenWidth;
     height = style::kScreenHeight;
     imgBack.id = "imgBack";
     imgBack.drawing = style::kSettingsDrawing;
     add(imgBack).place(0, 0, width, height);
+    layOutTiles();
+    layOutOptions();
+    layOutDesigns();
+    layOutBack();
+}
 
+void frmOptions::layOutTiles() {
+    constexpr Twips kTile = 900;
+    constexpr Twips kTilePitch = 1080;
+    constexpr Twips kTilesLeft = (style::kScreenWidth - 7 * kTilePitch + kTilePitch - kTile) / 2;
+    constexpr Twips kTilesTop = 840;
+    constexpr Twips kLine = 60;
     add(lnLetter);
     add(lblLetter);
     for (int i = 0; i <= kLastTile; ++i) {
@@ -38,7 +44,9 @@ void frmOptions::layOut() {
         const Twips y = kTilesTop + kTile - kLine / 2;
         lnLetter(i).span(x + kLine / 2, y, x + kTile - kLine / 2, y);
     }
+}
 
+void frmOptions::layOutOptions() {
     for (int i = 0; i <= kLastOption; ++i) {
         const Twips y = kFirstRow + kRow * static_cast<Twips>(i);
         add(shpCheck(i)).place(kLeft, y, kBox, kBox);
@@ -59,7 +67,9 @@ void frmOptions::layOut() {
     // The heading's box never holds a tick: it is a mere dot.
     shpCheck(0).kind = ShapeKind::Oval;
     shpCheck(0).place(kLeft + 180, kFirstRow + 180, kBox - 360, kBox - 360);
+}
 
+void frmOptions::layOutDesigns() {
     for (int i = 0; i <= kLastDesign; ++i) {
         const Twips x = kLeft + 3360 + 900 * static_cast<Twips>(i);
         shpDs(i).borderColor = style::kEdge;
@@ -71,7 +81,9 @@ void frmOptions::layOut() {
         lblDs(i).cornerRadius = shpDs(i).radius;
         add(lblDs(i)).place(x, kFirstRow - 60, 720, 720);
     }
+}
 
+void frmOptions::layOutBack() {
     shpBack.id = "shpBack";
     add(shpBack).place(kLeft, 7080, kBox, kBox);
     lblBack(0).caption = symbols::kArrowLeft;

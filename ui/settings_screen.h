@@ -38,7 +38,11 @@ class frmOptions : public Screen {
     void onCloseRequest() override { program_.close(*this); }
 
   private:
-    void layOut();  // settings_layout.cpp
+    void layOut();  // settings_layout.cpp, as are the next four
+    void layOutTiles();
+    void layOutOptions();
+    void layOutDesigns();
+    void layOutBack();
     void connect();
     void eTranslate();
     void eLoadColor();

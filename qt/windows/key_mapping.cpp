@@ -84,7 +84,6 @@ KeyPress toKeyPress(const QKeyEvent& event) {
                       event.key() == Qt::Key_Backtab;  // which is Tab with Shift
     press.key.control = event.modifiers().testFlag(Qt::ControlModifier);
     press.key.alt = event.modifiers().testFlag(Qt::AltModifier);
-    press.key.autoRepeat = event.isAutoRepeat();
     press.typed = fromQt(typedText(event));
     press.sign = event.text().size() == 1 ? event.text().front().unicode() : u'\0';
     press.id = keyId(event);

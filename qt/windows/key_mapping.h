@@ -11,6 +11,7 @@ namespace quillor {
 /// code on every keyboard.
 int virtualKeyCode(const QKeyEvent& event);
 
+/// All but `autoRepeat`, which a RepeatFinder knows.
 KeyPress toKeyPress(const QKeyEvent& event);
 /// Which key of the keyboard it is, whatever it types.
 int keyId(const QKeyEvent& event);

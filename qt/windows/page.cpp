@@ -200,7 +200,7 @@ void Page::press(QKeyEvent& event) {
         link_.shell().showsFocus = true;
     link_.keyEvent([&](Screen& screen) {
         KeyPress press = toKeyPress(event);
-        press.key.autoRepeat = link_.shell().repeats.isRepeat(event);
+        press.autoRepeat = link_.shell().repeats.isRepeat(event);
         const KeyRoute::Rest rest = link_.shell().keys.press(screen, link_.focus(), press);
         if (rest == KeyRoute::Rest::Field)
             dynamic_cast<FieldView&>(*view(*link_.focus().control())).edit(event);

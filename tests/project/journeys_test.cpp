@@ -119,7 +119,7 @@ TEST_F(Journey, LetsNothingReachTheGameBehindAnotherScreen) {
     player.press(key::kReturn);
     ASSERT_EQ(player.screen().name, "frmWord2");
     for (const int code : {key::kF2, key::kF3, key::kReturn, int{'S'}}) {
-        KeyEvent event{code, false, code == 'S', false, false, false};
+        KeyEvent event{code, false, code == 'S', false, false};
         desktop.deliver([&] { game().keyDown(event); });
     }
     desktop.deliver([&] { game().choose(game().menu.mBack); });

@@ -58,7 +58,7 @@ TEST(KeyMapping, HandsOnModifiersAndRepetition) {
     const QKeyEvent held(QEvent::KeyPress, Qt::Key_E, Qt::ControlModifier, "\x05", true);
     const KeyEvent event = toKeyPress(held).key;
     EXPECT_TRUE(event.onlyControl());
-    EXPECT_TRUE(event.autoRepeat);
+    EXPECT_TRUE(RepeatFinder().isRepeat(held));
     EXPECT_FALSE(event.handled);
 }
 

@@ -38,8 +38,8 @@ KeyPress typing(char16_t character) {
 
 KeyPress pressing(int keyCode, Modifiers modifiers) {
     KeyPress press;
-    press.key = {keyCode,       modifiers.shift,      modifiers.control,
-                 modifiers.alt, modifiers.autoRepeat, false};
+    press.key = {keyCode, modifiers.shift, modifiers.control, modifiers.alt, false};
+    press.autoRepeat = modifiers.autoRepeat;
     press.id = keyCode;
     if (modifiers.control || modifiers.alt)
         return press;
@@ -179,7 +179,7 @@ void Player::sendHeld(KeyPress press, int repeats, const std::function<void()>& 
     send(press);
     if (meanwhile)
         meanwhile();
-    press.key.autoRepeat = true;
+    press.autoRepeat = true;
     for (int i = 0; i < repeats; ++i)
         send(press);
     desktop_.deliver([&] { desktop_.keys.release(press.id); });

@@ -41,7 +41,7 @@ class Keys : public ::testing::Test {
 
     KeyRoute::Rest press(const KeyPress& key) { return route.press(screen, focus, key); }
     KeyRoute::Rest repeat(KeyPress key) {
-        key.key.autoRepeat = true;
+        key.autoRepeat = true;
         return press(key);
     }
 
@@ -202,7 +202,7 @@ TEST_F(Keys, HeldAcrossAChangeOfScreenDoNothingUntilLetGo) {
     focus.take(field);
     KeyPress held = letter(u'i');
     press(held);
-    held.key.autoRepeat = true;
+    held.autoRepeat = true;
     route.press(next, nextFocus, held);
     route.forget(screen);
     route.press(next, nextFocus, held);
