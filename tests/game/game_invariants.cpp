@@ -2,10 +2,10 @@
 #include "tests/game/game_invariants.h"
 
 #include <algorithm>
-#include <fstream>
 #include <sstream>
 #include <vector>
 
+#include "core/files.h"
 #include "core/numbers.h"
 #include "core/settings_file.h"
 #include "tests/support/game_test.h"
@@ -17,13 +17,6 @@ namespace {
 
 bool isGuessKey(char16_t key) {
     return TextView(u"ABCDEFGHIJKLMNÑOPQRSTUVWXYZ1234567890").find(key) != TextView::npos;
-}
-
-std::string readAll(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream bytes;
-    bytes << file.rdbuf();
-    return bytes.str();
 }
 
 // The eleven lines that the record means; the settings screen leaves the last empty.
@@ -286,7 +279,7 @@ void GameInvariants::checkWays(const frmGame& game) {
 }
 
 void GameInvariants::checkFile(bool gameIsOpen) {
-    const std::string bytes = readAll(settingsFile(program_.folder));
+    const std::string bytes = readFile(settingsFile(program_.folder), 1000).value();
     require(std::count(bytes.begin(), bytes.end(), '\n') == 11, "not eleven lines of settings");
     const bool written = bytes != file_ && !file_.empty();
     if (written || (newGame_ && gameIsOpen))

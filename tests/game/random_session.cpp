@@ -9,8 +9,8 @@
 #include "game/game_screen.h"
 #include "tests/game/game_invariants.h"
 #include "tests/support/fake_desktop.h"
+#include "tests/support/memory_disk.h"
 #include "tests/support/player.h"
-#include "tests/support/temp_folder.h"
 #include "topics/topics.h"
 #include "ui/settings_screen.h"
 
@@ -80,11 +80,12 @@ class Session {
   private:
     void fillFolder() {
         if (setup_.english)
-            folder_.write("English.txt", "");
+            disk_.put(folder_ / "English.txt", "");
         for (std::size_t i = 0; i < setup_.topics.size(); ++i)
-            folder_.write((setup_.english ? "Topics/" : "Temas/") + std::to_string(i) + ".txt",
-                          setup_.topics[i]);
-        eSaveSettings(setup_.saved, folder_.path());
+            disk_.put(
+                folder_ / (setup_.english ? "Topics" : "Temas") / (std::to_string(i) + ".txt"),
+                setup_.topics[i]);
+        eSaveSettings(setup_.saved, folder_);
     }
 
     void play(const Event& event) {
@@ -233,9 +234,10 @@ class Session {
     }
 
     const ProgramSetup& setup_;
-    TempFolder folder_;
+    MemoryDisk disk_;
+    const Place folder_{"/program", disk_};
     BusyDesktop desktop_;
-    Program program_{desktop_, folder_.path()};
+    Program program_{desktop_, folder_};
     Player player_{desktop_};
     GameInvariants invariants_{program_};
 };
