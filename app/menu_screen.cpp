@@ -13,8 +13,7 @@ int buttonOf(int label) {
 
 }  // namespace
 
-frmMenu::frmMenu(Program& program)
-    : Screen("frmMenu"), program_(program), settings_(program.settings) {
+frmMenu::frmMenu(Program& program) : ProgramScreen("frmMenu", program) {
     layOut();
     connect();
 }
@@ -146,6 +145,7 @@ void frmMenu::layOut() {
     lblWelcome.textColor = rgb(40, 40, 40);
     add(lblWelcome).place(kLeft, 1080, kButtonWidth, 1080);
 
+    layOutView(style::kViewPlace, style::kFaint);
     for (int i = 0; i < kOptions; ++i) {
         const Twips top = kTop + static_cast<Twips>(i) * kPitch;
         Shape& face = shpOption(i + kFirstButton);

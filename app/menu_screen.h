@@ -1,12 +1,11 @@
 // The main menu: every mode is reached from here.
 #pragma once
 
-#include "app/program.h"
-#include "toolkit/screen.h"
+#include "app/program_screen.h"
 
 namespace quillor {
 
-class frmMenu : public Screen {
+class frmMenu : public ProgramScreen {
   public:
     explicit frmMenu(Program& program);
 
@@ -25,6 +24,7 @@ class frmMenu : public Screen {
   protected:
     void onLoad() override;
     void onKeyDown(KeyEvent& event) override;
+    TextPair ownKeys() const override { return texts::kKeysMenu; }
     void onCloseRequest() override { program_.end(); }
 
   private:
@@ -41,8 +41,6 @@ class frmMenu : public Screen {
 
     static constexpr int kNoButton = 8;
 
-    Program& program_;
-    GameSettings& settings_;
     int hovered_ = kNoButton;
     bool pressed_ = false;
     Color rememberedColor_ = 0;

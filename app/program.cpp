@@ -6,6 +6,7 @@
 
 #include "app/menu_screen.h"
 #include "app/start_screen.h"
+#include "core/files.h"
 #include "core/text_rules.h"
 
 namespace quillor {
@@ -95,6 +96,14 @@ int ePasteText(Program& program, TextView text, TextView selected, int caret) {
     PastedText pasted = ePasteText(text, selected, caret, program.desktop.clipboard());
     program.settings.gsTextResult = std::move(pasted.text);
     return pasted.caret;
+}
+
+void openManual(Program& program) {
+    const auto manual = program.folder / "Quillor-Manual.txt";
+    if (isFile(manual))
+        program.desktop.open(manual);
+    else
+        program.desktop.messageBox(MessageIcon::Information, program.lang(texts::kHelpMissing));
 }
 
 void eCopyToClipboard(Program& program, TextView text) {

@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 
+#include "app/view_entry.h"
 #include "core/disk.h"
 #include "core/game_settings.h"
 #include "core/texts.h"
@@ -26,6 +27,10 @@ class Program {
     using Factory = std::function<std::unique_ptr<Screen>(Program&)>;
     /// Says how a screen is made. The start screen and the menu are known.
     void addScreen(ScreenId id, Factory factory);
+
+    /// The entries of the menu "View" of every screen, in their order. To be added to
+    /// before the first screen is made.
+    std::vector<ViewEntry> viewEntries = commonViewEntries();
 
     GameSettings settings;
     Desktop& desktop;
@@ -78,6 +83,9 @@ inline constexpr TextView kSearchEngine = u"http://www.bing.com/search?q=";
 /// at the caret when nothing is selected; the new text is in `gsTextResult`.
 /// Returns the new caret position.
 int ePasteText(Program& program, TextView text, TextView selected, int caret);
+
+/// Hands the manual to the system's handler; where it is missing a box says so.
+void openManual(Program& program);
 
 void eCopyToClipboard(Program& program, TextView text);
 

@@ -84,6 +84,7 @@ void frmStart::layOutFontPanel() {
     lblEsc.backColor = rgb(200, 200, 200);
     lblEsc.role = LabelRole::Button;
     add(lblEsc, &frmeFont).place(kWidth - 480, 120, 360, 360);
+    layOutView({240, 810, 1020, 360}, rgb(90, 90, 90), &frmeFont);
 }
 
 }  // namespace quillor

@@ -24,8 +24,7 @@ constexpr const char* kFontFile = "ARLRDBD.ttf";
 
 }  // namespace
 
-frmStart::frmStart(Program& program)
-    : Screen("frmStart"), program_(program), settings_(program.settings) {
+frmStart::frmStart(Program& program) : ProgramScreen("frmStart", program) {
     layOut();
     connect();
 }
@@ -108,6 +107,7 @@ void frmStart::chooseLanguage() {
 }
 
 void frmStart::eTranslate() {
+    translateView();
     lblManual.caption = program_.lang(texts::kFontMissing);
     lblAction.caption = program_.lang(texts::kSearchFont);
     lblEsc.toolTip = program_.lang(texts::kCloseTip);

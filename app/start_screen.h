@@ -4,12 +4,11 @@
 
 #include <filesystem>
 
-#include "app/program.h"
-#include "toolkit/screen.h"
+#include "app/program_screen.h"
 
 namespace quillor {
 
-class frmStart : public Screen {
+class frmStart : public ProgramScreen {
   public:
     explicit frmStart(Program& program);
 
@@ -54,8 +53,6 @@ class frmStart : public Screen {
     void eGoForm();
     void lblAction_Click();
 
-    Program& program_;
-    GameSettings& settings_;
     bool mbFontMissing_ = false;
     bool mbSubBounced_ = false;
     bool mbRebootReady_ = false;

@@ -35,6 +35,8 @@ class SilentDesktop : public Desktop {
     void show(Screen&) override {}
     void close(Screen&) override {}
     void popUp(Screen&, MenuItem&, const Control*) override {}
+    bool isFullScreen() const override { return false; }
+    void setFullScreen(bool) override {}
     void startProgram() override {}
     void end() override {}
 

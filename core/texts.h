@@ -211,6 +211,56 @@ inline constexpr std::array<TextPair, 4> kDesignTips{{
 inline constexpr TextPair kBack{u"ATRÁS", u"Back"};
 inline constexpr TextPair kBackTip{u" Regresar a Inicio ", u" Return to Start "};
 
+// The further menu of every screen, and the keys it explains.
+inline constexpr TextPair kView{u"Ver", u"View"};
+inline constexpr TextPair kViewTip{u" Ventana, teclas y ayuda ", u" Window, keys and help "};
+inline constexpr TextPair kViewFullScreen{u"Pantalla completa", u"Full screen"};
+inline constexpr TextPair kViewKeys{u"Teclas", u"Keys"};
+inline constexpr TextPair kKeysEverywhere{
+    u"Tab y flechas: de un botón a otro\r\nBarra espaciadora: presionar\r\nF10 o Alt+V: este menú"
+    u"\r\nF1: ayuda\r\nF11 o Alt+Intro: pantalla completa\r\nEscape: salir de la pantalla "
+    u"completa; "
+    u"después, regresar\r\nCtrl+Q: cerrar",
+    u"Tab and arrows: from button to button\r\nSpace bar: press\r\nF10 or Alt+V: this menu\r\nF1: "
+    u"help\r\nF11 or Alt+Return: full screen\r\nEscape: leave full screen; then, go back"
+    u"\r\nCtrl+Q: close"};
+inline constexpr TextPair kKeysMenu{
+    u"A: modo arcade\r\nC: modo clásico\r\nI: inventor\r\nS: ajustes",
+    u"A: arcade mode\r\nC: classic mode\r\nI: inventor\r\nS: setting"};
+inline constexpr TextPair kKeysGame{
+    u"Letras y números: probarlos\r\nIntro: jugar, otra partida\r\n! o Ctrl+E: escribir la "
+    u"respuesta\r\n?: ¿qué es eso?, al terminar\r\nF2: volver a Inicio\r\nF3: reiniciar el "
+    u"juego\r\nCtrl+M, R, T, A: selección\r\nCtrl+S: sonidos\r\nCtrl+L: primera letra\r\nCtrl+O: "
+    u"letras ocultas\r\nF10 o Alt+M: menú del juego",
+    u"Letters and numbers: try them\r\nReturn: play, play another\r\n! or Ctrl+E: write the "
+    u"answer\r\n?: what is that?, after the game\r\nF2: back to Start\r\nF3: reboot "
+    u"all\r\nCtrl+M, R, T, A: selection\r\nCtrl+S: sounds\r\nCtrl+L: first letter\r\nCtrl+O: "
+    u"hidden letters\r\nF10 or Alt+M: the game's menu"};
+inline constexpr TextPair kKeysSettings{
+    u"W: Wikipedia\r\nD: puntaje difícil\r\nI: puntaje infinito\r\nC: contra reloj\r\n1, 2, 3, 4: "
+    u"diseño\r\nRetroceso: regresar",
+    u"W: Wikipedia\r\nD: hard score\r\nI: infinite score\r\nC: against the clock\r\n1, 2, 3, 4: "
+    u"design\r\nBackspace: go back"};
+inline constexpr TextPair kKeysPhrase{
+    u"Intro: de la frase al tema; en el tema, aceptar\r\nEscape: cerrar sin jugar",
+    u"Return: from the phrase to the topic; in the topic, accept\r\nEscape: close without playing"};
+inline constexpr TextPair kKeysTopics{
+    u"Flechas arriba y abajo: tema\r\nFlechas izquierda y derecha: selección\r\nIntro: "
+    u"aceptar\r\nEscape: cerrar sin jugar",
+    u"Arrows up and down: topic\r\nArrows left and right: selection\r\nReturn: accept\r\nEscape: "
+    u"close without playing"};
+inline constexpr TextPair kKeysInventor{
+    u"Intro: del nombre a la frase; agrega la frase; en la lista, guarda\r\nSupr: quita la frase "
+    u"elegida\r\nRetroceso, al principio del nombre del tema: regresar\r\n?, en el nombre del "
+    u"tema: "
+    u"información",
+    u"Return: from the name to the phrase; adds the phrase; in the list, saves\r\nDelete: removes "
+    u"the selected phrase\r\nBackspace, at the beginning of the topic name: go back\r\n?, in the "
+    u"topic name: information"};
+inline constexpr TextPair kLeaveTopic{u"Estás por perder las frases de este tema, ¿quieres salir?",
+                                      u"You're about to lose this topic's phrases, do you want to "
+                                      u"leave?"};
+
 // Classic entry.
 inline constexpr TextPair kEntryTitle{u"Escriba su frase y tema:", u"Write your phrase and topic:"};
 inline constexpr TextPair kPhraseLabel{u"FRASE", u"PHRASE"};

@@ -21,6 +21,12 @@ bool frmGame::mayLeaveGame() {
     return false;
 }
 
+// However many mistakes there are: the program may always be ended.
+bool frmGame::mayQuit() {
+    return settings_.giGameState != kPlaying ||
+           program_.desktop.question(program_.lang(texts::kLeaveGame));
+}
+
 void frmGame::mBack_Click() {
     if (mayLeaveGame())
         eBackStart();

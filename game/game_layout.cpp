@@ -57,12 +57,13 @@ void frmGame::layOutBar() {
         .place(240, 90, 1020, 540);
     lblMenu.role = LabelRole::Button;
     lblMenu.cornerRadius = style::kButtonRadius;
+    layOutView({1320, 90, 780, 540}, kPale);
     add(describe(lblMode, "lblMode", style::kBarText, kPale, Align::Left))
-        .place(1440, 90, 2760, 540);
+        .place(2220, 90, 2400, 540);
     add(describe(status.lblStatus, "lblStatus", big, kPale, Align::Center))
-        .place(4260, 90, 4680, 540);
+        .place(4680, 90, 3840, 540);
     add(describe(score.lblScore, "lblScore", big, kPale, Align::Right)).place(8640, 90, 3540, 540);
-    for (Label* label : {&lblMenu, &lblMode, &status.lblStatus, &score.lblScore})
+    for (Label* label : {&lblMenu, &lblView, &lblMode, &status.lblStatus, &score.lblScore})
         label->opaque = true;
     sounds.shpWave.id = "shpWave";
     add(sounds.shpWave).place(12300, 90, 600, 540);

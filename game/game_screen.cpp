@@ -13,7 +13,7 @@
 namespace quillor {
 
 frmGame::frmGame(Program& program)
-    : Screen("frmGame"),
+    : ProgramScreen("frmGame", program),
       menu(program, commands()),
       sounds(program),
       webSearch(program),
@@ -25,9 +25,7 @@ frmGame::frmGame(Program& program)
       status(program),
       playButton(program, [this] { keyboard.leaveKeys(); }),
       announcer(program),
-      accent(program, [this](Color color) { paintAccent(color); }),
-      program_(program),
-      settings_(program.settings) {
+      accent(program, [this](Color color) { paintAccent(color); }) {
     layOut();
     addTimers();
     connect();
@@ -56,12 +54,13 @@ void frmGame::connect() {
     playButton.lblPlay(0).onClick = [this] { ePlayButton(); };
     sounds.lblWave(0).onClick = [this] { eChangeSound(); };
     lblMenu.onClick = [this] { popUpMenu(&lblMenu); };
-    showPress(lblMenu, lblMenu.textColor, settings_.glGrey, settings_.glWhite);
+    for (Label* label : {&lblMenu, &lblView})
+        showPress(*label, label->textColor, settings_.glGrey, settings_.glWhite);
     // What the mouse moves over beside the keys puts their light out.
     for (Picture& picture : imgBack)
         picture.onMouseMove = [this] { mouseLeftButtons(); };
-    for (Label* label : {&lblBluebar, &lblMenu, &lblMode, &lblHey, &board.lblCont, &board.lblTopic,
-                         &score.lblScore, &status.lblStatus, &clock.lblTime,
+    for (Label* label : {&lblBluebar, &lblMenu, &lblView, &lblMode, &lblHey, &board.lblCont,
+                         &board.lblTopic, &score.lblScore, &status.lblStatus, &clock.lblTime,
                          &webSearch.lblFinder(0), &webSearch.lblFinder(1), &sounds.lblWave(0)})
         label->onMouseMove = [this] { mouseLeftButtons(); };
     for (Label& cell : board.lblLetter)
@@ -81,7 +80,8 @@ void frmGame::paintAccent(Color color) {
     playButton.setAccent(color);
     sounds.shpWave.backColor = color;
     webSearch.shpFinder.backColor = color;
-    for (Label* label : {&status.lblStatus, &score.lblScore, &lblMode, &lblMenu, &lblBluebar})
+    for (Label* label :
+         {&status.lblStatus, &score.lblScore, &lblMode, &lblMenu, &lblView, &lblBluebar})
         label->backColor = color;
 }
 
@@ -97,6 +97,8 @@ void frmGame::popUpMenu(const Control* under) {
 void frmGame::onKeyDown(KeyEvent& event) {
     switch (event.code) {
         case key::kReturn:
+            if (event.alt)
+                return;
             ePlayButton();
             break;
         case key::kContextMenu:

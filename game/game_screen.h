@@ -2,14 +2,13 @@
 // the rules and what they say to the parts.
 #pragma once
 
-#include "app/program.h"
+#include "app/program_screen.h"
 #include "game/announcer.h"
 #include "game/keyboard.h"
 #include "game/phrase_board.h"
 #include "game/rules/round.h"
 #include "game/score_line.h"
 #include "game/status.h"
-#include "toolkit/screen.h"
 #include "ui/colors.h"
 #include "ui/figure.h"
 #include "ui/game_menu.h"
@@ -17,7 +16,7 @@
 
 namespace quillor {
 
-class frmGame : public Screen {
+class frmGame : public ProgramScreen {
   public:
     explicit frmGame(Program& program);
 
@@ -56,6 +55,9 @@ class frmGame : public Screen {
     void onLoad() override;
     void onUnload() override { score.keepScore(); }
     void onKeyDown(KeyEvent& event) override;
+    TextPair ownKeys() const override { return texts::kKeysGame; }
+    void goBack() override { mBack_Click(); }
+    bool mayQuit() override;
     void onKeyPress(char16_t character) override;
     void onContextMenu() override { popUpMenu(nullptr); }
     void onCloseRequest() override { program_.end(); }
@@ -110,8 +112,6 @@ class frmGame : public Screen {
 
     void say(const TextPair& text);
 
-    Program& program_;
-    GameSettings& settings_;
     bool topicDealt_ = false;  // Repeat and Tour have a topic to start from
 };
 

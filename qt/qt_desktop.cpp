@@ -165,6 +165,14 @@ void QtDesktop::popUp(Screen& screen, MenuItem& menu, const Control* under) {
         screen.choose(*chosen);
 }
 
+bool QtDesktop::isFullScreen() const {
+    return shell_.isFullScreen();
+}
+
+void QtDesktop::setFullScreen(bool on) {
+    shell_.setFullScreen(on);
+}
+
 void QtDesktop::startProgram() {
     QProcess::startDetached(QCoreApplication::applicationFilePath(),
                             QCoreApplication::arguments().mid(1));

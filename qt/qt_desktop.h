@@ -38,6 +38,8 @@ class QtDesktop : public Desktop {
     void show(Screen& screen) override;
     void close(Screen& screen) override;
     void popUp(Screen& screen, MenuItem& menu, const Control* under) override;
+    bool isFullScreen() const override;
+    void setFullScreen(bool on) override;
     void startProgram() override;
     void end() override;
 

@@ -73,6 +73,10 @@ class Desktop {
     /// Returns after an entry was chosen and has run.
     virtual void popUp(Screen& screen, MenuItem& menu, const Control* under = nullptr) = 0;
 
+    /// Whether the program's window fills the display.
+    virtual bool isFullScreen() const = 0;
+    virtual void setFullScreen(bool on) = 0;
+
     /// Starts the program's own executable anew.
     virtual void startProgram() = 0;
     /// Ends the run: control returns to the caller, no further event is delivered.

@@ -62,6 +62,9 @@ bool KeyRoute::isTaken(Screen& screen, Focus& focus, KeyEvent key) {
         screen.fieldKeyDown(*field, key);
     else if (auto* list = focus.as<ListBox>())
         screen.listKeyDown(*list, key);
+    if (key.handled || !goesOn(screen))
+        return true;
+    screen.keyUnused(key);
     return key.handled || !goesOn(screen);
 }
 

@@ -1,6 +1,6 @@
 // The way of a key through a screen, the same in every shell: the screen, the control
-// that has the focus, an access key, then a field, a button or a list, and at last the
-// screen's key press.
+// that has the focus, the screen's last resort, an access key, then a field, a button or a list,
+// and at last the screen's key press.
 #pragma once
 
 #include <optional>

@@ -23,6 +23,8 @@ inline constexpr int kF1 = 112;
 inline constexpr int kF2 = 113;
 inline constexpr int kF3 = 114;
 inline constexpr int kF10 = 121;
+inline constexpr int kF11 = 122;
+inline constexpr int kLastFunctionKey = 135;  // F24
 }  // namespace key
 
 /// A key going down. A handler that sets `handled` keeps the key from the
@@ -36,6 +38,18 @@ struct KeyEvent {
 
     /// Control and nothing else.
     bool onlyControl() const { return control && !shift && !alt; }
+};
+
+/// A key that runs a command, alone or with Control or Alt; of code 0 there is none.
+struct Shortcut {
+    int code = 0;
+    bool control = false;
+    bool alt = false;
+
+    bool isPressed(const KeyEvent& event) const {
+        return code != 0 && code == event.code && control == event.control && alt == event.alt &&
+               !event.shift;
+    }
 };
 
 /// Characters of key presses that are no printable text.

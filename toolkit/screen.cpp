@@ -45,6 +45,11 @@ void Screen::keyDown(KeyEvent& event) {
         quietly(name + "_KeyDown", [&] { onKeyDown(event); });
 }
 
+void Screen::keyUnused(KeyEvent& event) {
+    if (enabled)
+        quietly(name + "_KeyUnused", [&] { onKeyUnused(event); });
+}
+
 void Screen::keyPress(char16_t character) {
     if (enabled)
         quietly(name + "_KeyPress", [&] { onKeyPress(character); });

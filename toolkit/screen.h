@@ -55,6 +55,7 @@ class Screen {
     void load();
     void unload();
     void keyDown(KeyEvent& event);
+    void keyUnused(KeyEvent& event);  // neither the screen nor the control has taken it
     void keyPress(char16_t character);
     void closeRequest();  // the title bar's close button
     void click(Label& label);
@@ -83,6 +84,7 @@ class Screen {
     virtual void onLoad() = 0;
     virtual void onUnload() {}
     virtual void onKeyDown(KeyEvent&) {}
+    virtual void onKeyUnused(KeyEvent&) {}
     virtual void onKeyPress(char16_t) {}
     /// A right click that no control has taken.
     virtual void onContextMenu() {}

@@ -13,6 +13,9 @@ inline constexpr Twips kScreenHeight = 8100;
 
 inline constexpr Twips kButtonRadius = 150;
 
+/// The further menu's button on screens that have no bar.
+inline constexpr Area kViewPlace{240, 240, 1020, 540};
+
 // Colours that no player's file changes; the palette of GameSettings has the others.
 inline constexpr Color kInk = rgb(40, 40, 40);
 inline constexpr Color kPale = rgb(250, 250, 250);       // text on colour

@@ -112,7 +112,7 @@ void frmWord1::lblOk_Click() {
 void frmWord1::layOut() {
     constexpr int kPhraseLength = 35;
     constexpr int kTopicLength = 22;
-    layOutPanel(4920);
+    layOutPanel(5040);
 
     const auto field = [&](TextField& text, const char* id, Label& label, Twips top, int length) {
         label.font = style::kBarText;
@@ -128,6 +128,7 @@ void frmWord1::layOut() {
     field(txtTheme, "txtTheme", lblSelect(0), 1740, kTopicLength);
 
     layOutAccept(3300);
+    layOutView();
 }
 
 }  // namespace quillor

@@ -17,6 +17,7 @@ class frmWord1 : public EntryScreen {
 
   protected:
     void onLoad() override;
+    TextPair ownKeys() const override { return texts::kKeysPhrase; }
 
   private:
     void layOut();

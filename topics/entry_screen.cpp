@@ -6,7 +6,7 @@
 namespace quillor {
 
 EntryScreen::EntryScreen(const std::string& screenName, Program& program)
-    : Screen(screenName), program_(program), settings_(program.settings) {}
+    : ProgramScreen(screenName, program) {}
 
 void EntryScreen::layOutPanel(Twips screenHeight) {
     width = kWidth;
@@ -30,6 +30,13 @@ void EntryScreen::layOutAccept(Twips top) {
     lblOk(1).cornerRadius = style::kButtonRadius;
     add(lblOk(1)).place(kEdge + 240, top + 120, kInner - 480, 720);
     enableAccept(false);
+}
+
+// In the panel's last line.
+void EntryScreen::layOutView() {
+    constexpr Twips kButton = 1020;
+    const Twips top = shpOk.bottom() + 60;
+    ProgramScreen::layOutView({kEdge + kInner - kButton, top, kButton, 360}, kPale);
 }
 
 void EntryScreen::connectAccept(const std::function<void()>& handler) {

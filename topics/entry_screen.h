@@ -5,13 +5,12 @@
 
 #include <functional>
 
-#include "app/program.h"
-#include "toolkit/screen.h"
+#include "app/program_screen.h"
 #include "toolkit/style.h"
 
 namespace quillor {
 
-class EntryScreen : public Screen {
+class EntryScreen : public ProgramScreen {
   public:
     Picture imgBack;
     Shape shpFond;
@@ -30,6 +29,7 @@ class EntryScreen : public Screen {
 
     void layOutPanel(Twips screenHeight);
     void layOutAccept(Twips top);
+    void layOutView();
     /// Either part of the button runs the handler and shows the press.
     void connectAccept(const std::function<void()>& handler);
     void enableAccept(bool now) { lblOk(0).enabled = lblOk(1).enabled = shpOk.enabled = now; }
@@ -40,9 +40,6 @@ class EntryScreen : public Screen {
     /// Escape closes the screen, whatever has the focus.
     void onKeyDown(KeyEvent& event) override;
     void onCloseRequest() override { program_.close(*this); }
-
-    Program& program_;
-    GameSettings& settings_;
 };
 
 }  // namespace quillor

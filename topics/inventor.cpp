@@ -29,8 +29,7 @@ Text twoDigits(int value) {
 
 }  // namespace
 
-frmInventor::frmInventor(Program& program)
-    : Screen("frmInventor"), program_(program), settings_(program.settings) {
+frmInventor::frmInventor(Program& program) : ProgramScreen("frmInventor", program) {
     layOut();
     connect();
 }
@@ -195,7 +194,7 @@ void frmInventor::paste() {
 void frmInventor::lstTopics_KeyDown(KeyEvent& event) {
     if (event.code == key::kDelete)
         lblDel_Click();
-    else if (event.code == key::kReturn)
+    else if (event.code == key::kReturn && !event.alt)
         lblSave_Click();
     else
         return;
@@ -247,6 +246,12 @@ void frmInventor::saveTopic() {
     for (const Text& phrase : lstTopics.items)
         lines.push_back(lowerCase(trimmed(phrase)));
     writeLines(topicFolder(settings_, program_.folder) / toPath(txtFile.text() + u".txt"), lines);
+}
+
+// Escape is pressed by mistake more easily than the button.
+void frmInventor::goBack() {
+    if (lstTopics.items.empty() || program_.desktop.question(program_.lang(texts::kLeaveTopic)))
+        lblBack_Click();
 }
 
 void frmInventor::lblHelp_Click() {

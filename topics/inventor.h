@@ -1,12 +1,11 @@
 // The topic inventor: writes new topic files.
 #pragma once
 
-#include "app/program.h"
-#include "toolkit/screen.h"
+#include "app/program_screen.h"
 
 namespace quillor {
 
-class frmInventor : public Screen {
+class frmInventor : public ProgramScreen {
   public:
     explicit frmInventor(Program& program);
 
@@ -30,11 +29,14 @@ class frmInventor : public Screen {
     ControlArray<Label, 0, 1> lblSave{"lblSave"};  // 0 the face, 1 the caption
 
     Control* initialFocus() override { return &txtTheme; }
+    void openHelp() override { lblHelp_Click(); }
     void takePaper(const ImageRef& paper) override { imgBack.image = paper; }
 
   protected:
     void onLoad() override;
     void onUnload() override;
+    TextPair ownKeys() const override { return texts::kKeysInventor; }
+    void goBack() override;
     void onCloseRequest() override { program_.close(*this); }
 
   private:
@@ -63,8 +65,6 @@ class frmInventor : public Screen {
     void lblHelp_Click();
     void lblBack_Click() { program_.close(*this); }
 
-    Program& program_;
-    GameSettings& settings_;
     bool restarting_ = false;
 };
 

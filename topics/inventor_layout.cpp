@@ -49,6 +49,7 @@ void frmInventor::layOut() {
     height = style::kScreenHeight;
     imgBack.id = "imgBack";
     add(imgBack).place(0, 0, width, height);
+    layOutView({120, 360, 1020, 540}, kInk);
     layOutHead();
     layOutNames();
     layOutPhrases();

@@ -72,6 +72,8 @@ void frmWord2::eChangeMode(int step) {
 void frmWord2::lstTopics_KeyDown(KeyEvent& event) {
     switch (event.code) {
         case key::kReturn:
+            if (event.alt)
+                return;
             lblOk_Click();
             break;
         case key::kRight:
@@ -88,12 +90,13 @@ void frmWord2::lstTopics_KeyDown(KeyEvent& event) {
 
 // Where everything stands, in twips.
 void frmWord2::layOut() {
-    layOutPanel(6600);
+    layOutPanel(6720);
     lstTopics.id = "lstTopics";
     lstTopics.font = style::kField;
     add(lstTopics).place(kEdge, 480, kInner, 3540);
     layOutModes();
     layOutAccept(5100);
+    layOutView();
 }
 
 void frmWord2::layOutModes() {

@@ -19,6 +19,7 @@ class frmWord2 : public EntryScreen {
 
   protected:
     void onLoad() override;
+    TextPair ownKeys() const override { return texts::kKeysTopics; }
 
   private:
     void layOut();

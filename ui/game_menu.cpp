@@ -1,8 +1,7 @@
 #include "ui/game_menu.h"
 
-#include "app/program.h"
+#include "app/program_screen.h"
 #include "config/version.h"
-#include "core/files.h"
 #include "core/text_rules.h"
 #include "toolkit/style.h"
 
@@ -15,13 +14,6 @@ constexpr TextView kEncyclopedia = u"http://es.wikipedia.org/wiki/";
 
 constexpr TextView kVersionNumber = u"" QUILLOR_VERSION;
 
-// As shown beside the caption.
-Text shortcutText(int code, bool withControl) {
-    if (code >= key::kF1)
-        return u"F" + Text(1, static_cast<char16_t>(u'1' + code - key::kF1));
-    return withControl ? u"Ctrl+" + Text(1, static_cast<char16_t>(code)) : Text();
-}
-
 }  // namespace
 
 GameMenu::GameMenu(Program& program, const Commands& commands)
@@ -30,7 +22,7 @@ GameMenu::GameMenu(Program& program, const Commands& commands)
     buildTree();
     for (const Entry& entry : entries_) {
         entry.item.onClick = entry.action;
-        entry.item.shortcut = shortcutText(entry.key, entry.withControl);
+        entry.item.shortcut = shortcutText({entry.key, entry.withControl});
     }
 }
 
@@ -55,7 +47,7 @@ std::vector<GameMenu::Entry> GameMenu::entries(const Commands& commands) {
         {mHide, texts::kMenuHiddenLetters, 'O', true, commands.mHide_Click},
         {mColor, texts::kMenuColors, 0, false, commands.mColor_Click},
         {mAbout, texts::kMenuAbout, 0, false, [this] { mAbout_Click(); }},
-        {mHelp, texts::kMenuHelp, 0, false, [this] { mHelp_Click(); }},
+        {mHelp, texts::kMenuHelp, 0, false, [this] { openManual(program_); }},
     };
 }
 
@@ -135,14 +127,6 @@ void GameMenu::mAbout_Click() const {
     const Text further = Text(texts::kMakers) + u"\r\n" + Text(texts::kProgramName) +
                          program_.lang(texts::kVersion) + Text(kVersionNumber);
     program_.desktop.aboutBox(texts::kProgramName, further);
-}
-
-void GameMenu::mHelp_Click() const {
-    const auto manual = program_.folder / "Quillor-Manual.txt";
-    if (isFile(manual))
-        program_.desktop.open(manual);
-    else
-        program_.desktop.messageBox(MessageIcon::Information, program_.lang(texts::kHelpMissing));
 }
 
 WebSearch::WebSearch(Program& program) : program_(program) {

@@ -66,7 +66,6 @@ class GameMenu {
     std::vector<Entry> entries(const Commands& commands);
     void buildTree();
     void mAbout_Click() const;
-    void mHelp_Click() const;
 
     Program& program_;
     std::array<MenuItem, 5> separators_;

@@ -22,6 +22,7 @@ void frmOptions::layOut() {
     imgBack.id = "imgBack";
     imgBack.drawing = style::kSettingsDrawing;
     add(imgBack).place(0, 0, width, height);
+    layOutView(style::kViewPlace, style::kFaint);
     layOutTiles();
     layOutOptions();
     layOutDesigns();

@@ -13,8 +13,7 @@ namespace {
 constexpr Twips kMarkWidth = 60;  // of the edge that marks the chosen design
 }
 
-frmOptions::frmOptions(Program& program)
-    : Screen("frmOptions"), program_(program), settings_(program.settings) {
+frmOptions::frmOptions(Program& program) : ProgramScreen("frmOptions", program) {
     layOut();
     connect();
 }

@@ -2,13 +2,12 @@
 // event is handled.
 #pragma once
 
-#include "app/program.h"
-#include "toolkit/screen.h"
+#include "app/program_screen.h"
 #include "ui/colors.h"
 
 namespace quillor {
 
-class frmOptions : public Screen {
+class frmOptions : public ProgramScreen {
   public:
     explicit frmOptions(Program& program);
 
@@ -35,6 +34,8 @@ class frmOptions : public Screen {
     void onLoad() override;
     void onUnload() override;
     void onKeyDown(KeyEvent& event) override;
+    TextPair ownKeys() const override { return texts::kKeysSettings; }
+    void goBack() override { program_.close(*this); }
     void onCloseRequest() override { program_.close(*this); }
 
   private:
@@ -54,9 +55,6 @@ class frmOptions : public Screen {
     void paintTiles(int design);
     bool& settingOf(int option);
     void showTicks();
-
-    Program& program_;
-    GameSettings& settings_;
 };
 
 /// Makes the settings screen known to the program.

@@ -61,6 +61,16 @@ void Shell::close(Screen& screen) {
     closed_.push_back(page);
 }
 
+bool Shell::isFullScreen() const {
+    return window_ && window_->isFullScreen();
+}
+
+// The state that it leaves, maximised or not, is what it comes back to.
+void Shell::setFullScreen(bool on) {
+    if (window_)
+        window_->setWindowState(window_->windowState().setFlag(Qt::WindowFullScreen, on));
+}
+
 void Shell::end() {
     ended_ = true;
     QCoreApplication::exit(0);

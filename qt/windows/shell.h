@@ -82,6 +82,10 @@ class Shell {
     }
     bool isModal() const { return base_ > 0; }
 
+    /// Of the window that the large screens share; there is none before the first of them.
+    bool isFullScreen() const;
+    void setFullScreen(bool on);
+
     /// No event is delivered any more; every event loop ends.
     void end();
     bool hasEnded() const { return ended_; }

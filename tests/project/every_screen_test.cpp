@@ -133,6 +133,14 @@ TEST_P(EveryScreen, KeepsTheLabelsThatAreSeenWithinTheirFrames) {
             << label->id;
 }
 
+TEST_P(EveryScreen, OffersTheFurtherMenuWithEveryEntryNamed) {
+    const auto& shown = dynamic_cast<ProgramScreen&>(screen());
+    for (const MenuItem* item : shown.mView.children)
+        EXPECT_FALSE(item->caption.empty()) << item->id;
+    const std::vector<Label*> labels = all<Label>();
+    EXPECT_NE(std::find(labels.begin(), labels.end(), &shown.lblView), labels.end());
+}
+
 TEST_P(EveryScreen, SaysWhatEachButtonDoes) {
     for (const Label* button : buttons()) {
         const Text& spoken = button->spokenName.empty() ? button->caption : button->spokenName;

@@ -21,6 +21,17 @@ TEST_F(Windows, ShowTheTitleAndEveryControlInItsPlace) {
     EXPECT_EQ(widgetOf(button).objectName(), "lbl");
 }
 
+TEST_F(Windows, FillTheDisplayAndComeBackAsTheyWere) {
+    PageWindow& window = open();
+    const QSize before = window.size();
+    shell.setFullScreen(true);
+    EXPECT_TRUE(shell.isFullScreen());
+    EXPECT_TRUE(window.isFullScreen());
+    shell.setFullScreen(false);
+    EXPECT_FALSE(shell.isFullScreen());
+    EXPECT_EQ(window.size(), before);
+}
+
 TEST_F(Windows, FollowTheTitle) {
     PageWindow& window = open();
     shell.event([&] { screen.title = u"Quillor [1]"; });

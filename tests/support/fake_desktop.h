@@ -73,6 +73,7 @@ class FakeDesktop : public Desktop {
     bool picturesFit = true;   // false: every picture is larger than it can use
     std::deque<double> draws;  // served first; then the seeded generator
     Text clipboardText;
+    bool fullScreen = false;
 
     // What has been asked of it.
     std::vector<std::filesystem::path> openedFiles;
@@ -107,6 +108,8 @@ class FakeDesktop : public Desktop {
     void show(Screen& screen) override;
     void close(Screen& screen) override;
     void popUp(Screen& screen, MenuItem& menu, const Control* under) override;
+    bool isFullScreen() const override { return fullScreen; }
+    void setFullScreen(bool on) override { fullScreen = on; }
     void startProgram() override { ++programStarts; }
     void end() override { ended = true; }
 

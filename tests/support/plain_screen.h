@@ -29,6 +29,7 @@ class PlainScreen : public Screen {
     }
 
     std::function<void(KeyEvent&)> keyDownHandler;
+    std::function<void(KeyEvent&)> unusedHandler;
     std::function<void(char16_t)> keyPressHandler;
     std::function<void()> closeHandler;
     std::function<void()> menuHandler;
@@ -42,6 +43,10 @@ class PlainScreen : public Screen {
     void onKeyDown(KeyEvent& event) override {
         if (keyDownHandler)
             keyDownHandler(event);
+    }
+    void onKeyUnused(KeyEvent& event) override {
+        if (unusedHandler)
+            unusedHandler(event);
     }
     void onKeyPress(char16_t character) override {
         if (keyPressHandler)

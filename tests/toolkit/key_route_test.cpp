@@ -55,6 +55,20 @@ class Keys : public ::testing::Test {
     int swallowed = -1;
 };
 
+TEST_F(Keys, ComeToTheScreensLastResortWhenNobodyHasTakenThem) {
+    screen.unusedHandler = [this](KeyEvent& event) {
+        log += "unused ";
+        event.handled = true;
+    };
+    focus.take(list);
+    list.onKeyDown = [](KeyEvent& event) { event.handled = event.code == 'B'; };
+    press(letter(u'a'));
+    press(letter(u'b'));
+    swallowed = 'C';
+    press(letter(u'c'));
+    EXPECT_EQ(log, "down65 unused down66 down67 ");
+}
+
 TEST_F(Keys, ReachTheScreenAsKeyAndAsCharacter) {
     press(letter(u'a'));
     EXPECT_EQ(log, "down65 press-a ");

@@ -1,0 +1,153 @@
+#include "app/program_screen.h"
+
+#include "core/numbers.h"
+#include "toolkit/style.h"
+
+namespace quillor {
+
+namespace {
+
+void switchFullScreen(ProgramScreen& screen) {
+    Desktop& desktop = screen.program().desktop;
+    desktop.setFullScreen(!desktop.isFullScreen());
+}
+
+bool isFullScreen(const ProgramScreen& screen) {
+    return screen.program().desktop.isFullScreen();
+}
+
+}  // namespace
+
+std::vector<ViewEntry> commonViewEntries() {
+    return {
+        {"mFullScreen",
+         texts::kViewFullScreen,
+         {key::kF11},
+         {key::kReturn, false, true},
+         switchFullScreen,
+         isFullScreen,
+         {}},
+        {"mKeys",
+         texts::kViewKeys,
+         {},
+         {},
+         [](ProgramScreen& screen) { screen.showKeys(); },
+         {},
+         {}},
+        {"mViewHelp",
+         texts::kMenuHelp,
+         {key::kF1},
+         {},
+         [](ProgramScreen& screen) { screen.openHelp(); },
+         {},
+         {}},
+        {"mQuit",
+         texts::kSpokenClose,
+         {'Q', true},
+         {},
+         [](ProgramScreen& screen) { screen.quit(); },
+         {},
+         {}},
+    };
+}
+
+ProgramScreen::ProgramScreen(const std::string& screenName, Program& program)
+    : Screen(screenName), program_(program), settings_(program.settings) {
+    makeEntries();
+    lblView.id = "lblView";
+    lblView.role = LabelRole::Button;
+    lblView.onClick = [this] { popUpView(); };
+    translateView();
+}
+
+void ProgramScreen::makeEntries() {
+    mView.id = "mView";
+    for (const ViewEntry& entry : program_.viewEntries) {
+        MenuItem& item = items_.emplace_back();
+        item.id = entry.id;
+        item.shortcut = shortcutText(entry.key);
+        item.checkable = entry.isOn != nullptr;
+        if (entry.run)
+            item.onClick = [this, run = entry.run] { run(*this); };
+        mView.children.push_back(&item);
+    }
+}
+
+void ProgramScreen::layOutView(const Area& place, Color ink, Frame* on) {
+    lblView.font = style::kBarText;
+    lblView.textColor = ink;
+    lblView.cornerRadius = style::kButtonRadius;
+    add(lblView, on).place(place.left, place.top, place.width, place.height);
+}
+
+void ProgramScreen::translateView() {
+    mView.caption = program_.lang(texts::kView);
+    lblView.caption = u"&" + mView.caption;
+    lblView.toolTip = program_.lang(texts::kViewTip);
+    showEntries();
+}
+
+void ProgramScreen::showEntries() {
+    auto item = items_.begin();
+    for (const ViewEntry& entry : program_.viewEntries) {
+        item->caption = program_.lang(entry.caption);
+        item->checked = entry.isOn && entry.isOn(*this);
+        item->enabled = !entry.isOffered || entry.isOffered(*this);
+        ++item;
+    }
+}
+
+void ProgramScreen::popUpView() {
+    showEntries();
+    program_.desktop.popUp(*this, mView, &lblView);
+}
+
+void ProgramScreen::openHelp() {
+    openManual(program_);
+}
+
+void ProgramScreen::showKeys() {
+    Text keys = program_.lang(ownKeys());
+    if (!keys.empty())
+        keys += u"\r\n";
+    keys += program_.lang(texts::kKeysEverywhere);
+    program_.desktop.messageBox(MessageIcon::Information, keys);
+}
+
+void ProgramScreen::quit() {
+    if (mayQuit())
+        closeRequest();
+}
+
+void ProgramScreen::leave() {
+    if (program_.desktop.isFullScreen())
+        program_.desktop.setFullScreen(false);
+    else
+        goBack();
+}
+
+void ProgramScreen::onKeyUnused(KeyEvent& event) {
+    event.handled = true;
+    if (Shortcut{key::kEscape}.isPressed(event))
+        return leave();
+    if (Shortcut{key::kF10}.isPressed(event) && isUsable(lblView))
+        return popUpView();
+    for (const ViewEntry& entry : program_.viewEntries)
+        if (entry.key.isPressed(event) || entry.otherKey.isPressed(event)) {
+            if (!entry.isOffered || entry.isOffered(*this))
+                entry.run(*this);
+            return;
+        }
+    event.handled = false;
+}
+
+Text shortcutText(const Shortcut& shortcut) {
+    if (shortcut.code == 0)
+        return {};
+    const bool function = shortcut.code >= key::kF1 && shortcut.code <= key::kLastFunctionKey;
+    const Text name = function ? u"F" + inDigits(shortcut.code - key::kF1 + 1)
+                               : Text(1, static_cast<char16_t>(shortcut.code));
+    return (shortcut.control ? u"Ctrl+" : u"") + Text(shortcut.alt ? u"Alt+" : u"") + name;
+}
+
+}  // namespace quillor
