@@ -1,7 +1,10 @@
 // A game from the play button to its ending. What a rule says has happened is
 // looked at in one place, `show`, and painted from there.
+#include <utility>
+
 #include "core/settings_file.h"
 #include "core/text_rules.h"
+#include "core/topic_library.h"
 #include "game/game_screen.h"
 #include "game/rules/guess.h"
 #include "game/rules/scoring.h"
@@ -10,6 +13,26 @@
 #include "topics/topics.h"
 
 namespace quillor {
+
+namespace {
+
+// The topic that was dealt from last: a tour has moved on by now.
+Played playedGame(const GameSettings& settings, Happened how) {
+    Played played;
+    played.won = how == Happened::Won;
+    if (settings.gbClassicMode)
+        return played;
+    if (keepsScore(settings))
+        played.score = settings.giScoreShown;
+    const auto topic = static_cast<std::size_t>(settings.giSavedTopic);
+    if (topic < settings.gaTopicLines.size()) {
+        played.topic = topicTitle(settings.gaTopicLines[topic]);
+        played.phrase = settings.gsLastPhrase;
+    }
+    return played;
+}
+
+}  // namespace
 
 void frmGame::say(const TextPair& text) {
     program_.desktop.messageBox(MessageIcon::Information, program_.lang(text));
@@ -111,6 +134,8 @@ void frmGame::guess(char16_t key) {
     // Also the sixth one; the ending names its own sound before this one plays.
     if (round.mistakes.size() > mistakes)
         sounds.request(sound::kMistake);
+    if (happened != Happened::Nothing)
+        ++typed_.letters;
     show(happened);
     if (settings_.giGameState == kPlaying)
         announcer.sayGuess(upperCase(key), happened, round);
@@ -121,7 +146,10 @@ void frmGame::eEnterWord() {
         return;
     // The clock may end the game while the box stands: then the answer is no attempt.
     const Text typed = program_.desktop.inputBox(program_.lang(texts::kEnterAnswer));
-    show(judgeAnswer(settings_, round, typed));
+    const Happened happened = judgeAnswer(settings_, round, typed);
+    if (happened != Happened::Nothing)
+        ++typed_.answers;
+    show(happened);
 }
 
 void frmGame::passSecond() {
@@ -155,6 +183,7 @@ void frmGame::show(Happened happened) {
 void frmGame::endGame(Happened how) {
     const bool tourCompleted = eFinalStep(settings_, round, how);
     const bool dead = how == Happened::Died;
+    noteProgress(playedGame(settings_, how));
     accent.ePutNewColor(dead ? settings_.glRed : settings_.glGreen);
     figure.tmrDead.enabled = dead;
     showState();
@@ -167,6 +196,14 @@ void frmGame::endGame(Happened how) {
     if (tourCompleted)
         say(texts::kTourCompleted);
     sounds.playNamed();
+}
+
+void frmGame::noteProgress(Played played) {
+    const Played typed = std::exchange(typed_, {});
+    played.letters = typed.letters;
+    played.answers = typed.answers;
+    if (played.won || played.letters + played.answers > 0)
+        addToProgress(program_.folder, played);
 }
 
 void frmGame::showRound() {

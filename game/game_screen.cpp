@@ -156,6 +156,11 @@ void frmGame::onLoad() {
     ePutSomeLucky();
 }
 
+void frmGame::onUnload() {
+    score.keepScore();
+    noteProgress({});
+}
+
 void frmGame::eLoadData() {
     loadForGameScreen(settings_, program_.folder);
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/program_screen.h"
+#include "core/progress.h"
 #include "game/announcer.h"
 #include "game/keyboard.h"
 #include "game/phrase_board.h"
@@ -53,7 +54,7 @@ class frmGame : public ProgramScreen {
 
   protected:
     void onLoad() override;
-    void onUnload() override { score.keepScore(); }
+    void onUnload() override;
     void onKeyDown(KeyEvent& event) override;
     TextPair ownKeys() const override { return texts::kKeysGame; }
     void goBack() override { mBack_Click(); }
@@ -95,6 +96,7 @@ class frmGame : public ProgramScreen {
     void showRound();  // what a guess changes
     void showState();  // and what a game's beginning and end change
     void showIdlePage(bool idle);
+    void noteProgress(Played played);
 
     // game_commands.cpp: what else the menu and the keys do.
     bool mayLeaveGame();
@@ -113,6 +115,7 @@ class frmGame : public ProgramScreen {
     void say(const TextPair& text);
 
     bool topicDealt_ = false;  // Repeat and Tour have a topic to start from
+    Played typed_;             // what was typed since progress was noted
 };
 
 /// Makes the game screen known to the program.
