@@ -1,11 +1,15 @@
 // Each option is a caption and the button behind it, which act as one.
 #include "app/menu_screen.h"
 
+#include <utility>
+
 #include "toolkit/style.h"
 
 namespace quillor {
 
 namespace {
+
+constexpr int kTopicsDelay = 200;  // ms
 
 int buttonOf(int label) {
     return label < frmMenu::kFirstButton ? label + frmMenu::kFirstButton : label;
@@ -26,11 +30,13 @@ void frmMenu::connect() {
         lblOption(i).onMouseUp = [this, i] { release(i); };
     }
     imgBack.onMouseMove = [this] { eFallColor(); };
+    tmrTopics.onTick = [this] { tmrTopics_Timer(); };
 }
 
 void frmMenu::onLoad() {
     eTranslate();
     eFallColor();
+    tmrTopics.enabled = !program_.topicsToTake.empty();
 }
 
 void frmMenu::eTranslate() {
@@ -106,6 +112,16 @@ void frmMenu::choose(int option) {
     program_.close(*this);
 }
 
+void frmMenu::onFilesDropped(const std::vector<std::filesystem::path>& files) {
+    if (program_.takeTopics && program_.takeTopics(files))
+        eRestartGame(program_, *this);
+}
+
+void frmMenu::tmrTopics_Timer() {
+    tmrTopics.enabled = false;
+    onFilesDropped(std::exchange(program_.topicsToTake, {}));
+}
+
 void frmMenu::onKeyDown(KeyEvent& event) {
     switch (event.code) {
         case 'A':
@@ -136,6 +152,9 @@ void frmMenu::layOut() {
     width = style::kScreenWidth;
     height = style::kScreenHeight;
 
+    tmrTopics.id = "tmrTopics";
+    tmrTopics.interval = kTopicsDelay;
+    add(tmrTopics);
     imgBack.id = "imgBack";
     imgBack.drawing = style::kMenuDrawing;
     add(imgBack).place(0, 0, width, height);

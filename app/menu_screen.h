@@ -11,6 +11,7 @@ class frmMenu : public ProgramScreen {
 
     void takePaper(const ImageRef& paper) override { imgBack.image = paper; }
     Control* initialFocus() override { return &lblOption(kFirstButton); }
+    bool takesFiles() const override { return true; }
 
     static constexpr int kOptions = 4;      // 0..3 are the captions
     static constexpr int kFirstButton = 4;  // 4..7 the buttons they stand on
@@ -20,11 +21,13 @@ class frmMenu : public ProgramScreen {
     Label lblWelcome;
     ControlArray<Shape, kFirstButton, kLastButton> shpOption{"shpOption"};
     ControlArray<Label, 0, kLastButton> lblOption{"lblOption"};
+    Timer tmrTopics;  // once the menu is seen, for topics that the program was started with
 
   protected:
     void onLoad() override;
     void onKeyDown(KeyEvent& event) override;
     TextPair ownKeys() const override { return texts::kKeysMenu; }
+    void onFilesDropped(const std::vector<std::filesystem::path>& files) override;
     void onCloseRequest() override { program_.end(); }
 
   private:
@@ -37,6 +40,7 @@ class frmMenu : public ProgramScreen {
     void hover(int label);
     void press(int label);
     void release(int label);
+    void tmrTopics_Timer();
     Color restColor(int button) const;
 
     static constexpr int kNoButton = 8;

@@ -2,6 +2,7 @@
 // them do with the machine.
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <map>
 #include <memory>
@@ -16,7 +17,7 @@
 
 namespace quillor {
 
-enum class ScreenId { Start, Menu, Game, Settings, Word1, Word2, Inventor };
+enum class ScreenId { Start, Menu, Game, Settings, Word1, Word2, Inventor, OpenTopic };
 
 class Program {
   public:
@@ -31,6 +32,11 @@ class Program {
     /// The entries of the menu "View" of every screen, in their order. To be added to
     /// before the first screen is made.
     std::vector<ViewEntry> viewEntries = commonViewEntries();
+
+    /// Takes topic files in; returns whether the player wants the game restarted for them.
+    std::function<bool(const std::vector<std::filesystem::path>&)> takeTopics;
+    /// Topic files that the program was started with: the menu takes them in.
+    std::vector<std::filesystem::path> topicsToTake;
 
     GameSettings settings;
     Desktop& desktop;

@@ -388,6 +388,44 @@ inline constexpr TextPair kFlawLineEnd{
     u"el fin de línea no es CR LF: el juego lo lee igual, pero otros programas quizá no",
     u"the line end is not CR LF: the game reads it all the same, but other programs may not"};
 
+// What the inventor hints at while a topic is written.
+inline constexpr TextPair kHintListed{u"Esa frase ya está en la lista.",
+                                      u"That phrase is in the list already."};
+inline constexpr TextPair kHintReplaces{u"Ya hay un archivo con ese nombre: será reemplazado.",
+                                        u"There is a file of that name: it will be replaced."};
+inline constexpr TextPair kHintTwoPhrases{u"El juego quiere al menos dos frases.",
+                                          u"The game wants two phrases at least."};
+inline constexpr TextPair kHintTooMany{
+    u"Con más de 50 frases el juego deja de cargar, también los temas que siguen.",
+    u"With more than 50 phrases the game stops loading, later topics too."};
+inline constexpr TextPair kOpen{u"A&BRIR", u"&OPEN"};
+inline constexpr TextPair kOpenTip{u" Seguir escribiendo un tema que ya existe ",
+                                   u" Go on writing a topic that exists "};
+inline constexpr TextPair kOpenTitle{u"Abra un tema:", u"Open a topic:"};
+inline constexpr TextPair kLoseTopic{
+    u"Perderás las frases del tema que estás escribiendo. ¿Quieres continuar?",
+    u"You will lose the phrases of the topic you are writing. Do you want to go on?"};
+
+// Topics that others have written; the file's name stands in place of "%".
+inline constexpr TextPair kShareNoTopic{u"«%» no es un tema: los temas son archivos .txt.",
+                                        u"\"%\" is no topic: topics are .txt files."};
+inline constexpr TextPair kShareUnread{u"No se puede leer «%».", u"\"%\" cannot be read."};
+inline constexpr TextPair kShareThere{u"El juego ya tiene el tema «%».",
+                                      u"The game has the topic \"%\" already."};
+inline constexpr TextPair kShareRefused{u"El juego no puede usar «%»:",
+                                        u"The game cannot use \"%\":"};
+inline constexpr TextPair kShareFound{u"Esto hay que decir de «%»:",
+                                      u"This is to be said of \"%\":"};
+inline constexpr TextPair kShareLine{u"Línea ", u"Line "};
+inline constexpr TextPair kShareMore{u"Y % más.", u"And % more."};
+inline constexpr TextPair kShareAnyhow{u"\r\n¿Quieres copiarlo de todos modos?",
+                                       u"\r\nDo you want to copy it all the same?"};
+inline constexpr TextPair kShareReplace{
+    u"El juego ya tiene un tema «%», distinto de éste. ¿Quieres reemplazarlo?",
+    u"The game has a topic \"%\" already, which differs. Do you want to replace it?"};
+inline constexpr TextPair kShareFailed{u"«%» no se pudo copiar a la carpeta de temas.",
+                                       u"\"%\" could not be copied into the topic folder."};
+
 // Spoken names: what a screen reader says of a control whose caption is a
 // symbol, a field or a drawing.
 inline constexpr TextPair kSpokenSounds{u"Sonidos", u"Sounds"};

@@ -77,7 +77,9 @@ class Session {
         addGameScreens(program_);
     }
 
-    int run() {
+    int run(const QStringList& topics) {
+        for (const QString& topic : topics)
+            program_.topicsToTake.push_back(std::filesystem::absolute(toPath(fromQt(topic))));
         shell_.event([&] { program_.show(ScreenId::Start); });
         return shell_.hasEnded() ? 0 : QApplication::exec();
     }
@@ -139,7 +141,7 @@ int play(const CommandLine& line, int argc, char** argv) {
         layOutTopics({here.shared / "packs", platform::systemDisk()},
                      {folder, platform::systemDisk()});
     }
-    return Session(folder, here).run();
+    return Session(folder, here).run(line.files);
 }
 
 // The topics named or, where none is, the game's own in both languages.

@@ -178,6 +178,11 @@ void Screen::doubleClick(ListBox& list) {
     input(list, "_DblClick", list.onDoubleClick);
 }
 
+void Screen::dropFiles(const std::vector<std::filesystem::path>& files) {
+    if (enabled && takesFiles())
+        quietly(name + "_DropFiles", [&] { onFilesDropped(files); });
+}
+
 void Screen::listKeyDown(ListBox& list, KeyEvent& event) {
     if (enabled && list.enabled && list.onKeyDown)
         quietly(list.id + "_KeyDown", [&] { list.onKeyDown(event); });

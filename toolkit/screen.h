@@ -2,6 +2,7 @@
 // that the shell, or a test in its place, delivers to it.
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <utility>
 #include <vector>
@@ -40,6 +41,8 @@ class Screen {
     /// The control that has the focus when the screen opens, and that gets it
     /// back when the focused one is hidden; null: none.
     virtual Control* initialFocus() { return nullptr; }
+    /// Whether files may be dropped on the screen now.
+    virtual bool takesFiles() const { return false; }
     /// Asks the shell to move the focus to a control after this event.
     void setFocus(Control& control) { focusRequest_ = &control; }
     /// The pending wish of setFocus, which this call clears; null: none.
@@ -78,6 +81,8 @@ class Screen {
     void focusChanged(TextField& field, bool gained);
     void selectItem(ListBox& list, int index);  // -1: none
     void doubleClick(ListBox& list);
+    /// Files that were dropped on the screen; nothing where it takes none.
+    void dropFiles(const std::vector<std::filesystem::path>& files);
     void listKeyDown(ListBox& list, KeyEvent& event);
 
   protected:
@@ -88,6 +93,7 @@ class Screen {
     virtual void onKeyPress(char16_t) {}
     /// A right click that no control has taken.
     virtual void onContextMenu() {}
+    virtual void onFilesDropped(const std::vector<std::filesystem::path>&) {}
     virtual void onCloseRequest() = 0;
 
     /// Puts a control in front of those added before it.

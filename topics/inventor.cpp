@@ -10,12 +10,16 @@
 #include "core/text_rules.h"
 #include "core/topic_library.h"
 #include "toolkit/style.h"
+#include "topics/topic_check.h"
+#include "topics/topic_opening.h"
+#include "topics/topic_sharing.h"
 
 namespace quillor {
 
 namespace {
 
-constexpr int kCounted = 50;
+constexpr std::size_t kCounted = 50;
+constexpr std::size_t kMostLines = 10'000;  // of a topic that is opened
 
 // As it is derived from a topic's name.
 Text fileNameFor(TextView topic) {
@@ -45,6 +49,7 @@ void frmInventor::connectFields() {
     txtTheme.onKeyPress = [this](char16_t character) { return txtTheme_KeyPress(character); };
     txtFile.onChange = [this] { txtFile_Change(); };
     txtFile.onLostFocus = [this] { txtFile.setText(besideDevices(txtFile.text())); };
+    txtWord.onChange = [this] { showHint(); };
     txtWord.onKeyPress = [this](char16_t character) { return txtWord_KeyPress(character); };
     txtWord.onKeyDown = [this](KeyEvent& event) { txtWord_KeyDown(event); };
 }
@@ -52,6 +57,7 @@ void frmInventor::connectFields() {
 void frmInventor::connectButtons() {
     lblOk.onClick = [this] { lblOk_Click(); };
     lblDel.onClick = [this] { lblDel_Click(); };
+    lblOpen.onClick = [this] { lblOpen_Click(); };
     lblHelp.onClick = [this] { lblHelp_Click(); };
     lblBack.onClick = [this] { lblBack_Click(); };
     for (Label& label : lblSave) {
@@ -59,17 +65,17 @@ void frmInventor::connectButtons() {
         showPress(label, shpSave.backColor, settings_.glGreen, settings_.glRed);
     }
     showPress(lblBack, shpBack.backColor, settings_.glGreen, settings_.glRed);
-    for (Label* label : {&lblOk, &lblDel, &lblHelp})
+    for (Label* label : {&lblOk, &lblDel, &lblOpen, &lblHelp})
         showPress(*label, label->textColor, settings_.glGrey, settings_.glWhite);
 }
 
 void frmInventor::onLoad() {
     eTranslate();
-    for (Shape* shape : {&shpHead, &shpAdd, &shpDel, &shpHelp})
+    for (Shape* shape : {&shpHead, &shpAdd, &shpDel, &shpOpen, &shpHelp})
         shape->backColor = settings_.glTheme;
     shpBack.backColor = shpSave.backColor = settings_.glRed;
     lstTopics.selectionColor = settings_.glTheme;
-    for (Label* label : {&lblOk, &lblDel, &lblHelp, &lblBack, &lblSave(1), &lblLabel(0)})
+    for (Label* label : {&lblOk, &lblDel, &lblOpen, &lblHelp, &lblBack, &lblSave(1), &lblLabel(0)})
         label->textColor = settings_.glWhite;
     eRefreshButton();
 }
@@ -84,6 +90,8 @@ void frmInventor::eTranslate() {
     title = texts::kInventorTitle;
     lblBack.caption = program_.lang(texts::kBack);
     lblBack.toolTip = program_.lang(texts::kBackTip);
+    lblOpen.caption = program_.lang(texts::kOpen);
+    lblOpen.toolTip = program_.lang(texts::kOpenTip);
     lblHelp.toolTip = program_.lang(texts::kInventorHelpTip);
     lblHelp.spokenName = program_.lang(texts::kSpokenHelp);
     lblLabel(0).caption = program_.lang(texts::kInventorHeading);
@@ -107,8 +115,54 @@ void frmInventor::eTranslate() {
 
 void frmInventor::eRefreshButton() {
     const int phrases = static_cast<int>(lstTopics.items.size());
-    lblCont.caption = twoDigits(phrases) + u"/" + twoDigits(kCounted);
+    lblCont.caption = twoDigits(phrases) + u"/" + twoDigits(static_cast<int>(kCounted));
     lblSave(0).enabled = shpSave.enabled = phrases > 0 && !txtFile.text().empty();
+    showHint();
+}
+
+// The phrase that is being typed comes before the topic.
+void frmInventor::showHint() {
+    Text hint = hintOfPhrase();
+    if (hint.empty())
+        hint = hintOfTopic();
+    if (!hint.empty())
+        hint.front() = upperCase(hint.front());
+    lblHint.caption = hint;
+}
+
+Text frmInventor::hintOfPhrase() const {
+    const Text phrase = trimmed(upperCase(txtWord.text()));
+    if (phrase.empty())
+        return {};
+    if (const std::vector<Text> flaws = phraseFlaws(phrase, settings_.gbEnglish); !flaws.empty())
+        return flaws.front();
+    const auto same = [folded = eFoldAccents(phrase)](const Text& other) {
+        return eFoldAccents(trimmed(other)) == folded;
+    };
+    if (std::any_of(lstTopics.items.begin(), lstTopics.items.end(), same))
+        return program_.lang(texts::kHintListed);
+    for (const Topic& topic : settings_.gaTopicLines)
+        if (topicTitle(topic) != trimmed(upperCase(txtTheme.text())) &&
+            std::any_of(topic.begin() + 1, topic.end(), same))
+            return replaceAll(program_.lang(texts::kFlawElsewhere), u"%", topicTitle(topic));
+    return {};
+}
+
+Text frmInventor::hintOfTopic() const {
+    Text hint;
+    const auto add = [&hint](const Text& text) { hint += (hint.empty() ? u"" : u" ") + text; };
+    if (!txtFile.text().empty() && eFileExists(itsFile()))
+        add(program_.lang(texts::kHintReplaces));
+    if (lstTopics.items.size() < 2 && !(txtTheme.text().empty() && lstTopics.items.empty()))
+        add(program_.lang(texts::kHintTwoPhrases));
+    if (lstTopics.items.size() > kCounted)
+        add(program_.lang(texts::kHintTooMany));
+    return hint;
+}
+
+Place frmInventor::itsFile() const {
+    return topicFolder(settings_, program_.folder) /
+           toPath(besideDevices(txtFile.text()) + u".txt");
 }
 
 char16_t frmInventor::eCheck_Key(char16_t character) const {
@@ -228,13 +282,18 @@ void frmInventor::lblSave_Click() {
             eRestartGame(program_, *this);
             return;
         }
-        lstTopics.clear();
-        txtWord.setText(u"");
-        txtTheme.setText(u"");
-        txtFile.setText(u"");  // also where there was no topic name for it to follow
-        eRefreshButton();
+        clearAll();
         setFocus(txtTheme);
     });
+}
+
+void frmInventor::clearAll() {
+    lstTopics.clear();
+    txtWord.setText(u"");
+    txtTheme.setText(u"");
+    txtFile.setText(u"");  // also where there was no topic name for it to follow
+    txtTheme.maxLength = txtFile.maxLength = kNameLength;
+    eRefreshButton();
 }
 
 void frmInventor::saveTopic() {
@@ -245,7 +304,51 @@ void frmInventor::saveTopic() {
         lines.front() += u" " + lowerCase(texts::kSpanishTag);
     for (const Text& phrase : lstTopics.items)
         lines.push_back(lowerCase(trimmed(phrase)));
-    writeLines(topicFolder(settings_, program_.folder) / toPath(txtFile.text() + u".txt"), lines);
+    writeLines(itsFile(), lines);
+}
+
+bool frmInventor::mayLoseTopic() {
+    return lstTopics.items.empty() || program_.desktop.question(program_.lang(texts::kLoseTopic));
+}
+
+void frmInventor::lblOpen_Click() {
+    if (!mayLoseTopic())
+        return;
+    program_.showOver(ScreenId::OpenTopic, *this, imgBack.image, [this] {
+        const Place file = dynamic_cast<frmOpen&>(*program_.find(ScreenId::OpenTopic)).chosen();
+        if (!quietly("open a topic", [&] { openTopic(file); }))
+            program_.desktop.messageBox(MessageIcon::Information,
+                                        replaceAll(program_.lang(texts::kShareUnread), u"%",
+                                                   fromPath(file.path().filename())));
+    });
+}
+
+// A name that is longer than those that can be typed stays whole.
+void frmInventor::openTopic(const Place& file) {
+    const std::vector<Text> lines = readLines(file, kMostLines);
+    clearAll();
+    const Text topicName = topicTitle({lines.empty() ? Text() : lines.front()});
+    const Text stem = fromPath(file.path().stem());
+    txtTheme.maxLength = std::max(kNameLength, static_cast<int>(topicName.size()));
+    txtFile.maxLength = std::max(kNameLength, static_cast<int>(stem.size()));
+    txtTheme.setText(topicName);
+    txtFile.setText(stem);
+    for (std::size_t i = 1; i < lines.size(); ++i)
+        if (const Text phrase = trimmed(upperCase(lines[i])); !phrase.empty())
+            lstTopics.items.push_back(u" " + phrase);
+    if (!lstTopics.items.empty())
+        lstTopics.select(static_cast<int>(lstTopics.items.size()) - 1);
+    eRefreshButton();
+    setFocus(txtWord);
+}
+
+void frmInventor::onFilesDropped(const std::vector<std::filesystem::path>& files) {
+    if (!takeTopics(program_, files) || !mayLoseTopic()) {
+        showHint();  // a file of that name may be there now
+        return;
+    }
+    restarting_ = true;
+    eRestartGame(program_, *this);
 }
 
 // Escape is pressed by mistake more easily than the button.

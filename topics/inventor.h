@@ -9,11 +9,15 @@ class frmInventor : public ProgramScreen {
   public:
     explicit frmInventor(Program& program);
 
+    static constexpr int kNameLength = 22;  // of what is typed
+
     Picture imgBack;
     Shape shpHead;
     ControlArray<Label, 0, 3> lblLabel{"lblLabel"};  // heading, topic, file, phrases
     Shape shpBack;
     Label lblBack;
+    Shape shpOpen;
+    Label lblOpen;
     Shape shpHelp;
     Label lblHelp;
     TextField txtTheme;
@@ -24,12 +28,14 @@ class frmInventor : public ProgramScreen {
     Shape shpDel;
     Label lblDel;
     ListBox lstTopics;
+    Label lblHint;  // what the game will say to the phrase, or to the topic
     Label lblCont;
     Shape shpSave;
     ControlArray<Label, 0, 1> lblSave{"lblSave"};  // 0 the face, 1 the caption
 
     Control* initialFocus() override { return &txtTheme; }
     void openHelp() override { lblHelp_Click(); }
+    bool takesFiles() const override { return true; }
     void takePaper(const ImageRef& paper) override { imgBack.image = paper; }
 
   protected:
@@ -37,6 +43,7 @@ class frmInventor : public ProgramScreen {
     void onUnload() override;
     TextPair ownKeys() const override { return texts::kKeysInventor; }
     void goBack() override;
+    void onFilesDropped(const std::vector<std::filesystem::path>& files) override;
     void onCloseRequest() override { program_.close(*this); }
 
   private:
@@ -49,6 +56,10 @@ class frmInventor : public ProgramScreen {
     void connectButtons();
     void eTranslate();
     void eRefreshButton();
+    void showHint();
+    Text hintOfPhrase() const;
+    Text hintOfTopic() const;
+    Place itsFile() const;
     char16_t eCheck_Key(char16_t character) const;
     char16_t txtTheme_KeyPress(char16_t character);
     char16_t txtWord_KeyPress(char16_t character);
@@ -62,6 +73,11 @@ class frmInventor : public ProgramScreen {
     void lblSave_Click();
     /// Throws std::runtime_error when the file cannot be written.
     void saveTopic();
+    void clearAll();
+    bool mayLoseTopic();
+    void lblOpen_Click();
+    /// Throws std::runtime_error when the file cannot be read.
+    void openTopic(const Place& file);
     void lblHelp_Click();
     void lblBack_Click() { program_.close(*this); }
 

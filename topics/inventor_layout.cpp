@@ -6,7 +6,6 @@ namespace quillor {
 
 namespace {
 
-constexpr int kNameLength = 22;
 constexpr int kPhraseLength = 35;
 constexpr Twips kLeft = 1260;
 constexpr Twips kFieldWidth = 5160;
@@ -68,6 +67,9 @@ void frmInventor::layOutHead() {
         .place(kLeft + 2400, 360, kInner - 4800, 960);
     add(styled(shpBack, "shpBack")).place(kLeft + 180, 510, 1920, 660);
     add(asButton(lblBack, "lblBack", style::kSmallButton)).place(kLeft + 180, 510, 1920, 660);
+    constexpr Twips kOpen = kLeft + kInner - 2340;
+    add(styled(shpOpen, "shpOpen")).place(kOpen, 510, 1380, 660);
+    add(asButton(lblOpen, "lblOpen", style::kSmallButton)).place(kOpen, 510, 1380, 660);
     add(styled(shpHelp, "shpHelp")).place(kLeft + kInner - 840, 510, 660, 660);
     add(asButton(lblHelp, "lblHelp", {Face::Webdings, 18, false}, symbols::kQuestion))
         .place(kLeft + kInner - 840, 510, 660, 660);
@@ -96,7 +98,11 @@ void frmInventor::layOutPhrases() {
 
     lstTopics.id = "lstTopics";
     lstTopics.font = style::kField;
-    add(lstTopics).place(kLeft, 3930, kInner, 2640);
+    add(lstTopics).place(kLeft, 3930, kInner, 2220);
+    lblHint.id = "lblHint";
+    lblHint.literal = true;
+    add(styled(lblHint, style::kText, Align::Left)).place(kLeft, 6270, kInner, 360);
+    lblHint.textColor = style::kFaint;
 }
 
 }  // namespace quillor

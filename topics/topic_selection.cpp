@@ -3,6 +3,7 @@
 
 #include "core/text_rules.h"
 #include "toolkit/style.h"
+#include "topics/topic_sharing.h"
 #include "topics/topics.h"
 
 namespace quillor {
@@ -55,6 +56,14 @@ void frmWord2::lblOk_Click() {
     const auto topic = static_cast<std::int16_t>(lstTopics.listIndex());
     if (eChoiceTopic(program_, topic, static_cast<std::int16_t>(pendingMode_)))
         program_.accept(*this);
+}
+
+void frmWord2::onFilesDropped(const std::vector<std::filesystem::path>& files) {
+    Screen* game = program_.find(ScreenId::Game);
+    if (!takeTopics(program_, files) || !game)
+        return;
+    program_.close(*this);
+    eRestartGame(program_, *game);
 }
 
 // A mode of 3 or 4, taken over from the game, has no caption.

@@ -16,10 +16,12 @@ class frmWord2 : public EntryScreen {
     Label lblOpt;
 
     Control* initialFocus() override { return &lstTopics; }
+    bool takesFiles() const override { return true; }
 
   protected:
     void onLoad() override;
     TextPair ownKeys() const override { return texts::kKeysTopics; }
+    void onFilesDropped(const std::vector<std::filesystem::path>& files) override;
 
   private:
     void layOut();

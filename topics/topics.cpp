@@ -7,7 +7,9 @@
 #include "game/rules/ways.h"
 #include "topics/classic_entry.h"
 #include "topics/inventor.h"
+#include "topics/topic_opening.h"
 #include "topics/topic_selection.h"
+#include "topics/topic_sharing.h"
 
 namespace quillor {
 
@@ -52,6 +54,11 @@ void addTopicScreens(Program& program) {
                       [](Program& owner) { return std::make_unique<frmWord2>(owner); });
     program.addScreen(ScreenId::Inventor,
                       [](Program& owner) { return std::make_unique<frmInventor>(owner); });
+    program.addScreen(ScreenId::OpenTopic,
+                      [](Program& owner) { return std::make_unique<frmOpen>(owner); });
+    program.takeTopics = [&program](const std::vector<std::filesystem::path>& files) {
+        return takeTopics(program, files);
+    };
 }
 
 }  // namespace quillor

@@ -8,7 +8,8 @@
 
 namespace quillor {
 
-/// Makes classic entry, topic selection and inventor known to the program.
+/// Makes classic entry, topic selection, inventor and what the inventor opens known to the
+/// program, and how topics of others are taken in.
 void addTopicScreens(Program& program);
 
 /// Deals a phrase of the topic and takes the selection way over, which is saved.

@@ -1,12 +1,16 @@
 // The toolkit says where the focus is; the page gives it to that widget.
 #include "qt/windows/page.h"
 
+#include <QDropEvent>
 #include <QInputMethodEvent>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <QUrl>
 #include <algorithm>
 
+#include "core/files.h"
 #include "qt/paint/paper.h"
 #include "qt/windows/drawn_views.h"
 #include "qt/windows/field_view.h"
@@ -58,6 +62,7 @@ Page::Page(Shell& shell, Screen& screen, PageWindow& window)
     setObjectName(QString::fromStdString(screen.name));
     setAttribute(Qt::WA_InputMethodEnabled);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setAcceptDrops(true);
     installEventFilter(this);
     makeViews();
 }
@@ -190,9 +195,32 @@ bool Page::eventFilter(QObject* object, QEvent* event) {
                 link_.shell().keys.commit(screen, link_.focus(), fromQt(text));
             });
             return true;
+        case QEvent::DragEnter:
+        case QEvent::DragMove:
+        case QEvent::Drop:
+            return takeFiles(*static_cast<QDropEvent*>(event));
         default:
             return QWidget::eventFilter(object, event);
     }
+}
+
+// Whatever lies under them; a field keeps the text that is dropped on it. Later, because
+// whoever they come from waits as long as this is being handled.
+bool Page::takeFiles(QDropEvent& event) {
+    std::vector<std::filesystem::path> files;
+    for (const QUrl& url : event.mimeData()->urls())
+        if (url.isLocalFile())
+            files.push_back(toPath(fromQt(url.toLocalFile())));
+    const bool wanted = screen_ && screen_->enabled && screen_->takesFiles();
+    if (files.empty() || !wanted || link_.shell().isModal())
+        return false;
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+    if (event.type() == QEvent::Drop)
+        QTimer::singleShot(0, this, [this, files] {
+            link_.event([&files](Screen& screen) { screen.dropFiles(files); });
+        });
+    return true;
 }
 
 void Page::press(QKeyEvent& event) {

@@ -82,6 +82,7 @@ class Page : public QWidget {
     void layOut();
     void giveFocus();
     void press(QKeyEvent& event);
+    bool takeFiles(QDropEvent& event);
 
     Screen* screen_;
     PageWindow& window_;

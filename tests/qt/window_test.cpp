@@ -1,6 +1,9 @@
 // Windows: events one at a time, what is shown, opening and closing.
 #include <QAbstractButton>
+#include <QDropEvent>
+#include <QMimeData>
 #include <QTimer>
+#include <QUrl>
 
 #include "tests/qt/shell_fixture.h"
 
@@ -320,6 +323,68 @@ TEST_F(Windows, RunTimersWhileTheyAreEnabled) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return ticks == 3; }, 2000));
     QTest::qWait(3 * kTimerResolution);
     EXPECT_EQ(ticks, 3);
+}
+
+// Drops something on a widget as the toolkit does; returns whether it was taken.
+class Dropping : public Windows {
+  protected:
+    std::vector<std::filesystem::path> dropped;
+    Dropping() {
+        screen.filesHandler = [this](const auto& files) { dropped = files; };
+    }
+    static bool drop(QWidget& on, QMimeData& what) {
+        QDragEnterEvent enter({1, 1}, Qt::CopyAction, &what, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&on, &enter);
+        QDropEvent event({1, 1}, Qt::CopyAction, &what, Qt::LeftButton, Qt::NoModifier);
+        event.ignore();
+        if (enter.isAccepted())
+            QApplication::sendEvent(&on, &event);
+        QCoreApplication::processEvents();
+        return event.isAccepted();
+    }
+    static void setFile(QMimeData& data, const QString& path) {
+        data.setUrls({QUrl::fromLocalFile(path), QUrl("http://example.org/x.txt")});
+    }
+};
+
+TEST_F(Dropping, HandsLocalFilesToTheScreen) {
+    open();
+    QMimeData data;
+    setFile(data, QStringLiteral("/tmp/mis años.txt"));
+    EXPECT_TRUE(drop(*shell.find(&screen), data));
+    EXPECT_EQ(dropped, std::vector{std::filesystem::path(u8"/tmp/mis años.txt")});
+}
+
+TEST_F(Dropping, OnAFieldGivesTheScreenFilesAndTheFieldText) {
+    TextField field;
+    addField(field, "txt", 0, 0);
+    open();
+    QMimeData file;
+    setFile(file, "/tmp/a.txt");
+    EXPECT_TRUE(drop(widgetOf(field), file));
+    EXPECT_EQ(dropped.size(), 1U);
+    EXPECT_EQ(field.text(), u"");
+    QMimeData text;
+    text.setText("abc");
+    EXPECT_TRUE(drop(widgetOf(field), text));
+    EXPECT_EQ(field.text(), u"abc");
+}
+
+TEST_F(Dropping, IsRefusedWhereTheScreenTakesNoFiles) {
+    screen.filesHandler = nullptr;
+    open();
+    QMimeData data;
+    setFile(data, "/tmp/a.txt");
+    EXPECT_FALSE(drop(*shell.find(&screen), data));
+}
+
+TEST_F(Dropping, IsRefusedWhileTheScreenTakesNoInput) {
+    open();
+    screen.enabled = false;
+    QMimeData data;
+    setFile(data, "/tmp/a.txt");
+    EXPECT_FALSE(drop(*shell.find(&screen), data));
+    EXPECT_TRUE(dropped.empty());
 }
 
 TEST_F(Windows, DoNotTickATimerInsideItsOwnTick) {

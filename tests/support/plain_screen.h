@@ -33,10 +33,12 @@ class PlainScreen : public Screen {
     std::function<void(char16_t)> keyPressHandler;
     std::function<void()> closeHandler;
     std::function<void()> menuHandler;
+    std::function<void(const std::vector<std::filesystem::path>&)> filesHandler;
     Control* firstFocus = nullptr;
 
     Control* initialFocus() override { return firstFocus; }
     void takePaper(const ImageRef&) override {}
+    bool takesFiles() const override { return filesHandler != nullptr; }
 
   protected:
     void onLoad() override {}
@@ -55,6 +57,9 @@ class PlainScreen : public Screen {
     void onContextMenu() override {
         if (menuHandler)
             menuHandler();
+    }
+    void onFilesDropped(const std::vector<std::filesystem::path>& files) override {
+        filesHandler(files);
     }
     void onCloseRequest() override {
         if (closeHandler)

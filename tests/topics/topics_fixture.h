@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "core/text_codec.h"
+#include "core/text_rules.h"
+#include "core/texts.h"
 #include "tests/support/open_program.h"
 #include "topics/classic_entry.h"
 #include "topics/inventor.h"
@@ -41,6 +43,7 @@ class TopicsTest : public ::testing::Test, public OpenProgram {
         show(ScreenId::Game);
     }
 
+    Text lang(const TextPair& text) { return program.lang(text); }
     FakeGame& game() { return as<FakeGame>(ScreenId::Game); }
 
     std::vector<Played> games;

@@ -56,6 +56,19 @@ class LaidOut(Packs):
         self.assertEqual(self.laid_out("Temas"), ["DEMO.txt"])
 
 
+class Shared(Player):
+    def test_named_on_the_command_line_is_copied_and_loaded(self):
+        self.put_settings()
+        topic = self.put("elsewhere/Mis aves.txt", "MIS AVES [español]\nbúho\nmirlo\n")
+        self.put_topic("A", "LETRAS")
+        self.start_at_menu(str(topic))
+        self.answer(self.words.ask_restart, self.words.yes)
+        self.expect_title(self.words.menu_title)
+        self.assertEqual(self.get("Temas/Mis aves.txt"), topic.read_bytes())
+        self.open_arcade()
+        self.play_topic("MIS AVES")
+
+
 class Dealt(Packs):
     def titles(self):
         """The titles in the order of the tour, which is that of the files."""
