@@ -17,7 +17,7 @@
 
 namespace quillor {
 
-enum class ScreenId { Start, Menu, Game, Settings, Word1, Word2, Inventor, OpenTopic };
+enum class ScreenId { Start, Menu, Game, Settings, Word1, Word2, Inventor, OpenTopic, Progress };
 
 class Program {
   public:

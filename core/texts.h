@@ -320,6 +320,37 @@ inline constexpr TextPair kBackHelp{
 inline constexpr TextPair kAskRestart{u"¿Quieres reiniciar el juego para cargar el nuevo tema?",
                                       u"Do you want to restart the game to load the new topic?"};
 
+// Progress.
+inline constexpr TextPair kProgress{u"Progreso", u"Progress"};
+inline constexpr TextPair kProgressTitle{u"Quillor | Progreso", u"Quillor | Progress"};
+inline constexpr TextPair kProgressHeading{u"PROGRESO", u"PROGRESS"};
+inline constexpr std::array<TextPair, 7> kProgressCounts{{
+    {u"Partidas ganadas: ", u"Games won: "},
+    {u"Partidas perdidas: ", u"Games lost: "},
+    {u"Victorias seguidas: ", u"Victories in a row: "},
+    {u"La racha más larga: ", u"Longest run of victories: "},
+    {u"Mejor puntaje: ", u"Best score: "},
+    {u"Letras probadas: ", u"Letters tried: "},
+    {u"Respuestas escritas: ", u"Answers typed: "},
+}};
+inline constexpr TextPair kProgressNoScores{u"Aquí verás los puntos de tus partidas arcade.",
+                                            u"The score of your arcade games will be here."};
+inline constexpr TextPair kProgressScores{u"Puntos, partidas arcade: ", u"Score, arcade games: "};
+inline constexpr TextPair kProgressFrom{u", de ", u", from "};
+inline constexpr TextPair kProgressTo{u" a ", u" to "};
+inline constexpr TextPair kProgressTopics{u"Frases resueltas de cada tema",
+                                          u"Phrases solved of each topic"};
+inline constexpr TextPair kProgressOf{u" de ", u" of "};
+inline constexpr TextPair kProgressEmpty{u"VA&CIAR", u"&EMPTY"};
+inline constexpr TextPair kProgressEmptyTip{u" Empezar a contar de nuevo ",
+                                            u" Start counting anew "};
+inline constexpr TextPair kAskEmpty{
+    u"¿Quieres vaciar tu progreso? No se podrá recuperar.",
+    u"Do you want to empty your progress? It cannot be brought back."};
+inline constexpr TextPair kKeysProgress{
+    u"Flechas arriba y abajo: tema\r\nEscape o Retroceso: regresar",
+    u"Arrows up and down: topic\r\nEscape or Backspace: go back"};
+
 // What is found in topics; the detail stands in place of "%".
 inline constexpr TextPair kFlawNoText{
     u"no es un texto, o es uno en UTF-16: el juego mostrará signos sin sentido; guárdalo como "
@@ -402,6 +433,9 @@ inline constexpr TextPair kOpen{u"A&BRIR", u"&OPEN"};
 inline constexpr TextPair kOpenTip{u" Seguir escribiendo un tema que ya existe ",
                                    u" Go on writing a topic that exists "};
 inline constexpr TextPair kOpenTitle{u"Abra un tema:", u"Open a topic:"};
+inline constexpr TextPair kKeysOpen{
+    u"Flechas arriba y abajo: tema\r\nIntro: abrir\r\nEscape: cerrar sin abrir",
+    u"Arrows up and down: topic\r\nReturn: open\r\nEscape: close without opening"};
 inline constexpr TextPair kLoseTopic{
     u"Perderás las frases del tema que estás escribiendo. ¿Quieres continuar?",
     u"You will lose the phrases of the topic you are writing. Do you want to go on?"};

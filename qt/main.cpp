@@ -23,6 +23,7 @@
 #include "qt/windows/qt_values.h"
 #include "topics/topic_check.h"
 #include "topics/topics.h"
+#include "ui/progress_screen.h"
 #include "ui/settings_screen.h"
 
 namespace quillor {
@@ -73,6 +74,7 @@ class Session {
           program_(desktop_, {folder, platform::systemDisk()}) {
         desktop_.attach(program_);
         addSettingsScreen(program_);
+        addProgressScreen(program_);
         addTopicScreens(program_);
         addGameScreens(program_);
     }

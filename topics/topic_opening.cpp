@@ -49,11 +49,12 @@ void frmOpen::lstTopics_KeyDown(KeyEvent& event) {
 
 // Where everything stands, in twips.
 void frmOpen::layOut() {
-    layOutPanel(6600);
+    layOutPanel(6720);
     lstTopics.id = "lstTopics";
     lstTopics.font = style::kField;
     add(lstTopics).place(kEdge, 480, kInner, 4320);
     layOutAccept(5100);
+    layOutView();
 }
 
 }  // namespace quillor

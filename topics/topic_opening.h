@@ -19,6 +19,7 @@ class frmOpen : public EntryScreen {
 
   protected:
     void onLoad() override;
+    TextPair ownKeys() const override { return texts::kKeysOpen; }
 
   private:
     void layOut();

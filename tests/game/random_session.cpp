@@ -12,6 +12,7 @@
 #include "tests/support/memory_disk.h"
 #include "tests/support/player.h"
 #include "topics/topics.h"
+#include "ui/progress_screen.h"
 #include "ui/settings_screen.h"
 
 namespace quillor::testing {
@@ -57,6 +58,7 @@ class Session {
         desktop_.settings = &program_.settings;
         desktop_.onIdle = [this] { program_.destroyClosed(); };
         addSettingsScreen(program_);
+        addProgressScreen(program_);
         addTopicScreens(program_);
         addGameScreens(program_);
         fillFolder();

@@ -1,4 +1,4 @@
-// One walk over all seven screens in both languages: what holds for each.
+// One walk over all screens in both languages: what holds for each.
 #include <algorithm>
 #include <map>
 #include <set>
@@ -11,6 +11,7 @@
 #include "tests/support/open_program.h"
 #include "toolkit/controls.h"
 #include "topics/topics.h"
+#include "ui/progress_screen.h"
 #include "ui/settings_screen.h"
 
 namespace quillor::testing {
@@ -30,6 +31,7 @@ class EveryScreen : public ::testing::TestWithParam<Place>, public OpenProgram {
   protected:
     EveryScreen() {
         addSettingsScreen(program);
+        addProgressScreen(program);
         addTopicScreens(program);
         addGameScreens(program);
         if (GetParam().english)
@@ -201,6 +203,10 @@ INSTANTIATE_TEST_SUITE_P(All, EveryScreen,
                                            Place{"Word1English", ScreenId::Word1, true},
                                            Place{"Word2Spanish", ScreenId::Word2, false},
                                            Place{"Word2English", ScreenId::Word2, true},
+                                           Place{"OpenTopicSpanish", ScreenId::OpenTopic, false},
+                                           Place{"OpenTopicEnglish", ScreenId::OpenTopic, true},
+                                           Place{"ProgressSpanish", ScreenId::Progress, false},
+                                           Place{"ProgressEnglish", ScreenId::Progress, true},
                                            Place{"InventorSpanish", ScreenId::Inventor, false},
                                            Place{"InventorEnglish", ScreenId::Inventor, true}),
                          [](const auto& place) { return place.param.name; });

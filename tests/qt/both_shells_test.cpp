@@ -19,6 +19,7 @@
 #include "tests/support/open_program.h"
 #include "toolkit/shown_control.h"
 #include "topics/topics.h"
+#include "ui/progress_screen.h"
 #include "ui/settings_screen.h"
 
 namespace quillor::testing {
@@ -235,6 +236,7 @@ class BothShells : public ::testing::Test {
     BothShells() {
         for (Program* program : {&run_.program, &windows_.program}) {
             addSettingsScreen(*program);
+            addProgressScreen(*program);
             addTopicScreens(*program);
             addGameScreens(*program);
             setPalette(program->settings);

@@ -15,6 +15,7 @@
 #include "tests/support/open_program.h"
 #include "topics/topic_selection.h"
 #include "topics/topics.h"
+#include "ui/progress_screen.h"
 #include "ui/settings_screen.h"
 
 namespace quillor::testing {
@@ -31,6 +32,7 @@ class GameTest : public ::testing::Test {
   protected:
     GameTest() {
         addSettingsScreen(run.program);
+        addProgressScreen(run.program);
         addTopicScreens(run.program);
         addGameScreens(run.program);
     }

@@ -1,0 +1,58 @@
+// The page "Progress": what the player has done so far, and the way the score went.
+#pragma once
+
+#include "app/program_screen.h"
+#include "core/progress.h"
+
+namespace quillor {
+
+class frmProgress : public ProgramScreen {
+  public:
+    explicit frmProgress(Program& program);
+
+    static constexpr int kLastCount = 6;
+    static constexpr int kLastScore = static_cast<int>(kMostScores) - 1;
+
+    Picture imgBack;
+    Shape shpHead;
+    Label lblHeading;
+    Shape shpBack;
+    Label lblBack;
+    Shape shpEmpty;
+    Label lblEmpty;
+    ControlArray<Label, 0, kLastCount> lblCount{"lblCount"};
+    Label lblScores;  // the line in words
+    Shape shpChart;
+    ControlArray<Line, 1, kLastScore> lnScore{"lnScore"};  // each to its score, from the one before
+    Label lblTopics;
+    ListBox lstTopics;
+    Label lblSpoken;
+    Timer tmrSpeak;  // once the page is seen
+
+    Control* initialFocus() override { return &lstTopics; }
+    void takePaper(const ImageRef& paper) override { imgBack.image = paper; }
+
+  protected:
+    void onLoad() override;
+    void onKeyDown(KeyEvent& event) override;
+    TextPair ownKeys() const override { return texts::kKeysProgress; }
+    void goBack() override { program_.close(*this); }
+    void onCloseRequest() override { program_.close(*this); }
+
+  private:
+    void layOut();
+    void layOutHead();
+    void connect();
+    void eTranslate();
+    void show(const Progress& progress);
+    void showCounts(const Progress& progress);
+    void showScores(const std::vector<int>& scores);
+    void showTopics(const Progress& progress);
+    void lblEmpty_Click();
+};
+
+/// Makes the page known to the program, and puts it into the menu "View" of the large
+/// screens. To be called before the first screen is made.
+void addProgressScreen(Program& program);
+
+}  // namespace quillor
