@@ -9,6 +9,7 @@
 #include "core/texts.h"
 #include "core/topic_library.h"
 #include "tests/project/source_tree.h"
+#include "tests/support/game_test.h"
 #include "topics/topic_check.h"
 
 namespace quillor::testing {
@@ -96,6 +97,65 @@ TEST_P(TopicPacks, HoldNoPhraseTwice) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, TopicPacks, ::testing::Values("es", "en"));
+
+// The whole game without a window, with all of them loaded.
+class PlayedPacks : public GameTest, public ::testing::WithParamInterface<const char*> {
+  protected:
+    PlayedPacks() {
+        english = GetParam() == std::string("en");
+        saved.gbInfiniteScore = true;
+        for (const Place& file : topicFiles(kSourceRoot / "resources/topics" / GetParam()))
+            run.folder.write(
+                std::filesystem::path(english ? "Topics" : "Temas") / file.path().filename(),
+                readFileStart(file, kTopicLines));
+        openArcade();
+    }
+    void playWay(std::int16_t way) {
+        settings.giWay = way;
+        desktop.draws.clear();
+        player.press(key::kReturn);
+    }
+    /// Finds every letter and digit of the phrase.
+    void win() {
+        Text letters = settings.gsPhrase;
+        std::erase(letters, u' ');
+        player.type(letters);
+        EXPECT_EQ(settings.giGameState, kWon) << toUtf8(settings.gsPhrase);
+        desktop.advance(1000);
+    }
+};
+
+TEST_P(PlayedPacks, AreAllVisitedOnATour) {
+    const std::size_t topics = settings.gaTopicLines.size();
+    ASSERT_GE(topics, 40U);
+    for (std::size_t i = 0; i < topics; ++i) {
+        playWay(kTour);
+        EXPECT_EQ(settings.gsTopicName, topicTitle(settings.gaTopicLines[i]));
+        if (i + 1 == topics)
+            expectBox(texts::kTourCompleted);
+        win();
+    }
+}
+
+TEST_P(PlayedPacks, AreDealtFromAtRandom) {
+    std::set<Text> titles;
+    for (int i = 0; i < 100; ++i) {
+        playWay(kAnyTopic);
+        titles.insert(settings.gsTopicName);
+        win();
+    }
+    EXPECT_GT(titles.size(), 25U);
+}
+
+TEST_P(PlayedPacks, AreDealtFromWithoutTheirNames) {
+    for (int i = 0; i < 50; ++i) {
+        playWay(kHiddenTopic);
+        EXPECT_EQ(game().board.lblTopic.caption, lang(texts::kHiddenTopicName));
+        win();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, PlayedPacks, ::testing::Values("es", "en"));
 
 }  // namespace
 }  // namespace quillor::testing

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/files.h"
 #include "core/text_codec.h"
 #include "tests/support/temp_folder.h"
 
@@ -179,7 +180,8 @@ class TopicFiles : public ::testing::Test {
             places.emplace_back(folder / name);
         return checkTopics(places, true);
     }
-    std::string place(const char* name) { return (folder / name).string(); }
+    // As it is named when its folder was given.
+    std::string inTopics(const char* name) { return toUtf8(fromPath(folder / "Topics" / name)); }
     TempFolder folder;
 };
 
@@ -194,7 +196,8 @@ TEST_F(TopicFiles, AreNamedWithTheLine) {
     folder.write("Topics/a.txt", "A\r\nuno\r\ndos!\r\n");
     const TopicReport report = check({"Topics/a.txt"});
     ASSERT_EQ(report.found.size(), 1U);
-    EXPECT_TRUE(toUtf8(report.found[0]).starts_with(place("Topics/a.txt") + ":3: no key offers"));
+    EXPECT_TRUE(toUtf8(report.found[0])
+                    .starts_with(toUtf8(fromPath(folder / "Topics/a.txt")) + ":3: no key offers"));
     EXPECT_EQ(report.exitCode(), 1);
 }
 
@@ -204,8 +207,7 @@ TEST_F(TopicFiles, AreComparedWithinTheirFolderByFolding) {
     folder.write("Otros/c.txt", "C\r\npiano\r\nharp\r\n");
     const TopicReport report = check({"Topics", "Otros"});
     ASSERT_EQ(report.found.size(), 1U);
-    EXPECT_EQ(toUtf8(report.found[0]), place("Topics/b.txt") + ":2: is also in " +
-                                           place("Topics/a.txt") +
+    EXPECT_EQ(toUtf8(report.found[0]), inTopics("b.txt") + ":2: is also in " + inTopics("a.txt") +
                                            ":3: it will come up in both topics");
 }
 
