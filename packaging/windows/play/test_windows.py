@@ -31,6 +31,20 @@ class FirstStartInEnglish(FirstStart):
     added = {"English.txt"}
 
 
+class Packs(WindowsPlayer):
+    packs = True
+
+    def test_are_laid_out_beside_the_program(self):
+        self.start_at_menu()
+        carried = {name.removeprefix("packs/") for name in self.packed if name.startswith("packs/")}
+        self.assertGreaterEqual(len(carried), 80)
+        self.assertEqual(
+            self.new_files(), {"Quillor-Config.ini", "Quillor-Packs.txt"} | carried
+        )
+        for name in carried:
+            self.assertEqual(self.get(name), self.get("packs/" + name))
+
+
 class Games(WindowsPlayer):
     def setUp(self):
         super().setUp()

@@ -46,6 +46,7 @@ class WineDesktop(VirtualDesktop):
 
 class WindowsPlayer(unittest.TestCase):
     english = False
+    packs = False  # whether the topics that come with the game are there to be laid out
 
     def setUp(self):
         self.words = ENGLISH if self.english else SPANISH
@@ -56,6 +57,8 @@ class WindowsPlayer(unittest.TestCase):
         self.hands = Hands(self.desktop)
         self.folder = self.desktop.scratch / "Juego de ñandú Ж"
         shutil.copytree(PACKED, self.folder)
+        if not self.packs:
+            shutil.rmtree(self.folder / "packs")
         self.packed = self.files()
         if self.english:
             self.put("English.txt", "")
