@@ -30,7 +30,7 @@ ImageRef paperOf(const Screen& screen) {
 
 // Not over a dialog, whose window has to be answered first.
 bool isOffered(const ProgramScreen& screen) {
-    return !screen.over && screen.name != "frmStart" && screen.name != "frmProgress";
+    return screen.over == nullptr && screen.name != "frmStart" && screen.name != "frmProgress";
 }
 
 }  // namespace

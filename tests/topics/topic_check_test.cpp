@@ -209,6 +209,9 @@ TEST_F(TopicFiles, AreComparedWithinTheirFolderByFolding) {
     ASSERT_EQ(report.found.size(), 1U);
     EXPECT_EQ(toUtf8(report.found[0]), inTopics("b.txt") + ":2: is also in " + inTopics("a.txt") +
                                            ":3: it will come up in both topics");
+    const TopicReport spanish = checkTopics({folder / "Topics"}, false);
+    ASSERT_EQ(spanish.found.size(), 1U);
+    EXPECT_TRUE(toUtf8(spanish.found[0]).ends_with(":3: saldrá en los dos temas"));
 }
 
 TEST_F(TopicFiles, AreSpanishInTheFolderOfThatLanguage) {
