@@ -115,7 +115,7 @@ std::vector<Text> written(const Progress& progress) {
     lines.push_back(Text(kScores).append(kBetween) + scores);
     for (const auto& [title, phrases] : progress.solved)
         for (const Text& phrase : phrases)
-            lines.push_back(Text(kSolved).append(kBetween) + title + kTab + phrase);
+            lines.push_back(Text(kSolved).append(kBetween).append(title).append(1, kTab) + phrase);
     lines.insert(lines.end(), progress.unknown.begin(), progress.unknown.end());
     return lines;
 }
