@@ -490,6 +490,20 @@ inline constexpr TextPair kSpokenOfSix{u" de 6. ", u" of 6. "};
 inline constexpr TextPair kSpokenLetters{u"Letras: ", u"Letters: "};
 inline constexpr TextPair kSpokenAnswer{u"La respuesta: ", u"The answer: "};
 
+// Of the folder that the game keeps its files in, which follows.
+inline constexpr TextPair kNothingIsSaved{
+    u"No se puede guardar nada en la carpeta del juego. Lo que cambies ahora se perderá al salir.",
+    u"Nothing can be saved in the game's folder. What you change now is lost when you leave."};
+inline constexpr TextPair kFolderIsShared{
+    u"Alguien más está jugando con esta carpeta. Los ajustes serán los de quien los cambie por "
+    u"último. ¿Quieres jugar también?",
+    u"Somebody else is playing with this folder. The settings will be those of whoever changes "
+    u"them last. Do you want to play too?"};
+inline constexpr TextPair kNoAnswer{
+    u"El juego ya está abierto con esta carpeta, pero no responde. ¿Quieres abrirlo otra vez?",
+    u"The game is already open with this folder, but does not answer. Do you want to open it "
+    u"once more?"};
+
 // On the terminal, in the system's language.
 inline constexpr TextPair kTerminalHelp{
     u"\n"
@@ -538,6 +552,8 @@ inline constexpr TextPair kNeedsFolder{u"falta la carpeta de la opción: ",
                                        u"a folder is missing for the option: "};
 inline constexpr TextPair kNoTopicToRead{u"no se puede leer ningún tema de: ",
                                          u"no topic can be read from: "};
+inline constexpr TextPair kCannotUseFolder{u"no se puede usar la carpeta ",
+                                           u"cannot use the folder "};
 inline constexpr TextPair kTryHelp{u" (prueba --help)", u" (try --help)"};
 inline constexpr TextPair kNoDisplay{
     u"no se puede abrir ninguna pantalla (¿tiene valor DISPLAY o WAYLAND_DISPLAY?)",

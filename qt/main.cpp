@@ -4,6 +4,7 @@
 #include <QIcon>
 #include <QLocale>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -13,12 +14,14 @@
 #include "core/files.h"
 #include "core/topic_library.h"
 #include "game/game_screen.h"
-#include "qt/boxes/box_style.h"
+#include "qt/boxes/boxes.h"
 #include "qt/command_line.h"
 #include "qt/qt_desktop.h"
 #include "qt/system/platform.h"
 #include "qt/system/program_folder.h"
+#include "qt/system/running_copy.h"
 #include "qt/system/system_disk.h"
+#include "qt/system/watched_disk.h"
 #include "qt/tour/tour.h"
 #include "qt/windows/qt_values.h"
 #include "topics/topic_check.h"
@@ -61,6 +64,23 @@ QIcon programIcon() {
     return icon;
 }
 
+// One line on the terminal; where nobody reads that, in a window.
+void tell(const QString& line, int argc, char** argv) {
+    complain(line);
+    if (platform::isHeard())
+        return;
+    qInstallMessageHandler(onlyFatal);
+    QApplication application(argc, argv);
+    QApplication::setStyle(new NotebookStyle);
+    QApplication::setWindowIcon(programIcon());
+    showMessage({}, BoxSign::Critical, line, onTerminal(texts::kAccept, systemIsEnglish()));
+}
+
+QString folderTrouble(const FolderError& error) {
+    return onTerminal(texts::kCannotUseFolder, systemIsEnglish()) + toQt(fromPath(error.folder)) +
+           " (" + QString::fromLocal8Bit(error.what()) + ")";
+}
+
 std::filesystem::path executableFolder() {
     return toPath(fromQt(QCoreApplication::applicationDirPath()));
 }
@@ -68,15 +88,23 @@ std::filesystem::path executableFolder() {
 class Session {
   public:
     Session(const std::filesystem::path& folder, const Installation& here)
-        : fonts_({folder / "fonts", here.executableFolder / "fonts", here.shared / "fonts"}),
+        : disk_(platform::systemDisk(), folder),
+          fonts_({folder / "fonts", here.executableFolder / "fonts", here.shared / "fonts"}),
           shell_(fonts_),
           desktop_(shell_, makeSoundPlayer()),
-          program_(desktop_, {folder, platform::systemDisk()}) {
+          program_(desktop_, {folder, disk_}) {
         desktop_.attach(program_);
+        disk_.onLoss = [this] { QTimer::singleShot(0, qApp, [this] { tellOfLoss(); }); };
         addSettingsScreen(program_);
         addProgressScreen(program_);
         addTopicScreens(program_);
         addGameScreens(program_);
+    }
+
+    /// Answers those who start the program once more.
+    void attend(platform::RunningCopy& copy) {
+        copy.onCall([this](const std::string& token) { shell_.comeToFront(token); });
+        desktop_.beforeRestart = [&copy] { copy.letGo(); };
     }
 
     int run(const QStringList& topics) {
@@ -102,6 +130,15 @@ class Session {
     }
 
   private:
+    void tellOfLoss() {
+        shell_.event([this] {
+            const Text where = fromPath(program_.folder);
+            desktop_.messageBox(MessageIcon::Critical,
+                                program_.lang(texts::kNothingIsSaved) + u"\n\n" + where);
+        });
+    }
+
+    platform::WatchedDisk disk_;
     FontBook fonts_;
     Shell shell_;
     QtDesktop desktop_;
@@ -118,6 +155,22 @@ int playTour(const QString& pictures, const std::filesystem::path& model,
     const std::filesystem::path path = toPath(fromQt(folder.path()));
     prepareTourFolder(path, model);
     return Session(path, here).runTour(pictures);
+}
+
+// Whether this copy is to play too: not if one's own other copy has come to the front
+// instead, or if the player would rather not share the folder.
+bool wanted(platform::RunningCopy& copy, const std::filesystem::path& folder) {
+    using Other = platform::RunningCopy::Other;
+    if (copy.other() == Other::None)
+        return true;
+    if (copy.other() == Other::Own && copy.call())
+        return false;
+    const bool english = speaksEnglish(folder);
+    const auto text = [&](const TextPair& pair) { return onTerminal(pair, english); };
+    const QString why =
+        text(copy.other() == Other::Own ? texts::kNoAnswer : texts::kFolderIsShared);
+    return askQuestion({}, why + "\n\n" + toQt(fromPath(folder)), text(texts::kYes),
+                       text(texts::kNo));
 }
 
 int play(const CommandLine& line, int argc, char** argv) {
@@ -143,7 +196,12 @@ int play(const CommandLine& line, int argc, char** argv) {
         layOutTopics({here.shared / "packs", platform::systemDisk()},
                      {folder, platform::systemDisk()});
     }
-    return Session(folder, here).run(line.files);
+    platform::RunningCopy copy(folder);
+    if (!wanted(copy, folder))
+        return 0;
+    Session session(folder, here);
+    session.attend(copy);
+    return session.run(line.files);
 }
 
 // The topics named or, where none is, the game's own in both languages.
@@ -190,7 +248,7 @@ int run(int argc, char** argv) {
             say(helpText(english));
             return 0;
         case CommandLine::Action::Refuse:
-            complain(line.error);
+            tell(line.error, argc, argv);
             return kBadUsage;
         case CommandLine::Action::CheckTopics:
             return tellOfTopics(line, english, argc, argv);
@@ -207,8 +265,10 @@ int run(int argc, char** argv) {
 int main(int argc, char** argv) {
     try {
         return quillor::run(argc, argv);
+    } catch (const quillor::FolderError& error) {
+        quillor::tell(quillor::folderTrouble(error), argc, argv);
     } catch (const std::exception& error) {
-        quillor::complain(QString::fromLocal8Bit(error.what()));
-        return quillor::kBadUsage;
+        quillor::tell(QString::fromLocal8Bit(error.what()), argc, argv);
     }
+    return quillor::kBadUsage;
 }

@@ -174,6 +174,8 @@ void QtDesktop::setFullScreen(bool on) {
 }
 
 void QtDesktop::startProgram() {
+    if (beforeRestart)
+        beforeRestart();
     QProcess::startDetached(QCoreApplication::applicationFilePath(),
                             QCoreApplication::arguments().mid(1));
 }

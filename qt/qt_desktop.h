@@ -1,6 +1,7 @@
 // The machine as the screens ask for it, by way of the windowing toolkit.
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "app/program.h"
@@ -19,6 +20,9 @@ class QtDesktop : public Desktop {
     /// The program whose language the boxes speak and whose closed screens are
     /// destroyed when it is safe. To be called before the first screen shows.
     void attach(Program& program);
+
+    /// Called before the program's executable is started anew.
+    std::function<void()> beforeRestart;
 
     void messageBox(MessageIcon icon, TextView text) override;
     bool question(TextView text) override;

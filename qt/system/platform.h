@@ -14,6 +14,10 @@ namespace quillor::platform {
 /// The command line without the program's own name.
 QStringList arguments(int argc, char** argv);
 
+/// Whether somebody reads what is written to standard error: a terminal, or another
+/// program. A desktop that started this one does not.
+bool isHeard();
+
 /// Whether a key pressed together with Alt alone types a character.
 bool altTypesCharacters();
 

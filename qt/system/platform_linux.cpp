@@ -6,6 +6,9 @@
 #include <QString>
 #include <QUrl>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include "core/files.h"
 #include "qt/system/platform.h"
 #include "qt/windows/qt_values.h"
@@ -26,6 +29,13 @@ QStringList arguments(int argc, char** argv) {
     for (int i = 1; i < argc; ++i)
         result << QString::fromLocal8Bit(argv[i]);
     return result;
+}
+
+// A desktop gives a socket, a file or nothing.
+bool isHeard() {
+    struct stat found {};
+    return isatty(STDERR_FILENO) == 1 ||
+           (fstat(STDERR_FILENO, &found) == 0 && S_ISFIFO(found.st_mode));
 }
 
 bool altTypesCharacters() {

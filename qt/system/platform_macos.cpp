@@ -7,6 +7,9 @@
 #include <algorithm>
 #include <iterator>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include "core/files.h"
 #include "qt/system/platform.h"
 #include "qt/windows/qt_values.h"
@@ -18,6 +21,13 @@ QStringList arguments(int argc, char** argv) {
     for (int i = 1; i < argc; ++i)
         result << QString::fromUtf8(argv[i]);
     return result;
+}
+
+// A desktop gives a socket, a file or nothing.
+bool isHeard() {
+    struct stat found {};
+    return isatty(STDERR_FILENO) == 1 ||
+           (fstat(STDERR_FILENO, &found) == 0 && S_ISFIFO(found.st_mode));
 }
 
 bool altTypesCharacters() {

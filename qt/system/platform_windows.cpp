@@ -53,6 +53,11 @@ QStringList arguments(int, char**) {
     return result;
 }
 
+bool isHeard() {
+    const DWORD kind = GetFileType(GetStdHandle(STD_ERROR_HANDLE));
+    return kind == FILE_TYPE_CHAR || kind == FILE_TYPE_PIPE;
+}
+
 bool altTypesCharacters() {
     return false;
 }

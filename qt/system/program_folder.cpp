@@ -1,7 +1,6 @@
 // Whether a folder can be written to is found out by writing.
 #include "qt/system/program_folder.h"
 
-#include <stdexcept>
 #include <system_error>
 
 #include "core/files.h"
@@ -55,9 +54,9 @@ Installation findInstallation(const fs::path& executableFolder, bool portable) {
 fs::path useFolder(const fs::path& folder) {
     std::error_code error;
     fs::create_directories(folder, error);
-    if (!fs::is_directory(folder)) {
-        const std::string reason = error ? error.message() : "it is no folder";
-        throw std::runtime_error("cannot use the folder " + folder.string() + ": " + reason);
+    if (!isFolder(folder)) {
+        const auto notOne = std::make_error_code(std::errc::not_a_directory);
+        throw FolderError(folder, (error ? error : notOne).message());
     }
     return fs::absolute(folder);
 }

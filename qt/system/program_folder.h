@@ -2,6 +2,9 @@
 #pragma once
 
 #include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <utility>
 
 namespace quillor {
 
@@ -16,8 +19,14 @@ struct Installation {
 /// the system, unless a file Portable.txt beside it, or `portable`, says otherwise.
 Installation findInstallation(const std::filesystem::path& executableFolder, bool portable);
 
-/// Makes the folder if need be. Throws std::runtime_error, whose text is one
-/// line for the user, when there can be no such folder. It need not be writable.
+/// There can be no such folder; `what` is the system's reason.
+struct FolderError : std::runtime_error {
+    FolderError(std::filesystem::path where, const std::string& reason)
+        : std::runtime_error(reason), folder(std::move(where)) {}
+    std::filesystem::path folder;
+};
+
+/// Makes the folder if need be. Throws FolderError. It need not be writable.
 std::filesystem::path useFolder(const std::filesystem::path& folder);
 
 /// The executable's folder if it is portable and can be written to, else the user's

@@ -1,7 +1,7 @@
 // What follows an event: pages are brought in step, shown, hidden and destroyed.
 #include "qt/windows/shell.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <algorithm>
 
 #include "qt/windows/page_window.h"
@@ -31,6 +31,19 @@ Page* Shell::front() const {
     if (last != pages_.rend())
         return *last;
     return pages_.empty() ? nullptr : pages_.back();
+}
+
+void Shell::comeToFront(const std::string& token) {
+    QWidget* window = QApplication::activeModalWidget();
+    if (const Page* page = front(); !window && page)
+        window = &page->pageWindow();
+    if (!window)
+        return;
+    if (!token.empty())
+        qputenv("XDG_ACTIVATION_TOKEN", QByteArray::fromStdString(token));
+    window->window()->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+    window->raise();
+    window->activateWindow();
 }
 
 PageWindow& Shell::windowFor(const Screen& screen) {

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -67,6 +68,10 @@ class Shell {
     /// The page that takes the player's input, whose window a box stands over;
     /// null: none is open.
     Page* front() const;
+
+    /// Puts the window that takes the player's input in front of all others, as far as
+    /// the desktop lets it: some want a token for it.
+    void comeToFront(const std::string& token);
 
     /// Brings all pages in step with their screens, and onto the display.
     void showNow();
