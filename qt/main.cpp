@@ -165,7 +165,7 @@ bool wanted(platform::RunningCopy& copy, const std::filesystem::path& folder) {
         return true;
     if (copy.other() == Other::Own && copy.call())
         return false;
-    const bool english = speaksEnglish(folder);
+    const bool english = eFileExists(folder / "English.txt");
     const auto text = [&](const TextPair& pair) { return onTerminal(pair, english); };
     const QString why =
         text(copy.other() == Other::Own ? texts::kNoAnswer : texts::kFolderIsShared);

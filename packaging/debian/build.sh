@@ -17,6 +17,8 @@ work=$root/build/debian/quillor-$version
 install_packages build-essential dpkg-dev debhelper fakeroot lintian cmake fonts-comic-neue \
     fonts-quicksand libmpg123-dev libsdl2-dev ninja-build pkgconf qt6-base-dev
 
+use_ccache
+
 rm -rf "$root/build/debian"
 mkdir -p "$work"
 git -C "$root" archive HEAD | tar -x -C "$work"
@@ -25,9 +27,6 @@ rm "$work/debian/"*.sh
 cmake "-DOUTPUT=$work/debian/changelog" -P "$root/cmake/releases.cmake"
 
 cd "$work"
-# The folder's name would stand in the program's debugging data, and the time in archives:
-# both are taken from the release by dpkg-buildpackage's own settings.
-# Root may have no other user here, so the checks for that stay off.
 dpkg-buildpackage -us -uc -j"$(nproc)"
 cd ..
 rm -f "$output/quillor_"* "$output/quillor-dbgsym_"*
