@@ -32,5 +32,5 @@ cd ..
 rm -f "$output/quillor_"* "$output/quillor-dbgsym_"*
 # shellcheck disable=SC2035 # the names start with the package's
 cp quillor_* quillor-dbgsym_* "$output/"
-lintian --fail-on error,warning --info --no-tag-display-limit --allow-root "$output"/quillor_*.changes
+lintian --fail-on error,warning --info --tag-display-limit 0 --allow-root "$output"/quillor_*.changes
 ls -l "$output"

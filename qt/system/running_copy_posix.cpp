@@ -121,6 +121,17 @@ bool listenAt(Descriptor& door, const std::string& path) {
            ::listen(door.number(), kMostWaiting) == 0;
 }
 
+// Who listens may have gone meanwhile, which must not end the program.
+void say(const Descriptor& line, const char* bytes, std::size_t size) {
+#ifdef MSG_NOSIGNAL
+    (void)::send(line.number(), bytes, size, MSG_NOSIGNAL);
+#else
+    const int on = 1;
+    ::setsockopt(line.number(), SOL_SOCKET, SO_NOSIGPIPE, &on, sizeof on);
+    (void)::send(line.number(), bytes, size, 0);
+#endif
+}
+
 bool becomesReadable(const Descriptor& line, int patience) {
     pollfd waiting{line.number(), POLLIN, 0};
     return ::poll(&waiting, 1, patience) == 1;
@@ -171,7 +182,7 @@ void RunningCopy::Impl::answer(const std::function<void(const std::string&)>& ha
     const bool said = becomesReadable(caller, kPause);
     const ssize_t size = said ? ::recv(caller.number(), token.data(), token.size(), 0) : 0;
     handler(std::string(token.data(), static_cast<std::size_t>(std::max<ssize_t>(size, 0))));
-    (void)!::write(caller.number(), &kAnswer, 1);
+    say(caller, &kAnswer, 1);
 }
 
 RunningCopy::RunningCopy(const fs::path& folder) : impl_(std::make_unique<Impl>()) {
@@ -190,7 +201,7 @@ bool RunningCopy::call() {
     if (!impl_->line)
         return false;
     if (const char* token = std::getenv("XDG_ACTIVATION_TOKEN"))
-        (void)!::write(impl_->line.number(), token, std::strlen(token));
+        say(impl_->line, token, std::strlen(token));
     char answer = 0;
     return becomesReadable(impl_->line, kPatience) &&
            ::read(impl_->line.number(), &answer, 1) == 1 && answer == kAnswer;

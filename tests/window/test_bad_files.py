@@ -104,7 +104,11 @@ class ProtectedFolder(BadInput):
         self.put_topic("A", "PRIMERO")
         (self.folder / "Quillor-Config.ini").unlink()
         self.protect(0o555, self.folder, self.folder / "Temas")
-        self.survives(binary=self.program_for_all())
+        self.start(binary=self.program_for_all())
+        self.answer(f"{self.words.nothing_is_saved}\n\n{self.folder}", self.words.ok)
+        self.expect_title(self.words.menu_title)
+        self.open_arcade()
+        self.key("Return")
         self.wins("PRIMERO")
         self.assertEqual(self.files(), ["Temas/A.txt"])
 

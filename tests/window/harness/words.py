@@ -37,6 +37,7 @@ class Words:
     tour_position: str
     too_many_mistakes: str
     help_missing: str
+    nothing_is_saved: str
     ask_restart: str
     bad_characters: str
     file_name_help: str
@@ -80,6 +81,8 @@ SPANISH = Words(
     too_many_mistakes="Tienes muchos errores para poder abandonar la partida, continúa o reinicia el "
     "juego.",
     help_missing="El archivo de ayuda no se encuentra.",
+    nothing_is_saved="No se puede guardar nada en la carpeta del juego. Lo que cambies ahora se "
+    "perderá al salir.",
     ask_restart="¿Quieres reiniciar el juego para cargar el nuevo tema?",
     bad_characters="Tu frase tiene caracteres no permitidos; sólo letras y números.",
     file_name_help="El nombre del archivo puede ser diferente al nombre del tema, pero en este caso "
@@ -123,6 +126,8 @@ ENGLISH = Words(
     tour_position="[Tour {}/{}]",
     too_many_mistakes="You have many mistakes to leave the game, continue or restart the game.",
     help_missing="The help file is not found.",
+    nothing_is_saved="Nothing can be saved in the game's folder. What you change now is lost when "
+    "you leave.",
     ask_restart="Do you want to restart the game to load the new topic?",
     bad_characters="Your phrase has characters not allowed; only letters and numbers.",
     file_name_help="The file name can be different from the topic name, but in this case they will "
