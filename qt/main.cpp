@@ -5,7 +5,6 @@
 #include <QLocale>
 #include <QTemporaryDir>
 #include <QTimer>
-#include <cstdio>
 #include <cstdlib>
 #include <exception>
 #include <stdexcept>
@@ -42,11 +41,11 @@ bool systemIsEnglish() {
 }
 
 void say(const QString& text) {
-    std::printf("%s", text.toLocal8Bit().constData());
+    platform::print(text, false);
 }
 
 void complain(const QString& line) {
-    std::fprintf(stderr, "quillor: %s\n", line.toLocal8Bit().constData());
+    platform::print("quillor: " + line + "\n", true);
 }
 
 // While the toolkit looks for a display it would warn at length and abort.

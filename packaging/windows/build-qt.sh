@@ -11,7 +11,9 @@ here=$(CDPATH='' cd -- "$(dirname -- "$0")" && pwd)
 # shellcheck source=SCRIPTDIR/common.sh
 . "$here/common.sh"
 
-if [ -f "$qt/.complete" ]; then
+# What it was built by: a Qt that another recipe has made is built anew.
+recipe=$(cat "$here/build-qt.sh" "$here/mingw64.cmake" | sha256sum | cut -d' ' -f1)
+if [ -f "$qt/.complete" ] && [ "$(cat "$qt/.complete")" = "$recipe" ]; then
     echo "$qt"
     exit 0
 fi
@@ -74,12 +76,16 @@ configure() {
         -DFEATURE_pdf=OFF -DFEATURE_textodfwriter=OFF -DFEATURE_direct2d1_1=OFF
 }
 
+# What an interrupted run of the same recipe has built is taken over.
+[ "$(cat recipe 2>/dev/null)" = "$recipe" ] || rm -rf build
+echo "$recipe" >recipe
 configure >&2
 nice -n 19 ninja -C build -j "$jobs" >&2
+rm -rf "$qt"
 cmake --install build >&2
 mkdir -p "$qt/licences"
 cp source/LICENSES/LGPL-3.0-only.txt source/LICENSES/GPL-3.0-only.txt "$qt/licences/"
 cp source/debian/copyright "$qt/licences/Qt-copyright.txt"
 rm -rf "$work"
-touch "$qt/.complete"
+echo "$recipe" >"$qt/.complete"
 echo "$qt"

@@ -13,9 +13,10 @@ mkdir -p "${1:-$root/build/windows-packages}"
 output=$(CDPATH='' cd -- "${1:-$root/build/windows-packages}" && pwd)
 build=$root/build/windows
 stage=$build/Quillor-$version
+released=$(sed -n 's/^## [0-9.]* (\([0-9-]*\))$/\1/p' "$root/CHANGELOG.md" | head -1)
 most_zip_bytes=$((12 * 1024 * 1024))
 
-need_packages g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 cmake ninja-build nsis \
+need_packages g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 cmake ninja-build nsis zip \
     fonts-quicksand fonts-comic-neue
 "$here/build-qt.sh" >/dev/null
 
@@ -60,28 +61,14 @@ windows_text() {
 pack_zip() {
     zip=$output/Quillor-$version-windows.zip
     rm -f "$zip"
-    (cd "$build" && cmake -E tar cf "$zip" --format=zip "Quillor-$version")
+    (cd "$build" && find "Quillor-$version" -exec touch -d "$released 12:00 UTC" {} + &&
+        find "Quillor-$version" | sort | TZ=UTC zip -X -q "$zip" -@)
     bytes=$(stat -c %s "$zip")
     [ "$bytes" -le "$most_zip_bytes" ] || { echo "$zip: $bytes bytes are too many" >&2; exit 1; }
-}
-
-pack_installer() {
-    list_removals >"$build/removals.nsh"
-    makensis -V2 -INPUTCHARSET UTF8 "-DVERSION=$version" "-DSTAGE=$stage" \
-        "-DICON=$root/resources/icon/quillor.ico" "-DREMOVALS=$build/removals.nsh" \
-        "-DOUTPUT=$output/Quillor-$version-setup.exe" "$here/quillor.nsi"
-}
-
-# The uninstaller names each file that was installed, so that it can take no other.
-# shellcheck disable=SC2016 # $INSTDIR is the installer's
-list_removals() {
-    (cd "$stage" && find . -type f | sed 's|^\./||; s|/|\\|g; s|.*|Delete "$INSTDIR\\&"|')
-    (cd "$stage" && find . -mindepth 1 -depth -type d |
-        sed 's|^\./||; s|/|\\|g; s|.*|RMDir "$INSTDIR\\&"|')
 }
 
 compile
 fill_stage
 pack_zip
-pack_installer
+"$here/pack-installer.sh" "$stage" "$output/Quillor-$version-setup.exe"
 ls -l "$output"

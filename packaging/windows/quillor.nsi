@@ -29,6 +29,9 @@ VIAddVersionKey "LegalCopyright" "Quillor developers, MIT licence"
 !define MUI_UNICON "${ICON}"
 !define MUI_ABORTWARNING
 !define MUI_FINISHPAGE_RUN "$INSTDIR\Quillor.exe"
+!define MUI_LANGDLL_REGISTRY_ROOT HKCU
+!define MUI_LANGDLL_REGISTRY_KEY "Software\Quillor"
+!define MUI_LANGDLL_REGISTRY_VALUENAME "Language"
 
 !insertmacro MUI_PAGE_LICENSE "${STAGE}/licences/Quillor.txt"
 !insertmacro MUI_PAGE_DIRECTORY
@@ -40,15 +43,49 @@ VIAddVersionKey "LegalCopyright" "Quillor developers, MIT licence"
 ; The first is used where the system's language is neither of the two.
 !insertmacro MUI_LANGUAGE "English"
 !insertmacro MUI_LANGUAGE "Spanish"
-!insertmacro MUI_LANGUAGE "SpanishInternational"
+!insertmacro MUI_RESERVEFILE_LANGDLL
 
-; The marker file makes the game speak English. Only a first installation sets
-; it: whoever removed it afterwards wants Spanish.
+LangString CloseGame ${LANG_ENGLISH} "Quillor is running. Close it, then try again."
+LangString CloseGame ${LANG_SPANISH} "Quillor está abierto. Ciérralo y vuelve a intentarlo."
+
+; Asks for the language, the system's at first. /LANG=1033 or 1034 says it beforehand.
+Function .onInit
+    ${GetParameters} $0
+    ${GetOptions} $0 "/LANG=" $1
+    IfErrors ask
+    StrCpy $LANGUAGE $1
+    Return
+ask:
+    !insertmacro MUI_LANGDLL_DISPLAY
+FunctionEnd
+
+Function un.onInit
+    !insertmacro MUI_UNGETLANGUAGE
+FunctionEnd
+
+; A program that runs cannot be replaced. Nobody sees a question of a silent installer:
+; it ends with 2.
+!macro waitForGame
+again:
+    IfFileExists "$INSTDIR\Quillor.exe" 0 ready
+    ClearErrors
+    FileOpen $0 "$INSTDIR\Quillor.exe" a
+    IfErrors running
+    FileClose $0
+    Goto ready
+running:
+    MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$(CloseGame)" /SD IDCANCEL IDRETRY again
+    SetErrorLevel 2
+    Quit
+ready:
+!macroend
+
+; The marker file makes the game speak English. Only a first installation sets it:
+; whoever put it there or removed it afterwards knows why.
 Function chooseLanguage
     IfFileExists "$INSTDIR\Quillor.exe" done
     IfFileExists "$INSTDIR\Quillor-Config.ini" done
     StrCmp $LANGUAGE ${LANG_SPANISH} done
-    StrCmp $LANGUAGE ${LANG_SPANISHINTERNATIONAL} done
     FileOpen $0 "$INSTDIR\English.txt" w
     FileClose $0
 done:
@@ -57,12 +94,14 @@ FunctionEnd
 Section
     SetShellVarContext current
     SetOutPath "$INSTDIR"
+    !insertmacro waitForGame
     Call chooseLanguage
     File /r "${STAGE}/*"
     WriteUninstaller "$INSTDIR\Uninstall.exe"
     CreateShortcut "$SMPROGRAMS\Quillor.lnk" "$INSTDIR\Quillor.exe"
 
     WriteRegStr HKCU "Software\Quillor" "Folder" "$INSTDIR"
+    WriteRegStr HKCU "Software\Quillor" "Language" "$LANGUAGE"
     WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayName" "Quillor"
     WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayVersion" "${VERSION}"
     WriteRegStr HKCU "${UNINSTALL_KEY}" "Publisher" "Quillor developers"
@@ -80,6 +119,7 @@ SectionEnd
 ; colours and picture stay, and so does the folder as long as any of them is there.
 Section "Uninstall"
     SetShellVarContext current
+    !insertmacro waitForGame
     Delete "$SMPROGRAMS\Quillor.lnk"
     !include "${REMOVALS}"
     Delete "$INSTDIR\Uninstall.exe"

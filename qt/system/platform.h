@@ -14,6 +14,10 @@ namespace quillor::platform {
 /// The command line without the program's own name.
 QStringList arguments(int argc, char** argv);
 
+/// Writes to standard output, or to standard error. A program that Windows starts has
+/// neither: the console is asked for that it was started from.
+void print(const QString& text, bool isError);
+
 /// Whether somebody reads what is written to standard error: a terminal, or another
 /// program. A desktop that started this one does not.
 bool isHeard();

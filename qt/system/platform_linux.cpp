@@ -5,6 +5,7 @@
 #include <QStandardPaths>
 #include <QString>
 #include <QUrl>
+#include <cstdio>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -29,6 +30,10 @@ QStringList arguments(int argc, char** argv) {
     for (int i = 1; i < argc; ++i)
         result << QString::fromLocal8Bit(argv[i]);
     return result;
+}
+
+void print(const QString& text, bool isError) {
+    std::fputs(text.toLocal8Bit().constData(), isError ? stderr : stdout);
 }
 
 // A desktop gives a socket, a file or nothing.

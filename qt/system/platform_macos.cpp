@@ -5,6 +5,7 @@
 #include <QString>
 #include <QUrl>
 #include <algorithm>
+#include <cstdio>
 #include <iterator>
 
 #include <sys/stat.h>
@@ -21,6 +22,10 @@ QStringList arguments(int argc, char** argv) {
     for (int i = 1; i < argc; ++i)
         result << QString::fromUtf8(argv[i]);
     return result;
+}
+
+void print(const QString& text, bool isError) {
+    std::fputs(text.toLocal8Bit().constData(), isError ? stderr : stdout);
 }
 
 // A desktop gives a socket, a file or nothing.

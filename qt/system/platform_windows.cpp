@@ -53,7 +53,31 @@ QStringList arguments(int, char**) {
     return result;
 }
 
+// Redirected: UTF-8 bytes. A console takes text, whatever its code page.
+void print(const QString& text, bool isError) {
+    HANDLE given = GetStdHandle(isError ? STD_ERROR_HANDLE : STD_OUTPUT_HANDLE);
+    const DWORD kind = given ? GetFileType(given) : FILE_TYPE_UNKNOWN;
+    DWORD written = 0;
+    if (kind == FILE_TYPE_DISK || kind == FILE_TYPE_PIPE) {
+        const QByteArray bytes = text.toUtf8();
+        WriteFile(given, bytes.constData(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+        return;
+    }
+    AttachConsole(ATTACH_PARENT_PROCESS);  // fails where it is attached already
+    HANDLE console = CreateFileW(L"CONOUT$", GENERIC_WRITE, FILE_SHARE_WRITE | FILE_SHARE_READ,
+                                 nullptr, OPEN_EXISTING, 0, nullptr);
+    if (console == INVALID_HANDLE_VALUE)
+        return;
+    const std::wstring wide = QString(text).replace("\n", "\r\n").toStdWString();
+    WriteConsoleW(console, wide.data(), static_cast<DWORD>(wide.size()), &written, nullptr);
+    CloseHandle(console);
+}
+
+// A console that it was started from counts: what is printed goes there.
 bool isHeard() {
+    const bool console = AttachConsole(ATTACH_PARENT_PROCESS) || GetConsoleWindow() != nullptr;
+    if (console)
+        return true;
     const DWORD kind = GetFileType(GetStdHandle(STD_ERROR_HANDLE));
     return kind == FILE_TYPE_CHAR || kind == FILE_TYPE_PIPE;
 }

@@ -1,5 +1,7 @@
 """The packed Windows program is started, played and set up as on other systems."""
 
+import subprocess
+
 from harness.player import QUIET, SAME_LETTERS
 from test_first_start import ENGLISH_SAMPLE, FIRST_SETTINGS, SPANISH_SAMPLE, stored
 from windows_player import PATIENCE, PICTURES, WindowsPlayer
@@ -43,6 +45,24 @@ class Packs(WindowsPlayer):
         )
         for name in carried:
             self.assertEqual(self.get(name), self.get("packs/" + name))
+
+
+class Console(WindowsPlayer):
+    def says(self, *arguments):
+        told = subprocess.run(
+            ["wine", str(self.folder / "Quillor.exe"), *arguments],
+            env=self.desktop.environment, capture_output=True, timeout=PATIENCE,
+        )
+        return told.returncode, told.stdout.decode()
+
+    def test_help_version_and_findings_are_printed(self):
+        self.put("bad.txt", "UNO\n")
+        self.assertEqual(self.says("--version")[0], 0)
+        self.assertRegex(self.says("--version")[1], r"^Quillor \d+\.\d+\.\d+")
+        self.assertIn("--folder", self.says("--help")[1])
+        code, findings = self.says("--check-topics", "Z:" + str(self.folder / "bad.txt"))
+        self.assertEqual(code, 1)
+        self.assertIn("bad.txt:", findings)
 
 
 class Games(WindowsPlayer):
