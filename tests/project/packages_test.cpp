@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include "core/text_codec.h"
+#include "core/texts.h"
 #include "tests/project/source_tree.h"
 
 namespace quillor::testing {
@@ -26,6 +28,27 @@ TEST(Packages, OfTheRoundedFontAreNamedForEverySystem) {
          {"fonts-quicksand", "aajohan-comfortaa-fonts", "ttf-nunito", "font-quicksand"}) {
         EXPECT_NE(warning.find(name), std::string::npos) << name;
         EXPECT_NE(lists.find(name), std::string::npos) << name;
+    }
+}
+
+// Every word of the help that starts with two dashes.
+std::vector<std::string> optionsIn(TextView help) {
+    const std::string text = toUtf8(help);
+    const std::regex option("--[a-z][a-z-]*");
+    std::vector<std::string> found;
+    for (std::sregex_iterator each(text.begin(), text.end(), option), end; each != end; ++each)
+        found.push_back(std::regex_replace(each->str(), std::regex("-"), "\\-"));
+    return found;
+}
+
+TEST(ManualPage, TellsOfEveryOptionThatTheHelpTellsOf) {
+    const std::string english = bytesOf("packaging/linux/quillor.6");
+    const std::string spanish = bytesOf("packaging/linux/quillor.es.6");
+    const auto options = optionsIn(texts::kTerminalHelp.english);
+    EXPECT_GE(options.size(), 5U);
+    for (const std::string& option : options) {
+        EXPECT_NE(english.find(option), std::string::npos) << option;
+        EXPECT_NE(spanish.find(option), std::string::npos) << option;
     }
 }
 
