@@ -11,6 +11,7 @@
 
 #include "app/program.h"
 #include "core/files.h"
+#include "core/text_codec.h"
 #include "core/topic_library.h"
 #include "game/game_screen.h"
 #include "qt/boxes/boxes.h"
@@ -22,6 +23,7 @@
 #include "qt/system/system_disk.h"
 #include "qt/system/watched_disk.h"
 #include "qt/tour/tour.h"
+#include "qt/windows/page.h"
 #include "qt/windows/qt_values.h"
 #include "topics/topic_check.h"
 #include "topics/topics.h"
@@ -102,7 +104,12 @@ class Session {
 
     /// Answers those who start the program once more.
     void attend(platform::RunningCopy& copy) {
-        copy.onCall([this](const std::string& token) { shell_.comeToFront(token); });
+        copy.onCall([this](const std::string& message) {
+            const QStringList lines = QString::fromStdString(message).split('\n');
+            shell_.comeToFront(lines.front().toStdString());
+            // Later: who calls waits for an answer, and topics may ask questions.
+            QTimer::singleShot(0, qApp, [this, topics = lines.mid(1)] { take(topics); });
+        });
         desktop_.beforeRestart = [&copy] { copy.letGo(); };
     }
 
@@ -129,6 +136,20 @@ class Session {
     }
 
   private:
+    // Now, where the screen takes topics; else when the menu opens next.
+    void take(const QStringList& topics) {
+        std::vector<std::filesystem::path> files;
+        for (const QString& topic : topics)
+            files.push_back(toPath(fromQt(topic)));
+        Page* page = shell_.front();
+        if (files.empty())
+            return;
+        if (page && page->screen()->takesFiles() && !shell_.isModal())
+            shell_.event([&] { page->screen()->dropFiles(files); });
+        else
+            program_.topicsToTake = files;
+    }
+
     void tellOfLoss() {
         shell_.event([this] {
             const Text where = fromPath(program_.folder);
@@ -156,13 +177,23 @@ int playTour(const QString& pictures, const std::filesystem::path& model,
     return Session(path, here).runTour(pictures);
 }
 
+// What one's own other copy is told: the token by which a desktop lets it come to the
+// front, and the topics that it is to take in, a line each.
+std::string callFor(const QStringList& topics) {
+    std::string message = qgetenv("XDG_ACTIVATION_TOKEN").toStdString();
+    for (const QString& topic : topics)
+        message += "\n" + toUtf8(fromPath(std::filesystem::absolute(toPath(fromQt(topic)))));
+    return message;
+}
+
 // Whether this copy is to play too: not if one's own other copy has come to the front
 // instead, or if the player would rather not share the folder.
-bool wanted(platform::RunningCopy& copy, const std::filesystem::path& folder) {
+bool wanted(platform::RunningCopy& copy, const std::filesystem::path& folder,
+            const QStringList& topics) {
     using Other = platform::RunningCopy::Other;
     if (copy.other() == Other::None)
         return true;
-    if (copy.other() == Other::Own && copy.call())
+    if (copy.other() == Other::Own && copy.call(callFor(topics)))
         return false;
     const bool english = eFileExists(folder / "English.txt");
     const auto text = [&](const TextPair& pair) { return onTerminal(pair, english); };
@@ -196,7 +227,7 @@ int play(const CommandLine& line, int argc, char** argv) {
                      {folder, platform::systemDisk()});
     }
     platform::RunningCopy copy(folder);
-    if (!wanted(copy, folder))
+    if (!wanted(copy, folder, line.files))
         return 0;
     Session session(folder, here);
     session.attend(copy);

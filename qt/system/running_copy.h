@@ -27,14 +27,12 @@ class RunningCopy {
 
     Other other() const;
 
-    /// Asks one's own other copy to come to the front. False when it does not answer
-    /// within three seconds.
-    bool call();
+    /// Asks one's own other copy to come to the front, with a message of at most 16 KiB.
+    /// False when it does not answer within three seconds.
+    bool call(const std::string& message);
 
-    /// What is done when this copy is called. A desktop that lets nobody come to the
-    /// front on his own gives the caller a token for it, else it is empty. Needs an
-    /// application.
-    void onCall(std::function<void(const std::string& token)> handler);
+    /// What is done when this copy is called. Needs an application.
+    void onCall(std::function<void(const std::string& message)> handler);
 
     /// A copy that starts from now on finds none.
     void letGo();

@@ -2,7 +2,6 @@
 // and a socket of the player's by which its holder is called.
 #include <QSocketNotifier>
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
@@ -29,7 +28,7 @@ constexpr int kPatience = 3000;    // milliseconds, for an answer
 constexpr int kStartingUp = 1000;  // until a copy that has the lock has its socket
 constexpr int kPause = 50;
 constexpr int kMostWaiting = 8;  // calls
-constexpr std::size_t kMostTokenBytes = 512;
+constexpr std::size_t kMostMessageBytes = 16384;
 constexpr char kAnswer = '!';
 
 class Descriptor {
@@ -178,10 +177,11 @@ void RunningCopy::Impl::answer(const std::function<void(const std::string&)>& ha
     const Descriptor caller(::accept(door.number(), nullptr, nullptr));
     if (!caller)
         return;
-    std::array<char, kMostTokenBytes> token{};
+    std::string message(kMostMessageBytes, '\0');
     const bool said = becomesReadable(caller, kPause);
-    const ssize_t size = said ? ::recv(caller.number(), token.data(), token.size(), 0) : 0;
-    handler(std::string(token.data(), static_cast<std::size_t>(std::max<ssize_t>(size, 0))));
+    const ssize_t size = said ? ::recv(caller.number(), message.data(), message.size(), 0) : 0;
+    message.resize(static_cast<std::size_t>(std::max<ssize_t>(size, 0)));
+    handler(message);
     say(caller, &kAnswer, 1);
 }
 
@@ -197,11 +197,10 @@ RunningCopy::Other RunningCopy::other() const {
     return impl_->other;
 }
 
-bool RunningCopy::call() {
+bool RunningCopy::call(const std::string& message) {
     if (!impl_->line)
         return false;
-    if (const char* token = std::getenv("XDG_ACTIVATION_TOKEN"))
-        say(impl_->line, token, std::strlen(token));
+    say(impl_->line, message.data(), message.size());
     char answer = 0;
     return becomesReadable(impl_->line, kPatience) &&
            ::read(impl_->line.number(), &answer, 1) == 1 && answer == kAnswer;

@@ -15,6 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr DWORD kMostMessageBytes = 16384;
 constexpr DWORD kPatience = 3000;  // milliseconds, for an answer
 
 class Handle {
@@ -52,12 +53,39 @@ std::wstring nameFor(const fs::path& folder) {
 
 }  // namespace
 
+// What is said, in memory that both copies see; it ends with a zero.
+class Words {
+  public:
+    explicit Words(const std::wstring& name)
+        : memory_(CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0,
+                                     kMostMessageBytes, name.c_str())),
+          text_(static_cast<char*>(memory_ ? MapViewOfFile(memory_.get(), FILE_MAP_WRITE, 0, 0, 0)
+                                           : nullptr)) {}
+    ~Words() {
+        if (text_)
+            UnmapViewOfFile(text_);
+    }
+    Words(const Words&) = delete;
+    Words& operator=(const Words&) = delete;
+
+    void write(const std::string& message) {
+        if (text_ && message.size() < kMostMessageBytes)
+            CopyMemory(text_, message.c_str(), message.size() + 1);
+    }
+    std::string read() const { return text_ ? std::string(text_) : std::string(); }
+
+  private:
+    Handle memory_;
+    char* text_;
+};
+
 struct RunningCopy::Impl {
     Other other = Other::None;
     Handle everywhere;
     Handle here;
     Handle call;    // set by who calls
     Handle answer;  // set by who was called
+    std::unique_ptr<Words> words;
     std::unique_ptr<QWinEventNotifier> bell;
 };
 
@@ -71,6 +99,7 @@ RunningCopy::RunningCopy(const fs::path& folder) : impl_(std::make_unique<Impl>(
     const DWORD local = GetLastError();
     impl_->call.reset(CreateEventW(nullptr, FALSE, FALSE, (own + L"-call").c_str()));
     impl_->answer.reset(CreateEventW(nullptr, FALSE, FALSE, (own + L"-answer").c_str()));
+    impl_->words = std::make_unique<Words>(own + L"-words");
     if (local == ERROR_ALREADY_EXISTS)
         impl_->other = Other::Own;
     else if (global == ERROR_ALREADY_EXISTS || global == ERROR_ACCESS_DENIED)
@@ -83,7 +112,8 @@ RunningCopy::Other RunningCopy::other() const {
     return impl_->other;
 }
 
-bool RunningCopy::call() {
+bool RunningCopy::call(const std::string& message) {
+    impl_->words->write(message);
     AllowSetForegroundWindow(ASFW_ANY);
     return impl_->call && SetEvent(impl_->call.get()) &&
            WaitForSingleObject(impl_->answer.get(), kPatience) == WAIT_OBJECT_0;
@@ -95,7 +125,7 @@ void RunningCopy::onCall(std::function<void(const std::string&)> handler) {
     impl_->bell = std::make_unique<QWinEventNotifier>(impl_->call.get());
     QObject::connect(impl_->bell.get(), &QWinEventNotifier::activated,
                      [this, handler = std::move(handler)] {
-                         handler({});
+                         handler(impl_->words->read());
                          SetEvent(impl_->answer.get());
                      });
 }
@@ -103,6 +133,7 @@ void RunningCopy::onCall(std::function<void(const std::string&)> handler) {
 void RunningCopy::letGo() {
     impl_->bell.reset();
     impl_->call.reset();
+    impl_->words.reset();
     impl_->answer.reset();
     impl_->here.reset();
     impl_->everywhere.reset();

@@ -47,22 +47,22 @@ TEST(RunningCopy, IsForgottenWhenItHasEndedOrLetGo) {
 TEST(RunningCopy, IsCalledByALaterOne) {
     const TempFolder folder;
     RunningCopy first(folder.path());
-    int calls = 0;
-    first.onCall([&](const std::string&) { ++calls; });
+    std::string heard;
+    first.onCall([&](const std::string& message) { heard = message; });
     bool answered = false;
-    std::thread later([&] { answered = RunningCopy(folder.path()).call(); });
-    while (calls == 0)
+    std::thread later([&] { answered = RunningCopy(folder.path()).call("hello"); });
+    while (heard.empty())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     later.join();
     EXPECT_TRUE(answered);
-    EXPECT_EQ(calls, 1);
+    EXPECT_EQ(heard, "hello");
 }
 
 // It hangs, as it were: nothing turns its events.
 TEST(RunningCopy, IsNotWaitedForForEver) {
     const TempFolder folder;
     const RunningCopy first(folder.path());
-    EXPECT_FALSE(RunningCopy(folder.path()).call());
+    EXPECT_FALSE(RunningCopy(folder.path()).call("hello"));
 }
 
 #ifndef _WIN32

@@ -17,11 +17,11 @@ class SecondStart(Player):
         self.start_at_menu()
         self.window = self.desktop.windows.active()
 
-    def again(self):
+    def again(self, *arguments):
         """Starts the program once more; returns its process."""
         with open(self.desktop.scratch / "second.log", "wb") as log:
             process = self.desktop.start_program(
-                [str(executable()), "--folder", str(self.folder)], {}, log
+                [str(executable()), "--folder", str(self.folder), *arguments], {}, log
             )
         self.addCleanup(process.kill)
         return process
@@ -33,6 +33,12 @@ class SecondStart(Player):
         self.expect_title(self.words.menu_title)
         self.assertEqual(self.desktop.windows.active(), self.window)
         self.assertEqual(self.desktop.windows.ids(), [self.window])
+
+    def test_hands_its_topics_to_the_first(self):
+        topic = self.desktop.scratch / "NUEVO.txt"
+        topic.write_bytes(b"NUEVO\r\nuna frase\r\notra frase\r\n")
+        self.assertEqual(self.again(str(topic)).wait(20), 0)
+        until(lambda: "Temas/NUEVO.txt" in self.files(), "the topic in its folder")
 
     def test_leaves_a_box_of_the_first_where_it_is(self):
         self.open_arcade()
