@@ -141,13 +141,14 @@ class Session {
         std::vector<std::filesystem::path> files;
         for (const QString& topic : topics)
             files.push_back(toPath(fromQt(topic)));
-        Page* page = shell_.front();
         if (files.empty())
             return;
-        if (page && page->screen()->takesFiles() && !shell_.isModal())
-            shell_.event([&] { page->screen()->dropFiles(files); });
-        else
-            program_.topicsToTake = files;
+        const Page* page = shell_.front();
+        for (const ScreenId id : {ScreenId::Menu, ScreenId::Word2, ScreenId::Inventor})
+            if (Screen* screen = program_.find(id);
+                screen && page && page->screen() == screen && !shell_.isModal())
+                return shell_.event([&] { screen->dropFiles(files); });
+        program_.topicsToTake = files;
     }
 
     void tellOfLoss() {

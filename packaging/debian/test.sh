@@ -30,7 +30,7 @@ player_has Topics/Birds.txt
 inside test -z "$(find "$system/usr/games" -name 'Quillor-Config.ini')"
 
 step "plays a tour through all its screens"
-as_player xvfb-run -a quillor --tour /home/player/pictures
+on_screen quillor --tour /home/player/pictures
 count_pictures "$system/home/player/pictures"
 rm -rf "$root/build/package-pictures"
 cp -r "$system/home/player/pictures" "$root/build/package-pictures"

@@ -44,15 +44,24 @@ fresh_system() {
 clear_system() {
     local place
     for place in proc dev; do
-        ! mountpoint -q "$system/$place" || umount "$system/$place" || return
+        ! mountpoint -q "$system/$place" || umount -l "$system/$place" || return
     done
     rm -rf --one-file-system "$system"
 }
 
-# Starts a program with a screen in memory and ends it after a while: it must live so long.
+# on_screen COMMAND...: as the player, with a screen in memory; ends as the command does.
+# What xvfb-run itself ends with tells of its own clearing up, too.
+on_screen() {
+    rm -f "$system/home/player/code"
+    # shellcheck disable=SC2016 # the inner shell's
+    as_player xvfb-run -a sh -c '"$@"; echo $? >~/code' command "$@" || true
+    return "$(cat "$system/home/player/code" || echo 1)"
+}
+
+# Starts a program and ends it after a while: it must live so long.
 starts() {
     local code=0
-    as_player xvfb-run -a timeout --preserve-status 15 "$@" || code=$?
+    on_screen timeout --preserve-status 15 "$@" || code=$?
     [ "$code" -eq 143 ] || fail "the program ended by itself with $code"
 }
 

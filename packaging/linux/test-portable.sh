@@ -24,7 +24,7 @@ for name in Quillor-Config.ini Temas/Aves.txt Topics/Birds.txt; do
 done
 
 step "plays a tour through all its screens"
-as_player xvfb-run -a "$folder/start.sh" --tour /home/player/pictures
+on_screen "$folder/start.sh" --tour /home/player/pictures
 count_pictures "$system/home/player/pictures"
 
 step "keeps to the user's folder where its own is write-protected"
