@@ -38,7 +38,9 @@ class SecondStart(Player):
         topic = self.desktop.scratch / "NUEVO.txt"
         topic.write_bytes(b"NUEVO\r\nuna frase\r\notra frase\r\n")
         self.assertEqual(self.again(str(topic)).wait(20), 0)
-        until(lambda: "Temas/NUEVO.txt" in self.files(), "the topic in its folder")
+        # Its title has no mark of the language, which is asked about.
+        box = until(self.program.dialogs, "a question about the topic")[0]
+        self.assertIn("NUEVO.txt", "".join(self._texts(box)))
 
     def test_leaves_a_box_of_the_first_where_it_is(self):
         self.open_arcade()
