@@ -73,7 +73,7 @@ carry_licences() {
     mkdir -p "$stage/licences"
     cp "$root/LICENSE" "$stage/licences/Quillor.txt"
     for file in "$stage"/lib/* "$stage"/plugins/*/*.so; do
-        package=$(dpkg -S "*/$(basename "$file")" 2>/dev/null | head -1 | cut -d: -f1)
+        package=$(dpkg -S "*/$(basename "$file")" 2>/dev/null | head -1 | cut -d: -f1) || true
         [ -z "$package" ] || cp -L "/usr/share/doc/$package/copyright" "$stage/licences/$package.txt"
     done
 }
