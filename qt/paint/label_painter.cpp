@@ -38,7 +38,7 @@ int alignment(const LabelLook& look) {
 }
 
 bool isOneLine(int flags, const QString& text) {
-    return !(flags & Qt::TextWordWrap) && !text.contains('\n');
+    return (flags & Qt::TextWordWrap) == 0 && !text.contains('\n');
 }
 
 // What is drawn of one line, its baseline at 0; the same for most texts of a font.
@@ -88,11 +88,11 @@ QRectF placeOfSymbol(const QRectF& rect, Align align, double size) {
 /// A caption where it stands in its label, in a colour to be chosen.
 class Caption {
   public:
-    Caption(const QRectF& rect, const LabelLook& look, QFont font)
+    Caption(const QRectF& rect, const LabelLook& look, const QFont& font)
         : face_(look.font.face), text_(toQt(look.caption).replace("\r\n", "\n")) {
         flags_ = alignment(look);
         symbol_ = isSymbolFace(face_);
-        font_ = symbol_ ? std::move(font) : fitted(std::move(font), rect, flags_, text_);
+        font_ = symbol_ ? font : fitted(font, rect, flags_, text_);
         place_ = symbol_ ? placeOfSymbol(rect, look.align, font_.pixelSize())
                          : placeOfText(font_, rect, flags_, text_);
     }

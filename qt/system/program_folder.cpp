@@ -64,7 +64,7 @@ fs::path useFolder(const fs::path& folder) {
 fs::path findProgramFolder(const Installation& here, const fs::path& userDataFolder) {
     if (!here.systemWide && canWriteTo(here.executableFolder))
         return here.executableFolder;
-    const fs::path folder = useFolder(userDataFolder);
+    fs::path folder = useFolder(userDataFolder);
     bringManual(here.shared, folder);
     return folder;
 }

@@ -98,9 +98,10 @@ void LineView::paintEvent(QPaintEvent*) {
         to.rx() = std::round(to.x());
     }
     const double width = upright || level ? whole : std::max(thickness, 1.0);
-    const auto draw = [&, ends = roundEnds ? Qt::RoundCap : Qt::FlatCap](Color ink, double pen) {
+    const auto draw = [&painter, line = QLineF(from, to),
+                       ends = roundEnds ? Qt::RoundCap : Qt::FlatCap](Color ink, double pen) {
         painter.setPen(QPen(toQt(ink), pen, Qt::SolidLine, ends, Qt::RoundJoin));
-        painter.drawLine(from, to);
+        painter.drawLine(line);
     };
     painter.setOpacity(edge.share);
     if (edge.share > 0)
