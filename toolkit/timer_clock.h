@@ -2,10 +2,9 @@
 // milliseconds since whenever; it never runs backwards.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
-#include <map>
 #include <optional>
-#include <set>
 #include <vector>
 
 #include "toolkit/screen.h"
@@ -30,15 +29,17 @@ class TimerClock {
         const std::optional<Due> due = takeDue(now);
         if (!due)
             return false;
-        if (!ticking_.insert(due->timer).second)
+        if (std::find(ticking_.begin(), ticking_.end(), due->timer) != ticking_.end())
             return true;
+        ticking_.push_back(due->timer);
         deliver(*due->screen, *due->timer);
-        ticking_.erase(due->timer);
+        std::erase(ticking_, due->timer);
         return true;
     }
 
   private:
     struct Running {
+        Timer* timer;
         Screen* screen;
         int interval;
         std::int64_t due;
@@ -48,11 +49,12 @@ class TimerClock {
         Screen* screen;
         Timer* timer;
     };
-    std::map<Timer*, Running>::const_iterator first() const;
+    std::vector<Running>::const_iterator first() const;
     std::optional<Due> takeDue(std::int64_t now);
 
-    std::map<Timer*, Running> running_;
-    std::set<const Timer*> ticking_;
+    std::vector<Running> running_;
+    std::vector<Running> before_;  // what ran before the latest look; kept for its room
+    std::vector<const Timer*> ticking_;
     std::uint64_t started_ = 0;
 };
 
