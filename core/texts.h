@@ -486,7 +486,7 @@ inline constexpr TextPair kSpokenFound{u": sí. ", u": yes. "};
 inline constexpr TextPair kSpokenRepeated{u": ya se usó. ", u": used before. "};
 inline constexpr TextPair kSpokenMistake{u": no. ", u": no. "};
 inline constexpr TextPair kSpokenMistakes{u"Errores: ", u"Mistakes: "};
-inline constexpr TextPair kSpokenOfSix{u" de 6. ", u" of 6. "};
+inline constexpr TextPair kSpokenOf{u" de ", u" of "};
 inline constexpr TextPair kSpokenLetters{u"Letras: ", u"Letters: "};
 inline constexpr TextPair kSpokenAnswer{u"La respuesta: ", u"The answer: "};
 

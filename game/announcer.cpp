@@ -51,9 +51,10 @@ void Announcer::sayNewGame(const Round& round) {
 }
 
 void Announcer::sayGuess(char16_t key, Happened happened, const Round& round) {
-    lblSpoken.caption =
-        Text(1, key) + program_.lang(wordsFor(happened)) + program_.lang(texts::kSpokenMistakes) +
-        inDigits(program_.settings.giStrikes) + program_.lang(texts::kSpokenOfSix) + spelled(round);
+    lblSpoken.caption = Text(1, key) + program_.lang(wordsFor(happened)) +
+                        program_.lang(texts::kSpokenMistakes) +
+                        inDigits(program_.settings.giStrikes) + program_.lang(texts::kSpokenOf) +
+                        inDigits(kMostMistakes) + u". " + spelled(round);
 }
 
 void Announcer::sayEnding() {

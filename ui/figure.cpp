@@ -7,6 +7,8 @@
 
 namespace quillor {
 
+static_assert(texts::kMistakeTips.size() == kMostMistakes, "each strike box has its tip");
+
 void StrikeBoxes::eTranslate(const GameSettings& settings) {
     for (int i = 0; i < kMostMistakes; ++i)
         lblStrike(i).toolTip = eLang(settings, texts::kMistakeTips.at(static_cast<std::size_t>(i)));
@@ -25,12 +27,13 @@ Figure::Figure() {
 }
 
 void Figure::ePutItHangman(int mistakes) {
+    static_assert(kMostMistakes == 6, "each mistake brings a piece, the last one the second leg");
     shpPrt0.visible = shpPrt1.visible = lnNeck.visible = mistakes >= 1;
     shpPrt2.visible = mistakes >= 2;
     shpPrt3.visible = mistakes >= 3;
     shpPrt4.visible = mistakes >= 4;
     shpPrt5.visible = mistakes >= 5;
-    if (mistakes >= 6)
+    if (mistakes >= kMostMistakes)
         shpPrt6.visible = true;
 }
 

@@ -10,7 +10,7 @@ namespace quillor {
 /// happens while no game is being played.
 Happened eEnterKey(GameSettings& settings, Round& round, char16_t key);
 
-/// Records a mistake; the sixth is a death, one that was made before is Repeated.
+/// Records a mistake; the kMostMistakes-th is a death, one that was made before is Repeated.
 Happened ePutStrikes(GameSettings& settings, Round& round, char16_t key);
 
 enum class Hint { PhraseTooShort, NoSingleLetter, Given, Won };

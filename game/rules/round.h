@@ -41,6 +41,8 @@ struct Cell {
 /// The keys that can be guessed, in the order of the on-screen keyboard.
 inline constexpr TextView kGuessKeys = u"ABCDEFGHIJKLMNÑOPQRSTUVWXYZ1234567890";
 
+/// The mistake that ends a game. Where a number of their own belongs to each, as the
+/// pieces of the figure and the tips of the boxes, the compiler asks for one more.
 inline constexpr int kMostMistakes = 6;
 /// From this many mistakes on, a player may not run from a game to another one
 /// or to the main menu.
@@ -50,7 +52,7 @@ struct Round {
     std::vector<Cell> cells;              // at most 42: characters past them have no cell
     Text folded;                          // the whole laid-out phrase, each character as its key
     bool hiddenLetters = false;           // as the option stood when the board was laid out
-    Text mistakes;                        // the wrong keys in their order, at most 6
+    Text mistakes;                        // the wrong keys in their order, at most kMostMistakes
     std::bitset<kGuessKeys.size()> used;  // keys that are not offered any more
     int secondsLeft = 0;                  // 0 without the clock
 

@@ -43,8 +43,8 @@ std::int16_t deathPoints(const GameResult& game) {
 std::int16_t victoryPoints(const GameResult& game) {
     // A long phrase is worth less than a short one, on purpose.
     const double raw = (900.0 - 20 * game.found) / ((game.hard ? 2 : 1) * (1 + game.strikes));
-    // Divided by the whole length, and only then less the blanks: with many
-    // blanks the hint raises the reward.
+    // The hint's price: divided by the whole length, and only then less the blanks:
+    // with many blanks it raises the reward.
     const int penalty = game.hintUsed ? toInteger(raw / game.length - game.blanks) : 0;
     const int timeBonus = game.secondsLeft / 2;
     const std::int16_t points = toInteger(timeBonus + std::floor(raw - penalty));
