@@ -32,7 +32,25 @@ tour() {
     "$root/scripts/virtual-display.sh" "$program" --tour "$pictures" "$@"
 }
 
+# By its environment, in the order in which programs look at it.
+speaks_spanish() {
+    case "${LANGUAGE:-${LC_ALL:-${LC_MESSAGES:-${LANG:-}}}}" in
+        es | es[_.@:]*) ;;
+        *) return 1 ;;
+    esac
+}
+
+# A folder that nobody has played in yet speaks the person's language.
+lay_out_folder() {
+    local folder
+    folder=$(dirname "$program")
+    if [ ! -e "$folder/Quillor-Config.ini" ] && ! speaks_spanish; then
+        : >"$folder/English.txt"
+    fi
+}
+
 build_program
+lay_out_folder
 if have_screen; then
     exec "$program" "$@"
 else

@@ -102,7 +102,7 @@ void frmStart::colourScreen() {
 }
 
 void frmStart::chooseLanguage() {
-    settings_.gbEnglish = eFileExists(program_.folder / "English.txt");
+    settings_.gbEnglish = speaksEnglish(program_.folder);
     eTranslate();
 }
 

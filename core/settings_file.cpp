@@ -25,6 +25,7 @@ constexpr std::array<std::variant<NumberField, FlagField>, 11> kLines{
     &GameSettings::gbColorTransition, &GameSettings::giSavedTopic,
 };
 constexpr std::size_t kSavedTopicLine = 10;
+constexpr const char* kLanguageMarker = "English.txt";
 
 Text written(const GameSettings& settings, std::size_t line) {
     if (const auto* flag = std::get_if<FlagField>(&kLines[line]))
@@ -95,6 +96,19 @@ void loadForGameScreen(GameSettings& settings, const Place& programFolder) {
             std::clamp<int>(settings.giSavedTopic, std::min(0, last), last));
         settings.gbSettingsLoaded = true;
     });
+}
+
+bool speaksEnglish(const Place& folder) {
+    return eFileExists(folder / kLanguageMarker);
+}
+
+void chooseLanguage(const Place& folder, bool english) {
+    if (english == speaksEnglish(folder))
+        return;
+    if (english)
+        writeFile(folder / kLanguageMarker, {});
+    else
+        folder.disk().remove(folder / kLanguageMarker);
 }
 
 }  // namespace quillor

@@ -1,4 +1,5 @@
-// The settings file: eleven numbers, one a line, whose place gives their meaning.
+// The settings file: eleven numbers, one a line, whose place gives their meaning; and the
+// marker of the language.
 #pragma once
 
 #include "core/disk.h"
@@ -23,5 +24,10 @@ void loadForSettingsScreen(GameSettings& settings, const Place& programFolder);
 /// back to Manual unless the settings screen has been opened in this run, and
 /// the topic is held within the library. Ends quietly on an error.
 void loadForGameScreen(GameSettings& settings, const Place& programFolder);
+
+/// Whether the marker file lies in the program folder that makes the game speak English.
+bool speaksEnglish(const Place& folder);
+/// Puts the marker there, or takes it away. Throws std::runtime_error.
+void chooseLanguage(const Place& folder, bool english);
 
 }  // namespace quillor

@@ -516,6 +516,7 @@ inline constexpr TextPair kTerminalHelp{
     u"  --folder CARPETA   guarda ajustes y temas en CARPETA\n"
     u"  --portable         los guarda en la carpeta del programa, aunque el juego\n"
     u"                     esté instalado para todos\n"
+    u"  --language es|en   desde ahora, en español o en inglés\n"
     u"  --tour CARPETA     juega solo una partida corta y deja imágenes de ella\n"
     u"                     en CARPETA\n"
     u"  --check-topics     dice qué tienen de malo unos temas, o los del juego, sin\n"
@@ -533,21 +534,24 @@ inline constexpr TextPair kTerminalHelp{
     u"Usage: quillor [options] [TOPIC.txt]...\n"
     u"       quillor --check-topics [FILE or DIR]...\n"
     u"\n"
-    u"  TOPIC.txt        copy that topic into the game's topic folder\n"
-    u"  --folder DIR     keep settings and topics in DIR\n"
-    u"  --portable       keep them in the program's own folder, even where the game is\n"
-    u"                   installed for everybody\n"
-    u"  --tour DIR       play a short game by itself and write pictures of it to DIR\n"
-    u"  --check-topics   say what is wrong with topics, or with the game's own,\n"
-    u"                   without a window; exit with 0 if nothing is, with 1 if\n"
-    u"                   something is and with 2 if one cannot be read\n"
-    u"  --version        print the version and exit\n"
-    u"  --help           print this text and exit\n"
+    u"  TOPIC.txt          copy that topic into the game's topic folder\n"
+    u"  --folder DIR       keep settings and topics in DIR\n"
+    u"  --portable         keep them in the program's own folder, even where the game is\n"
+    u"                     installed for everybody\n"
+    u"  --language es|en   speak Spanish or English from now on\n"
+    u"  --tour DIR         play a short game by itself and write pictures of it to DIR\n"
+    u"  --check-topics     say what is wrong with topics, or with the game's own,\n"
+    u"                     without a window; exit with 0 if nothing is, with 1 if\n"
+    u"                     something is and with 2 if one cannot be read\n"
+    u"  --version          print the version and exit\n"
+    u"  --help             print this text and exit\n"
     u"\n"
     u"Without --folder everything is kept in the folder of the program itself or,\n"
     u"where the game is installed for everybody or that folder is write-protected, in\n"
     u"the user's data folder. A file English.txt in it makes the interface English.\n"};
 inline constexpr TextPair kUnknownOption{u"opción desconocida: ", u"unknown option: "};
+inline constexpr TextPair kUnknownLanguage{u"idioma desconocido, es o en: ",
+                                           u"unknown language, es or en: "};
 inline constexpr TextPair kNeedsFolder{u"falta la carpeta de la opción: ",
                                        u"a folder is missing for the option: "};
 inline constexpr TextPair kNoTopicToRead{u"no se puede leer ningún tema de: ",

@@ -12,6 +12,8 @@ namespace {
 QString* valueOf(const QString& option, CommandLine& line) {
     if (option == "--folder")
         return &line.folder;
+    if (option == "--language")
+        return &line.language;
     return option == "--tour" ? &line.tour : nullptr;
 }
 
@@ -64,6 +66,8 @@ CommandLine parseCommandLine(const QStringList& arguments, bool english) {
             return refused(texts::kUnknownOption, word);
         const bool hasNext = i + 1 < arguments.size();
         *value = equals >= 0 ? word.mid(equals + 1) : hasNext ? arguments[++i] : QString();
+        if (value == &result.language && *value != "es" && *value != "en")
+            return refused(texts::kUnknownLanguage, *value);
         if (value->isEmpty())
             return refused(texts::kNeedsFolder, option);
     }

@@ -12,6 +12,7 @@
 #include "app/program.h"
 #include "core/files.h"
 #include "core/text_codec.h"
+#include "core/settings_file.h"
 #include "core/topic_library.h"
 #include "game/game_screen.h"
 #include "qt/boxes/boxes.h"
@@ -211,6 +212,12 @@ int play(const CommandLine& line, int argc, char** argv) {
         folder = useFolder(toPath(fromQt(line.folder)));
     if (!line.tour.isEmpty())
         useFolder(toPath(fromQt(line.tour)));
+    const auto speakAsTold = [&] {
+        if (!line.language.isEmpty())
+            chooseLanguage({folder, platform::systemDisk()}, line.language == "en");
+    };
+    if (!folder.empty())
+        speakAsTold();
     qInstallMessageHandler(onlyFatal);
     QApplication application(argc, argv);
     qInstallMessageHandler(nullptr);
@@ -223,7 +230,8 @@ int play(const CommandLine& line, int argc, char** argv) {
     if (!line.tour.isEmpty())
         return playTour(line.tour, folder, here);
     if (folder.empty()) {
-        folder = findProgramFolder(here, platform::userDataFolder());
+        folder = findProgramFolder(here, platform::userDataFolder(), systemIsEnglish());
+        speakAsTold();
         layOutTopics({here.shared / "packs", platform::systemDisk()},
                      {folder, platform::systemDisk()});
     }
@@ -245,7 +253,7 @@ std::vector<Place> topicsToCheck(const CommandLine& line) {
         return places;
     const Place folder(line.folder.isEmpty()
                            ? findProgramFolder(findInstallation(executableFolder(), line.portable),
-                                               platform::userDataFolder())
+                                               platform::userDataFolder(), systemIsEnglish())
                            : useFolder(toPath(fromQt(line.folder))),
                        disk);
     for (const bool english : {false, true}) {

@@ -5,6 +5,7 @@
 
 #include "core/files.h"
 #include "core/guard.h"
+#include "core/settings_file.h"
 #include "qt/system/system_disk.h"
 
 namespace quillor {
@@ -61,10 +62,15 @@ fs::path useFolder(const fs::path& folder) {
     return fs::absolute(folder);
 }
 
-fs::path findProgramFolder(const Installation& here, const fs::path& userDataFolder) {
+fs::path findProgramFolder(const Installation& here, const fs::path& userDataFolder,
+                           bool english) {
     if (!here.systemWide && canWriteTo(here.executableFolder))
         return here.executableFolder;
+    const bool isNew = !fs::exists(userDataFolder);
     fs::path folder = useFolder(userDataFolder);
+    if (isNew)
+        quietly("choose the language",
+                [&] { chooseLanguage({folder, platform::systemDisk()}, english); });
     bringManual(here.shared, folder);
     return folder;
 }

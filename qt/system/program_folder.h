@@ -29,9 +29,11 @@ struct FolderError : std::runtime_error {
 /// Makes the folder if need be. Throws FolderError. It need not be writable.
 std::filesystem::path useFolder(const std::filesystem::path& folder);
 
-/// The executable's folder if it is portable and can be written to, else the user's
-/// data folder, which gets a copy of the manual. Throws like useFolder.
+/// The executable's folder if it is portable and can be written to, else the user's data
+/// folder, which gets a copy of the manual and, where it is new, the marker file if the game
+/// is to speak English. Throws like useFolder.
 std::filesystem::path findProgramFolder(const Installation& here,
-                                        const std::filesystem::path& userDataFolder);
+                                        const std::filesystem::path& userDataFolder,
+                                        bool english);
 
 }  // namespace quillor

@@ -2,6 +2,7 @@
 #include <system_error>
 
 #include "core/files.h"
+#include "core/settings_file.h"
 #include "qt/tour/tour.h"
 #include "qt/windows/qt_values.h"
 
@@ -238,7 +239,7 @@ void prepareTourFolder(const fs::path& folder, const fs::path& model) {
     if (!model.empty())
         for (const char* name : {"English.txt", "Color.txt", "Pic.jpg"})
             fs::copy_file(model / name, folder / name, ignored);
-    const bool english = eFileExists(folder / "English.txt");
+    const bool english = speaksEnglish(folder);
     const fs::path topics = folder / (english ? "Topics" : "Temas");
     fs::create_directories(topics);
     // One answer, however it is dealt: the two spellings differ by an accent.

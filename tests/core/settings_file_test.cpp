@@ -290,6 +290,19 @@ TEST_F(DamagedSettings, AnyBytesLeaveAUsableRecord) {
     }
 }
 
+TEST(Language, IsChosenByTheMarkerFile) {
+    const testing::TempFolder folder;
+    chooseLanguage(folder.path(), true);
+    EXPECT_TRUE(speaksEnglish(folder.path()));
+    folder.write("English.txt", "mine");
+    chooseLanguage(folder.path(), true);
+    EXPECT_EQ(folder.read("English.txt"), "mine");
+    chooseLanguage(folder.path(), false);
+    EXPECT_FALSE(folder.has("English.txt"));
+    chooseLanguage(folder.path(), false);
+    EXPECT_FALSE(speaksEnglish(folder.path()));
+}
+
 }  // namespace
 
 }  // namespace quillor

@@ -76,6 +76,14 @@ TEST(CommandLine, RefusesAnOptionWithoutItsFolder) {
     EXPECT_EQ(parseCommandLine({"--tour="}, true).action, Action::Refuse);
 }
 
+TEST(CommandLine, TakesOneOfTwoLanguages) {
+    EXPECT_EQ(parseCommandLine({}, true).language, "");
+    EXPECT_EQ(parseCommandLine({"--language", "es"}, true).language, "es");
+    EXPECT_EQ(parseCommandLine({"--language=en"}, true).language, "en");
+    EXPECT_EQ(parseCommandLine({"--language", "fr"}, true).action, Action::Refuse);
+    EXPECT_EQ(parseCommandLine({"--language"}, true).action, Action::Refuse);
+}
+
 TEST(CommandLine, SpeaksSpanishToo) {
     EXPECT_TRUE(helpText(false).contains("--folder CARPETA"));
     EXPECT_TRUE(helpText(false).startsWith("Quillor 6.0.35\nEl ahorcado"));
@@ -132,7 +140,7 @@ using testing::TempFolder;
 TEST(ProgramFolder, IsTheExecutablesFolderWhenItCanBeWrittenTo) {
     const TempFolder here;
     const TempFolder user;
-    EXPECT_EQ(findProgramFolder(findInstallation(here.path(), false), user / "quillor"),
+    EXPECT_EQ(findProgramFolder(findInstallation(here.path(), false), user / "quillor", true),
               here.path());
     EXPECT_FALSE(user.has("quillor"));
     EXPECT_TRUE(std::filesystem::is_empty(here.path()));
@@ -142,9 +150,22 @@ TEST(ProgramFolder, IsTheUsersOwnOtherwise) {
     const TempFolder here;
     const TempFolder user;
     const auto found =
-        findProgramFolder(findInstallation(here / "is not there", false), user / "data/quillor");
+        findProgramFolder(findInstallation(here / "is not there", false), user / "data/quillor", true);
     EXPECT_EQ(found, user / "data/quillor");
     EXPECT_TRUE(user.has("data/quillor"));
+}
+
+TEST(ProgramFolder, SpeaksThePersonsLanguageWhereTheUsersOwnIsNew) {
+    const TempFolder here;
+    const TempFolder user;
+    const Installation none = findInstallation(here / "none", false);
+    findProgramFolder(none, user / "new", true);
+    EXPECT_TRUE(user.has("new/English.txt"));
+    std::filesystem::remove(user / "new/English.txt");
+    findProgramFolder(none, user / "new", true);
+    EXPECT_FALSE(user.has("new/English.txt"));
+    findProgramFolder(none, user / "spanish", false);
+    EXPECT_FALSE(user.has("spanish/English.txt"));
 }
 
 // Root may write everywhere, so what root runs is run as another user meanwhile.
@@ -173,7 +194,7 @@ class UsersFolderWithManual : public UsersFolder {
 };
 
 TEST_F(UsersFolderWithManual, GetsTheManual) {
-    EXPECT_EQ(findProgramFolder(findInstallation(here.path(), false), user / "quillor"),
+    EXPECT_EQ(findProgramFolder(findInstallation(here.path(), false), user / "quillor", true),
               user / "quillor");
     EXPECT_EQ(user.read("quillor/Quillor-Manual.txt"), "help");
 }
@@ -184,7 +205,7 @@ class UsersFolderWithPipe : public UsersFolder {
 };
 
 TEST_F(UsersFolderWithPipe, WaitsForNobodyWhoWouldFillIt) {
-    EXPECT_EQ(findProgramFolder(findInstallation(here.path(), false), user / "quillor"),
+    EXPECT_EQ(findProgramFolder(findInstallation(here.path(), false), user / "quillor", true),
               user / "quillor");
     EXPECT_FALSE(user.has("quillor/Quillor-Manual.txt"));
 }
@@ -198,7 +219,7 @@ class SystemWide : public ::testing::Test {
         std::filesystem::last_write_time(system / kManual, {});
     }
     std::filesystem::path find(bool portable = false) {
-        return findProgramFolder(findInstallation(system / "bin", portable), user / "quillor");
+        return findProgramFolder(findInstallation(system / "bin", portable), user / "quillor", true);
     }
     static constexpr const char* kManual = "bin/" QUILLOR_SHARED_FROM_PROGRAM "/Quillor-Manual.txt";
     TempFolder system;
