@@ -62,15 +62,15 @@ fs::path useFolder(const fs::path& folder) {
     return fs::absolute(folder);
 }
 
-fs::path findProgramFolder(const Installation& here, const fs::path& userDataFolder,
-                           bool english) {
+fs::path findProgramFolder(const Installation& here, const fs::path& userDataFolder, bool english) {
     if (!here.systemWide && canWriteTo(here.executableFolder))
         return here.executableFolder;
     const bool isNew = !fs::exists(userDataFolder);
     fs::path folder = useFolder(userDataFolder);
     if (isNew)
-        quietly("choose the language",
-                [&] { chooseLanguage({folder, platform::systemDisk()}, english); });
+        quietly("choose the language", [&] {
+            chooseLanguage({folder, platform::systemDisk()}, english);
+        });
     bringManual(here.shared, folder);
     return folder;
 }

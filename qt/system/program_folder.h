@@ -33,7 +33,6 @@ std::filesystem::path useFolder(const std::filesystem::path& folder);
 /// folder, which gets a copy of the manual and, where it is new, the marker file if the game
 /// is to speak English. Throws like useFolder.
 std::filesystem::path findProgramFolder(const Installation& here,
-                                        const std::filesystem::path& userDataFolder,
-                                        bool english);
+                                        const std::filesystem::path& userDataFolder, bool english);
 
 }  // namespace quillor

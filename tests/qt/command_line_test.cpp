@@ -149,8 +149,8 @@ TEST(ProgramFolder, IsTheExecutablesFolderWhenItCanBeWrittenTo) {
 TEST(ProgramFolder, IsTheUsersOwnOtherwise) {
     const TempFolder here;
     const TempFolder user;
-    const auto found =
-        findProgramFolder(findInstallation(here / "is not there", false), user / "data/quillor", true);
+    const auto found = findProgramFolder(findInstallation(here / "is not there", false),
+                                         user / "data/quillor", true);
     EXPECT_EQ(found, user / "data/quillor");
     EXPECT_TRUE(user.has("data/quillor"));
 }
@@ -219,7 +219,8 @@ class SystemWide : public ::testing::Test {
         std::filesystem::last_write_time(system / kManual, {});
     }
     std::filesystem::path find(bool portable = false) {
-        return findProgramFolder(findInstallation(system / "bin", portable), user / "quillor", true);
+        return findProgramFolder(findInstallation(system / "bin", portable), user / "quillor",
+                                 true);
     }
     static constexpr const char* kManual = "bin/" QUILLOR_SHARED_FROM_PROGRAM "/Quillor-Manual.txt";
     TempFolder system;
