@@ -19,7 +19,7 @@ struct CommandLine {
     enum class Action { Play, CheckTopics, Version, Help, Refuse };
     Action action = Action::Play;
     QString folder;         // empty: the program finds it itself
-    QString language;  // "es" or "en" from now on; empty: as it is
+    QString language;       // "es" or "en" from now on; empty: as it is
     QString tour;           // where the tour's pictures go; empty: no tour
     QStringList files;      // topics to take in or, with folders, to check
     bool portable = false;  // the program's own folder, even where it is installed for all

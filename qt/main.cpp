@@ -11,8 +11,8 @@
 
 #include "app/program.h"
 #include "core/files.h"
-#include "core/text_codec.h"
 #include "core/settings_file.h"
+#include "core/text_codec.h"
 #include "core/topic_library.h"
 #include "game/game_screen.h"
 #include "qt/boxes/boxes.h"
