@@ -211,7 +211,7 @@ bool Page::takeFiles(QDropEvent& event) {
     for (const QUrl& url : event.mimeData()->urls())
         if (url.isLocalFile())
             files.push_back(toPath(fromQt(url.toLocalFile())));
-    const bool wanted = screen_ && screen_->enabled && screen_->takesFiles();
+    const bool wanted = screen_ != nullptr && screen_->enabled && screen_->takesFiles();
     if (files.empty() || !wanted || link_.shell().isModal())
         return false;
     event.setDropAction(Qt::CopyAction);

@@ -194,7 +194,7 @@ class WindowWalker : public Walker {
                 field->hasSelectedText() ? field->selectionStart() : field->cursorPosition();
         }
         const auto* list = dynamic_cast<QListWidget*>(&widget);
-        if (list && !list->selectedItems().isEmpty())
+        if (list != nullptr && !list->selectedItems().isEmpty())
             sight.text = list->selectedItems().front()->text().toStdString();
         return sight;
     }

@@ -27,7 +27,7 @@ class Boxes : public ::testing::Test {
     void whenOpen(std::function<void(QDialog&)> look) {
         QTimer::singleShot(0, [this, look = std::move(look)] {
             auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            opened = box && QTest::qWaitForWindowActive(box);
+            opened = box != nullptr && QTest::qWaitForWindowActive(box);
             if (opened)
                 look(*box);
             if (opened && box->isVisible())

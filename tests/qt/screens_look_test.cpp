@@ -98,7 +98,7 @@ TEST_F(ScreensLook, GreysAButtonThatCannotBePressed) {
     EXPECT_LT(grey.hslSaturation(), 10);
     EXPECT_LT(brightest, 230);  // no white words
     shell.event([&] {
-        inventor.lstTopics.items.push_back(u"PHRASE");
+        inventor.lstTopics.items.emplace_back(u"PHRASE");
         inventor.txtTheme.setText(u"topic");
     });
     const auto [red, white] = buttonLook(page, inventor.lblSave(1));

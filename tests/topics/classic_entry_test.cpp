@@ -12,7 +12,7 @@ class ClassicEntry : public TopicsTest {
     frmWord1& entry() { return open<frmWord1>(ScreenId::Word1); }
     bool isOpen() const { return program.find(ScreenId::Word1) != nullptr; }
     void setPhrase(TextView text) {
-        frmWord1& screen = as<frmWord1>(ScreenId::Word1);
+        auto& screen = as<frmWord1>(ScreenId::Word1);
         desktop.deliver([&] { screen.edit(screen.txtWord, Text(text), 0, 0); });
     }
 };
