@@ -110,8 +110,9 @@ class Program:
         control_id = node.id
         if control_id is None:
             return
+        # A dialog comes after the window that it stands over, and goes before it.
         known = self._known.get(control_id)
-        if known is None or not self._is_showing(known):
+        if known is None or self._is_showing(node) or not self._is_showing(known):
             self._known[control_id] = node
 
     def shown(self, control_id):
