@@ -142,45 +142,59 @@ void frmMenu::onKeyDown(KeyEvent& event) {
     event.handled = true;
 }
 
-// Where everything stands, in twips.
 void frmMenu::layOut() {
-    constexpr Twips kButtonWidth = 5160;
-    constexpr Twips kButtonHeight = 930;
-    constexpr Twips kPitch = 1230;
-    constexpr Twips kLeft = (style::kScreenWidth - kButtonWidth) / 2;
-    constexpr Twips kTop = 2580;
-    width = style::kScreenWidth;
-    height = style::kScreenHeight;
-
     tmrTopics.id = "tmrTopics";
     tmrTopics.interval = kTopicsDelay;
     add(tmrTopics);
     imgBack.id = "imgBack";
-    imgBack.drawing = style::kMenuDrawing;
-    add(imgBack).place(0, 0, width, height);
+    add(imgBack);
 
     lblWelcome.id = "lblWelcome";
     lblWelcome.font = {Face::Display, 44, true};
     lblWelcome.textColor = rgb(40, 40, 40);
-    add(lblWelcome).place(kLeft, 1080, kButtonWidth, 1080);
+    add(lblWelcome);
 
-    layOutView(style::kViewPlace, style::kFaint);
+    layOutView({}, style::kFaint);
     for (int i = 0; i < kOptions; ++i) {
-        const Twips top = kTop + static_cast<Twips>(i) * kPitch;
         Shape& face = shpOption(i + kFirstButton);
         face.radius = style::kButtonRadius;
-        add(face).place(kLeft, top, kButtonWidth, kButtonHeight);
+        add(face);
         Label& button = lblOption(i + kFirstButton);
         button.role = LabelRole::Button;
         button.cornerRadius = style::kButtonRadius;
-        add(button).place(kLeft, top, kButtonWidth, kButtonHeight);
+        add(button);
         Label& caption = lblOption(i);
-        caption.font = style::kButton;
         caption.textColor = rgb(250, 250, 250);
         caption.role = LabelRole::Button;
         caption.cornerRadius = style::kButtonRadius;
         caption.tabStop = false;  // the button behind it is the one to tab to
-        add(caption).place(kLeft + 240, top + 180, kButtonWidth - 480, kButtonHeight - 360);
+        add(caption);
+    }
+    fit(kWideSheet.width, kWideSheet.height);
+}
+
+// Where everything stands, in twips. What is drawn on a wide page stands beside the buttons.
+void frmMenu::arrange(const Sheet& paper) {
+    const bool wide = paper.layout == Layout::Wide;
+    width = paper.width;
+    height = paper.height;
+    const Twips buttonWidth = wide ? 5160 : width - 2 * 720;
+    const Twips buttonHeight = wide ? 930 : 1380;
+    const Twips pitch = wide ? 1230 : 1800;
+    const Twips left = (width - buttonWidth) / 2;
+    const Twips heading = wide ? 1080 : height / 2 - 5100;
+    const Twips top = wide ? 2580 : heading + 2100;
+    const Font font{Face::Display, wide ? style::kButton.size : 25.F, true};
+    imgBack.place(0, 0, width, height);
+    imgBack.drawing = wide ? style::kMenuDrawing : "";
+    placeViewOnPaper(paper);
+    lblWelcome.place(left, heading, buttonWidth, 1080);
+    for (int i = 0; i < kOptions; ++i) {
+        const Twips y = top + static_cast<Twips>(i) * pitch;
+        shpOption(i + kFirstButton).place(left, y, buttonWidth, buttonHeight);
+        lblOption(i + kFirstButton).place(left, y, buttonWidth, buttonHeight);
+        lblOption(i).font = font;
+        lblOption(i).place(left + 240, y + 180, buttonWidth - 480, buttonHeight - 360);
     }
 }
 

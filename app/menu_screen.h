@@ -24,6 +24,8 @@ class frmMenu : public ProgramScreen {
     Timer tmrTopics;  // once the menu is seen, for topics that the program was started with
 
   protected:
+    std::span<const Sheet> sheets() const override { return kLargeSheets; }
+    void arrange(const Sheet& paper) override;
     void onLoad() override;
     void onKeyDown(KeyEvent& event) override;
     TextPair ownKeys() const override { return texts::kKeysMenu; }

@@ -80,6 +80,12 @@ void ProgramScreen::layOutView(const Area& place, Color ink, Frame* on) {
     add(lblView, on).place(place.left, place.top, place.width, place.height);
 }
 
+void ProgramScreen::placeViewOnPaper(const Sheet& paper) {
+    const bool wide = paper.layout == Layout::Wide;
+    lblView.font.size = style::kBarText.size * (wide ? 1 : 1.3F);
+    lblView.place(240, 240, wide ? 1020 : 1380, wide ? 540 : 660);
+}
+
 void ProgramScreen::translateView() {
     mView.caption = program_.lang(texts::kView);
     lblView.caption = u"&" + mView.caption;

@@ -29,6 +29,8 @@ class ProgramScreen : public Screen {
 
     /// The button of the menu, in that ink; on a frame its place is relative to that.
     void layOutView(const Area& place, Color ink, Frame* on = nullptr);
+    /// In the corner of a screen without a bar.
+    void placeViewOnPaper(const Sheet& paper);
     /// In the interface's language as it is now.
     void translateView();
     /// The keys that only this screen has, one a line.

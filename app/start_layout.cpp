@@ -11,8 +11,6 @@ constexpr Twips kHeight = 4500;
 
 void frmStart::layOut() {
     title = texts::kProgramName;
-    width = kWidth;
-    height = kHeight;
 
     add(imgBack(0)).place(0, 0, kWidth, kHeight);
     layOutTitle();
@@ -26,6 +24,18 @@ void frmStart::layOut() {
     tmrBar.interval = 20;
     tmrBar.enabled = true;
     add(tmrBar);
+    fit(kWideSheet.width, kWideSheet.height);
+}
+
+// It stands in the middle of either sheet, with the same room for the name and the line.
+void frmStart::arrange(const Sheet& paper) {
+    width = kWidth;
+    height = kHeight;
+    const bool wide = paper.layout == Layout::Wide;
+    lblMarca.font.size = wide ? 9 : 11;
+    lblManual.font.size = wide ? 11 : 14;
+    lblAction.font.size = wide ? 12 : 15;
+    lblEsc.font.size = wide ? 12 : 15;
 }
 
 // The end of the name slides out from behind the title frame, which shows the

@@ -29,6 +29,8 @@ class frmStart : public ProgramScreen {
     Label lblEsc;
 
   protected:
+    std::span<const Sheet> sheets() const override { return kLargeSheets; }
+    void arrange(const Sheet& paper) override;
     void onLoad() override;
     void onKeyDown(KeyEvent& event) override;
     void onCloseRequest() override { program_.end(); }

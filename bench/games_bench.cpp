@@ -29,6 +29,7 @@ class SilentDesktop : public Desktop {
     void openAddress(TextView, TextView) override {}
     std::span<const std::byte> sound(int) override { return {}; }
     void playWave(std::span<const std::byte>) override {}
+    Preferences preferences() const override { return {}; }
     TimeOfDay timeOfDay() override { return {}; }
     double random() override { return random_.next(); }
     void seedRandom() override { random_.reseed(1); }

@@ -1,5 +1,5 @@
-// Where everything on the game screen stands, in twips, and what it looks like
-// at rest. Later controls stand in front of earlier ones.
+// What everything on the game screen looks like at rest, and the figure and the board inside
+// their frames. Later controls stand in front of earlier ones.
 #include "game/game_screen.h"
 #include "toolkit/style.h"
 
@@ -11,19 +11,7 @@ constexpr Color kInk = rgb(40, 40, 40);
 constexpr Color kPale = rgb(250, 250, 250);
 constexpr Color kEdge = rgb(200, 204, 208);
 
-constexpr Twips kBarHeight = 720;
-constexpr Twips kLeftColumn = 300;
-constexpr Twips kLeftWidth = 3000;
-constexpr Twips kRightColumn = 3540;
-constexpr Twips kRightWidth = 9360;
-constexpr Twips kFooter = 7665;
-
-constexpr Twips kKeyPitch = 945;
-constexpr Twips kKeyWidth = 855;
-constexpr Twips kKeyRow = 720;
-constexpr Twips kKeyHeight = 640;
 constexpr Twips kKeyRadius = 120;
-constexpr int kKeysInRow = 10;
 
 Label& describe(Label& label, const char* id, const Font& font, Color ink, Align align) {
     label.id = id;
@@ -36,9 +24,7 @@ Label& describe(Label& label, const char* id, const Font& font, Color ink, Align
 }  // namespace
 
 void frmGame::layOut() {
-    width = style::kScreenWidth;
-    height = style::kScreenHeight;
-    add(imgBack(0)).place(0, 0, width, height);
+    add(imgBack(0));
     add(announcer.lblSpoken);
     layOutBar();
     layOutFigure();
@@ -46,41 +32,38 @@ void frmGame::layOut() {
     layOutControls();
     layOutBoard();
     layOutKeyboard();
+    fit(kWideSheet.width, kWideSheet.height);
 }
 
 void frmGame::layOutBar() {
     lblBluebar.id = "lblBluebar";
     lblBluebar.opaque = true;
-    add(lblBluebar).place(0, 0, width, kBarHeight);
+    add(lblBluebar);
     const Font big{Face::Display, 17, true};
-    add(describe(lblMenu, "lblMenu", style::kBarText, kPale, Align::Center))
-        .place(240, 90, 1020, 540);
+    add(describe(lblMenu, "lblMenu", style::kBarText, kPale, Align::Center));
     lblMenu.role = LabelRole::Button;
     lblMenu.cornerRadius = style::kButtonRadius;
     layOutView({1320, 90, 780, 540}, kPale);
-    add(describe(lblMode, "lblMode", style::kBarText, kPale, Align::Left))
-        .place(2220, 90, 2400, 540);
-    add(describe(status.lblStatus, "lblStatus", big, kPale, Align::Center))
-        .place(4680, 90, 3840, 540);
-    add(describe(score.lblScore, "lblScore", big, kPale, Align::Right)).place(8640, 90, 3540, 540);
+    add(describe(lblMode, "lblMode", style::kBarText, kPale, Align::Left));
+    add(describe(status.lblStatus, "lblStatus", big, kPale, Align::Center));
+    add(describe(score.lblScore, "lblScore", big, kPale, Align::Right));
     for (Label* label : {&lblMenu, &lblView, &lblMode, &status.lblStatus, &score.lblScore})
         label->opaque = true;
     sounds.shpWave.id = "shpWave";
-    add(sounds.shpWave).place(12300, 90, 600, 540);
+    add(sounds.shpWave);
     Label& wave = describe(sounds.lblWave(0), "lblWave(0)", style::kSymbol, kPale, Align::Center);
     wave.role = LabelRole::CheckBox;
-    add(wave).place(12300, 90, 600, 540);
-    add(describe(lblHey, "lblHey", style::kText, rgb(90, 90, 90), Align::Center))
-        .place(2100, kFooter, width - 4200, 360);
+    add(wave);
+    add(describe(lblHey, "lblHey", style::kText, style::kFaint, Align::Center));
 }
 
 void frmGame::layOutFigure() {
     constexpr Twips kStroke = 75;
     constexpr Twips kWood = 120;
     figure.frmeMan.id = "frmeMan";
-    add(figure.frmeMan).place(kLeftColumn, 900, kLeftWidth, 4140);
+    add(figure.frmeMan);
     Frame* man = &figure.frmeMan;
-    add(imgBack(1), man).place(0, 0, width, height);
+    add(imgBack(1), man);
 
     const auto line = [&](Line& control, const char* id, Color color, Twips thickness) -> Line& {
         control.id = id;
@@ -124,47 +107,37 @@ void frmGame::layOutFigure() {
 }
 
 void frmGame::layOutStrikes() {
-    constexpr Twips kBox = 480;
-    constexpr Twips kLeft = kLeftColumn + 60;
-    constexpr Twips kTop = 5220;
-    constexpr Twips kHeight = 540;
     strikes.shpStrikes.id = "shpStrikes";
     strikes.shpStrikes.backColor = rgb(255, 255, 255);
     strikes.shpStrikes.borderColor = kEdge;
     strikes.shpStrikes.borderWidth = 15;
     strikes.shpStrikes.radius = 60;
-    add(strikes.shpStrikes).place(kLeft, kTop, kBox * kMostMistakes, kHeight);
-    for (int i = 0; i <= kMostMistakes; ++i) {
-        const Twips x = kLeft + kBox * static_cast<Twips>(i);
-        Line& edge = strikes.lnStrike(i);
+    add(strikes.shpStrikes);
+    for (Line& edge : strikes.lnStrike) {
         edge.thickness = 45;
-        edge.span(x, kTop, x, kTop + kHeight);
         add(edge);
     }
-    for (int i = 0; i < kMostMistakes; ++i) {
-        Label& box = strikes.lblStrike(i);
+    for (Label& box : strikes.lblStrike) {
         box.font = {Face::Display, 18, true};
         box.textColor = rgb(200, 20, 20);
         box.literal = true;
-        add(box).place(kLeft + kBox * static_cast<Twips>(i) + 30, kTop, kBox - 60, kHeight);
+        add(box);
     }
 }
 
-// The buttons in the left column, the points under the score, and the clock.
+// The buttons, the points, and the clock.
 void frmGame::layOutControls() {
-    constexpr Twips kButtonLeft = kLeftColumn + 60;
-    constexpr Twips kButtonWidth = kLeftWidth - 120;
     playButton.shpPlay.id = "shpPlay";
     playButton.shpPlay.radius = style::kButtonRadius;
-    add(playButton.shpPlay).place(kButtonLeft, 5940, kButtonWidth, 840);
+    add(playButton.shpPlay);
     Label& play = describe(playButton.lblPlay(0), "lblPlay(0)", {Face::Display, 15, true}, kPale,
                            Align::Center);
     play.role = LabelRole::Button;
     play.cornerRadius = style::kButtonRadius;
-    add(play).place(kButtonLeft, 5940, kButtonWidth, 840);
+    add(play);
 
     webSearch.shpFinder.radius = style::kButtonRadius;
-    add(webSearch.shpFinder).place(kButtonLeft, 6960, kButtonWidth, 600);
+    add(webSearch.shpFinder);
     for (Label& label : webSearch.lblFinder) {
         label.textColor = kPale;
         label.role = LabelRole::Button;
@@ -174,29 +147,27 @@ void frmGame::layOutControls() {
     webSearch.lblFinder(1).font = {Face::Webdings, 15, false};
     webSearch.lblFinder(1).caption = symbols::kMagnifier;
     webSearch.lblFinder(1).tabStop = false;
-    add(webSearch.lblFinder(1)).place(kButtonLeft + 120, 6960, 540, 600);
-    add(webSearch.lblFinder(0)).place(kButtonLeft + 660, 6960, kButtonWidth - 780, 600);
+    add(webSearch.lblFinder(1));
+    add(webSearch.lblFinder(0));
     webSearch.offer(false);
 
     accent.lblColor.visible = false;
-    add(describe(accent.lblColor, "lblColor", {Face::Plain, 8, false}, rgb(120, 120, 120),
-                 Align::Right))
-        .place(11160, kFooter + 60, 1740, 240);
+    add(describe(accent.lblColor, "lblColor", {Face::Plain, 9, false}, rgb(110, 110, 110),
+                 Align::Right));
 
-    add(describe(clock.lblTime, "lblTime", {Face::Display, 24, true}, kInk, Align::Right))
-        .place(11100, 960, 1800, 600);
+    add(describe(clock.lblTime, "lblTime", {Face::Display, 24, true}, kInk, Align::Right));
     clock.lblTime.visible = false;
 
     // Both labels rise by the same numbers; the bonus does so one line lower.
     score.frmePoints.id = "frmePoints";
-    add(score.frmePoints).place(8100, kBarHeight, 4800, 1260);
+    add(score.frmePoints);
     add(describe(score.lblPoints, "lblPoints", {Face::Display, 24, true}, kInk, Align::Right),
         &score.frmePoints)
-        .place(0, 660, 4800, 540);
+        .place(0, 660, 0, 540);
     score.frmeBonus.id = "frmeBonus";
-    add(score.frmeBonus).place(8100, kBarHeight + 510, 4800, 1080);
+    add(score.frmeBonus);
     add(describe(score.lblBonus, "lblBonus", style::kText, kInk, Align::Right), &score.frmeBonus)
-        .place(0, 660, 4800, 360);
+        .place(0, 660, 0, 360);
     score.lblBonus.visible = score.lblPoints.visible = false;
 }
 
@@ -205,15 +176,13 @@ void frmGame::layOutBoard() {
     constexpr Twips kAcross = 600;
     constexpr Twips kDown = 720;
     board.lblTopic.literal = true;
-    add(describe(board.lblTopic, "lblTopic", {Face::Display, 20, true}, kInk, Align::Center))
-        .place(4560, 960, 6960, 600);
+    add(describe(board.lblTopic, "lblTopic", {Face::Display, 20, true}, kInk, Align::Center));
     board.shpLimit.id = "shpLimit";
     board.shpLimit.visible = false;
-    // A little to the right, as the board keeps a little to the left in it.
-    add(board.shpLimit).place(kRightColumn + 420, 2040, kRightWidth - 360, 2640);
+    add(board.shpLimit);
     board.frmeMagic.id = "frmeMagic";
-    add(board.frmeMagic).place(kRightColumn, 2040, 0, 0);
-    add(imgBack(2), &board.frmeMagic).place(0, 0, width, height);
+    add(board.frmeMagic);
+    add(imgBack(2), &board.frmeMagic);
     add(board.lnLetter, &board.frmeMagic);
     add(board.lblLetter, &board.frmeMagic);
     for (int i = 1; i <= kBoardCells; ++i) {
@@ -237,40 +206,33 @@ void frmGame::layOutBoard() {
 }
 
 void frmGame::layOutKeyboard() {
-    constexpr int kDigits = 28;
-    constexpr Twips kDigitPitch = (kRightWidth + 90) / 11;
     Frame& letters = keyboard.frmeBoard;
     letters.id = "frmeBoard";
     letters.visible = false;
-    add(letters).place(kRightColumn, 4800, kRightWidth, 4 * kKeyRow);
+    add(letters);
     Frame& digits = keyboard.frmeNumbers;
     digits.id = "frmeNumbers";
     digits.visible = false;
-    add(digits, &letters).place(0, 3 * kKeyRow, kRightWidth, kKeyHeight);
+    add(digits, &letters);
 
-    const auto put = [&](int key, Frame& frame, Twips left, Twips top, Twips keyWidth) {
+    const auto put = [&](int key, Frame& frame) {
         Shape& face = keyboard.shpKey(key);
         face.borderColor = kEdge;
         face.borderWidth = 15;
         face.radius = kKeyRadius;
-        add(face, &frame).place(left, top, keyWidth, kKeyHeight);
+        add(face, &frame);
         Label& label = keyboard.lblKey(key);
-        label.font = {Face::Display, 19, true};
         label.role = LabelRole::Button;
         label.cornerRadius = kKeyRadius;
-        add(label, &frame).place(left, top, keyWidth, kKeyHeight);
+        add(label, &frame);
     };
-    for (int key = 1; key < kDigits; ++key)
-        put(key, letters, kKeyPitch * static_cast<Twips>((key - 1) % kKeysInRow),
-            kKeyRow * static_cast<Twips>((key - 1) / kKeysInRow), kKeyWidth);
-    put(Keyboard::kNumbersKey, letters, 7 * kKeyPitch, 2 * kKeyRow, kKeyWidth);
-    put(Keyboard::kWriteKey, letters, 8 * kKeyPitch, 2 * kKeyRow, kKeyPitch + kKeyWidth);
-    for (int key = kDigits; key <= Keyboard::kLastGuessKey; ++key)
-        put(key, digits, kDigitPitch * static_cast<Twips>(key - kDigits), 0, kDigitPitch - 90);
-    put(Keyboard::kHideNumbersKey, digits, 10 * kDigitPitch, 0, kDigitPitch - 90);
-    keyboard.lblKey(Keyboard::kNumbersKey).font = style::kSmallButton;
-    keyboard.lblKey(Keyboard::kWriteKey).font = style::kSmallButton;
-    keyboard.lblKey(Keyboard::kHideNumbersKey).font = style::kSmallButton;
+    for (int key = 1; key < Keyboard::kFirstDigit; ++key)
+        put(key, letters);
+    put(Keyboard::kNumbersKey, letters);
+    put(Keyboard::kWriteKey, letters);
+    for (int key = Keyboard::kFirstDigit; key <= Keyboard::kLastGuessKey; ++key)
+        put(key, digits);
+    put(Keyboard::kHideNumbersKey, digits);
 }
 
 }  // namespace quillor

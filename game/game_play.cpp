@@ -222,8 +222,10 @@ void frmGame::showState() {
 
 // Between two games something is drawn where the board and the keys will be.
 void frmGame::showIdlePage(bool idle) {
+    idlePage_ = idle;
+    const bool wide = sheet().layout == Layout::Wide;
     for (Picture& picture : imgBack)
-        picture.drawing = idle ? style::kIdleDrawing : "";
+        picture.drawing = !idle ? "" : wide ? style::kIdleDrawing : style::kTallIdleDrawing;
 }
 
 }  // namespace quillor

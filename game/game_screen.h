@@ -53,6 +53,8 @@ class frmGame : public ProgramScreen {
     void ePutSomeLucky();
 
   protected:
+    std::span<const Sheet> sheets() const override;
+    void arrange(const Sheet& paper) override;  // game_places.cpp
     void onLoad() override;
     void onUnload() override;
     void onKeyDown(KeyEvent& event) override;
@@ -71,6 +73,9 @@ class frmGame : public ProgramScreen {
     void layOutKeyboard();
     void layOutControls();
     void layOutStrikes();
+    void arrangeWide();  // game_places.cpp, as are the next two
+    void arrangeTall();
+    void setFonts(float larger);
 
     void addTimers();
     void connect();
@@ -114,6 +119,7 @@ class frmGame : public ProgramScreen {
 
     void say(const TextPair& text);
 
+    bool idlePage_ = false;    // nothing is played, and something is drawn in its place
     bool topicDealt_ = false;  // Repeat and Tour have a topic to start from
     Played typed_;             // what was typed since progress was noted
 };

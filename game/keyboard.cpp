@@ -14,7 +14,6 @@ bool isVowelKey(int key) {
 bool isCommandKey(int key) {
     return key >= Keyboard::kNumbersKey;
 }
-constexpr int kKeyOfOne = 28;
 
 }  // namespace
 
@@ -41,6 +40,40 @@ Keyboard::Keyboard(Program& program, Told told) : program_(program), told_(std::
         told_.mouseCame();
         leaveKeys();
     };
+}
+
+void Keyboard::arrange(Twips left, Twips top, Twips width, const Grid& grid) {
+    constexpr int kLetters = kFirstDigit - 1;
+    constexpr int kDigitKeys = kLastGuessKey - kLetters + 1;  // and the one that hides them
+    const auto keyWidth = [&](int columns) {
+        return (width + grid.gap) / static_cast<Twips>(columns) - grid.gap;
+    };
+    const auto put = [&](int key, int columns, int place, int span, float fontSize) {
+        const Twips pitch = keyWidth(columns) + grid.gap;
+        const Area area{pitch * static_cast<Twips>(place % columns),
+                        (grid.height + grid.gap) * static_cast<Twips>(place / columns),
+                        pitch * static_cast<Twips>(span) - grid.gap, grid.height};
+        shpKey(key).place(area.left, area.top, area.width, area.height);
+        lblKey(key).place(area.left, area.top, area.width, area.height);
+        lblKey(key).font = {Face::Display, fontSize, true};
+    };
+    for (int key = 1; key <= kLetters; ++key)
+        put(key, grid.columns, key - 1, 1, grid.fontSize);
+    put(kNumbersKey, grid.columns, kLetters, 1, grid.commandFontSize);
+    const int rows = kLetters / grid.columns + 1;
+    const int rest = rows * grid.columns - kLetters - 1;  // for the longest word
+    put(kWriteKey, grid.columns, kLetters + 1, rest, grid.commandFontSize);
+
+    const int digitColumns = grid.columns >= 10 ? kDigitKeys : (kDigitKeys + 1) / 2;
+    for (int key = kFirstDigit; key <= kLastGuessKey; ++key)
+        put(key, digitColumns, key - kFirstDigit, 1, grid.fontSize);
+    put(kHideNumbersKey, digitColumns, kDigitKeys - 1, 1, grid.commandFontSize);
+    const int digitRows = (kDigitKeys + digitColumns - 1) / digitColumns;
+    const auto heightOf = [&](int count) {
+        return (grid.height + grid.gap) * static_cast<Twips>(count) - grid.gap;
+    };
+    frmeBoard.place(left, top, width, heightOf(rows + digitRows));
+    frmeNumbers.place(0, heightOf(rows) + grid.gap, width, heightOf(digitRows));
 }
 
 void Keyboard::eTranslate() {
@@ -76,7 +109,7 @@ void Keyboard::eLoadKeysColors() {
     for (int key = 0; key <= kWriteKey; ++key) {
         KeyColors& colors = colors_.at(static_cast<std::size_t>(key));
         colors = {settings.glWhite, settings.glTheme};
-        if (key == kKeyOfOne || isVowelKey(key) || isCommandKey(key)) {
+        if (key == kFirstDigit || isVowelKey(key) || isCommandKey(key)) {
             colors.face = rgb(30, 30, 30) + settings.glGrey;
             colors.accent = isCommandKey(key) ? settings.glTheme : settings.glRed;
         }

@@ -12,7 +12,8 @@ namespace quillor {
 
 class Keyboard {
   public:
-    static constexpr int kLastGuessKey = 37;  // 1..27 letters, 28..37 digits
+    static constexpr int kFirstDigit = 28;    // 1..27 are letters
+    static constexpr int kLastGuessKey = 37;  // a digit
     static constexpr int kNumbersKey = 38;    // shows the digits
     static constexpr int kHideNumbersKey = 39;
     static constexpr int kWriteKey = 40;
@@ -29,6 +30,18 @@ class Keyboard {
     Frame frmeNumbers;
     ControlArray<Shape, 1, kWriteKey> shpKey{"shpKey"};
     ControlArray<Label, 1, kWriteKey> lblKey{"lblKey"};
+
+    /// The keys' places in their frame, and its height, in twips: so many columns, each key
+    /// so high with a gap between all of them. The last letters share their row with the
+    /// commands; the digits stand below, in as many rows as they need.
+    struct Grid {
+        int columns = 10;
+        Twips height = 0;  // of a key
+        Twips gap = 0;
+        float fontSize = 19;         // points
+        float commandFontSize = 14;  // the same
+    };
+    void arrange(Twips left, Twips top, Twips width, const Grid& grid);
 
     void eTranslate();
     /// Fills the table of the keys' colours from the palette, and paints them.

@@ -69,6 +69,14 @@ void PhraseBoard::ePutAllCenter() {
     alignPaper(paper_, frmeMagic);
 }
 
+void PhraseBoard::arrange(const Area& area) {
+    shpLimit.place(area.left, area.top, area.width, area.height);
+    frmeMagic.left = area.left;
+    frmeMagic.top = area.top;
+    if (frmeMagic.width > 0)
+        ePutAllCenter();
+}
+
 void PhraseBoard::clear(const GameSettings& settings) {
     for (int cell = 1; cell <= kBoardCells; ++cell) {
         lblLetter(cell).caption.clear();

@@ -30,6 +30,8 @@ class PhraseBoard {
     /// What has been found so far, and the counter while the game goes on.
     void show(const GameSettings& settings, const Round& round);
     void ePutAllCenter();
+    /// The area available for the board, in twips; the board moves into it.
+    void arrange(const Area& area);
     /// Hides every cell and underline.
     void clear(const GameSettings& settings);
 

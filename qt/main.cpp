@@ -117,6 +117,7 @@ class Session {
     int run(const QStringList& topics) {
         for (const QString& topic : topics)
             program_.topicsToTake.push_back(std::filesystem::absolute(toPath(fromQt(topic))));
+        shell_.memory.emplace(program_.folder / "Quillor-Window.ini");
         shell_.event([&] { program_.show(ScreenId::Start); });
         return shell_.hasEnded() ? 0 : QApplication::exec();
     }

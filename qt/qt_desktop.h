@@ -36,6 +36,7 @@ class QtDesktop : public Desktop {
     void openAddress(TextView page, TextView sought) override;
     std::span<const std::byte> sound(int id) override;
     void playWave(std::span<const std::byte> image) override;
+    Preferences preferences() const override { return shell_.preferences; }
     TimeOfDay timeOfDay() override;
     double random() override;
     void seedRandom() override;

@@ -47,6 +47,12 @@ struct Area {
     bool operator==(const Area&) const = default;
 };
 
+/// A short movement of a control that ends where the control stands.
+enum class Motion {
+    Appear,  // it comes into its place
+    Shake,   // to and fro
+};
+
 /// What every control has. Lengths are twips, relative to the parent.
 struct Control {
     std::string id;           // its name in the code, e.g. "lblKey(5)"; unique on its screen
@@ -59,7 +65,13 @@ struct Control {
     bool enabled = true;
     Text toolTip;
     Text spokenName;  // accessible name where the caption is a symbol or there is none
+    Motion motion = Motion::Appear;
+    int motions = 0;  // made so far; a shell shows each new one, unless motion is not wanted
 
+    void move(Motion way) {
+        motion = way;
+        ++motions;
+    }
     void place(Twips x, Twips y, Twips w, Twips h) {
         left = x;
         top = y;
@@ -153,6 +165,7 @@ using ImageRef = std::shared_ptr<const Image>;
 struct Picture : Control {
     ImageRef image;
     std::string drawing;  // a file name in resources/pictures without its ending; may be empty
+    Area drawn;           // where it lies on the picture; of no size: all over
     std::function<void()> onRightClick;
     std::function<void()> onMouseMove;
 };

@@ -9,6 +9,7 @@
 #include "core/disk.h"
 #include "core/types.h"
 #include "toolkit/controls.h"
+#include "toolkit/preferences.h"
 #include "toolkit/screen.h"
 
 namespace quillor {
@@ -57,6 +58,9 @@ class Desktop {
     virtual std::span<const std::byte> sound(int id) = 0;
     /// Plays a WAVE image to its end; returns at once where it cannot be played.
     virtual void playWave(std::span<const std::byte> image) = 0;
+
+    /// As they are now; the player may change them at any time.
+    virtual Preferences preferences() const = 0;
 
     virtual TimeOfDay timeOfDay() = 0;
     /// Uniform in [0, 1), from the one generator.

@@ -32,6 +32,17 @@ std::function<void()> rightClickHandler(const ControlRef& ref) {
 
 }  // namespace
 
+void Screen::fit(double roomWidth, double roomHeight) {
+    const std::span<const Sheet> possible = sheets();
+    if (possible.empty() || roomWidth <= 0 || roomHeight <= 0)
+        return;
+    const Sheet fitting = sheetFor(possible, roomWidth, roomHeight);
+    if (fitting == sheet_)
+        return;
+    sheet_ = fitting;
+    quietly(name + "_Arrange", [&] { arrange(sheet_); });
+}
+
 void Screen::load() {
     quietly(name + "_Load", [&] { onLoad(); });
 }

@@ -9,6 +9,7 @@
 
 #include "toolkit/control_array.h"
 #include "toolkit/controls.h"
+#include "toolkit/sheets.h"
 
 namespace quillor {
 
@@ -25,6 +26,14 @@ class Screen {
     Twips height = 0;
     bool enabled = true;           // false while a screen stands over it
     const Screen* over = nullptr;  // the screen that this one stands over, if any
+
+    /// What fills the window: the screen, or a page that it stands in the middle of. Of no
+    /// size where a screen has one layout only.
+    const Sheet& sheet() const { return sheet_; }
+    /// Stands the controls, and gives the screen its size, as it suits a room of that width
+    /// and height, in any unit. For the shell, before the screen is first shown and whenever
+    /// the room changes.
+    void fit(double roomWidth, double roomHeight);
 
     /// From back to front; a control stands in front of its frame.
     const std::vector<ControlRef>& controls() const { return controls_; }
@@ -86,6 +95,12 @@ class Screen {
     void listKeyDown(ListBox& list, KeyEvent& event);
 
   protected:
+    /// The layouts that it has, which live as long as the screen; none: just one.
+    virtual std::span<const Sheet> sheets() const { return {}; }
+    /// Puts everything in its place on that sheet: called again for each other one, also
+    /// while a game goes on.
+    virtual void arrange(const Sheet&) {}
+
     virtual void onLoad() = 0;
     virtual void onUnload() {}
     virtual void onKeyDown(KeyEvent&) {}
@@ -117,6 +132,7 @@ class Screen {
     std::vector<ControlRef> controls_;
     std::vector<Timer*> timers_;
     Control* focusRequest_ = nullptr;
+    Sheet sheet_;
 };
 
 }  // namespace quillor

@@ -54,7 +54,9 @@ struct LookMaker {
     ShownLook operator()(const Line* l) const {
         return ShownLine{l->x1, l->y1, l->x2, l->y2, l->color, l->thickness, l->roundEnds};
     }
-    ShownLook operator()(const Picture* p) const { return ShownPicture{p->image, p->drawing}; }
+    ShownLook operator()(const Picture* p) const {
+        return ShownPicture{p->image, p->drawing, p->drawn};
+    }
     ShownLook operator()(const Frame* f) const { return ShownFrame{f->backColor, f->opaque}; }
     ShownLook operator()(const TextField* f) const {
         ShownField look{f->font, f->textColor, f->backColor, {}, 0, 0};

@@ -50,6 +50,7 @@ struct ShownLine {
 struct ShownPicture {
     ImageRef image;
     std::string drawing;
+    Area drawn;
 
     bool operator==(const ShownPicture&) const = default;
 };

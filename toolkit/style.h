@@ -3,18 +3,11 @@
 
 #include "core/types.h"
 #include "toolkit/controls.h"
+#include "toolkit/sheets.h"
 
 namespace quillor::style {
 
-/// The four large screens have one size, so that the window stays as it is
-/// when one follows the other.
-inline constexpr Twips kScreenWidth = 13200;
-inline constexpr Twips kScreenHeight = 8100;
-
 inline constexpr Twips kButtonRadius = 150;
-
-/// The further menu's button on screens that have no bar.
-inline constexpr Area kViewPlace{240, 240, 1020, 540};
 
 // Colours that no player's file changes; the palette of GameSettings has the others.
 inline constexpr Color kInk = rgb(40, 40, 40);
@@ -35,6 +28,7 @@ inline constexpr Color kAlarm = rgb(225, 35, 35);
 /// What is drawn on the notebook page of a screen; see Picture.
 inline constexpr const char* kMenuDrawing = "menu";
 inline constexpr const char* kIdleDrawing = "idle";
+inline constexpr const char* kTallIdleDrawing = "idle-tall";
 inline constexpr const char* kSettingsDrawing = "settings";
 
 inline constexpr Font kButton{Face::Display, 17, true};

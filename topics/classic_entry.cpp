@@ -108,27 +108,41 @@ void frmWord1::lblOk_Click() {
     program_.accept(*this);
 }
 
-// Where everything stands, in twips.
 void frmWord1::layOut() {
     constexpr int kPhraseLength = 35;
     constexpr int kTopicLength = 22;
-    layOutPanel(5040);
-
-    const auto field = [&](TextField& text, const char* id, Label& label, Twips top, int length) {
-        label.font = style::kBarText;
+    layOutPanel();
+    const auto field = [&](TextField& text, const char* id, Label& label, int length) {
         label.textColor = kPale;
         label.align = Align::Left;
-        add(label).place(kEdge, top, kInner, 360);
+        add(label);
         text.id = id;
-        text.font = style::kField;
         text.maxLength = length;
-        add(text).place(kEdge, top + 420, kInner, 600);
+        add(text);
     };
-    field(txtWord, "txtWord", lblSelect(1), 480, kPhraseLength);
-    field(txtTheme, "txtTheme", lblSelect(0), 1740, kTopicLength);
-
-    layOutAccept(3300);
+    field(txtWord, "txtWord", lblSelect(1), kPhraseLength);
+    field(txtTheme, "txtTheme", lblSelect(0), kTopicLength);
+    layOutAccept();
     layOutView();
+    fit(kSheets[0].width, kSheets[0].height);
+}
+
+// Where everything stands, in twips.
+void frmWord1::arrange(const Sheet& paper) {
+    arrangePanel(paper);
+    const float larger = largerOn(paper);
+    const auto field = [&](TextField& text, Label& label, Twips top) {
+        label.font = style::kBarText;
+        label.font.size *= larger;
+        label.place(kEdge, top, kInner, 360 * larger);
+        text.font = style::kField;
+        text.font.size *= larger;
+        text.place(kEdge, top + 420 * larger, kInner, 600 * larger);
+    };
+    const bool wide = paper.layout == Layout::Wide;
+    field(txtWord, lblSelect(1), wide ? 480 : 720);
+    field(txtTheme, lblSelect(0), wide ? 1740 : 3000);
+    arrangeAccept();
 }
 
 }  // namespace quillor

@@ -16,10 +16,15 @@ class frmWord1 : public EntryScreen {
     Control* initialFocus() override { return &txtWord; }
 
   protected:
+    std::span<const Sheet> sheets() const override { return kSheets; }
+    void arrange(const Sheet& paper) override;
     void onLoad() override;
     TextPair ownKeys() const override { return texts::kKeysPhrase; }
 
   private:
+    static constexpr std::array kSheets{Sheet{Layout::Wide, kWidth, 5040},
+                                        Sheet{Layout::Tall, kWidth, 7260}};
+
     void layOut();
     void connect();
     void eTranslate();

@@ -27,9 +27,14 @@ class EntryScreen : public ProgramScreen {
     static constexpr Twips kInner = kWidth - 2 * kEdge;
     static constexpr Color kPale = rgb(250, 250, 250);
 
-    void layOutPanel(Twips screenHeight);
-    void layOutAccept(Twips top);
+    void layOutPanel();
+    void layOutAccept();
     void layOutView();
+    void arrangePanel(const Sheet& paper);
+    /// Along the panel's lower edge, with the further menu below.
+    void arrangeAccept();
+    /// How much larger what is read and pressed is than on a wide sheet.
+    static float largerOn(const Sheet& paper) { return paper.layout == Layout::Wide ? 1 : 1.3F; }
     /// Either part of the button runs the handler and shows the press.
     void connectAccept(const std::function<void()>& handler);
     void enableAccept(bool now) { lblOk(0).enabled = lblOk(1).enabled = shpOk.enabled = now; }

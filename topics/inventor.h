@@ -39,6 +39,8 @@ class frmInventor : public ProgramScreen {
     void takePaper(const ImageRef& paper) override { imgBack.image = paper; }
 
   protected:
+    std::span<const Sheet> sheets() const override { return kLargeSheets; }
+    void arrange(const Sheet& paper) override;  // inventor_layout.cpp
     void onLoad() override;
     void onUnload() override;
     TextPair ownKeys() const override { return texts::kKeysInventor; }
@@ -47,10 +49,12 @@ class frmInventor : public ProgramScreen {
     void onCloseRequest() override { program_.close(*this); }
 
   private:
-    void layOut();  // inventor_layout.cpp, as are the next three
-    void layOutHead();
-    void layOutNames();
-    void layOutPhrases();
+    void layOut();  // inventor_layout.cpp, as are the next six
+    void setFonts(float larger);
+    void arrangeHead(Twips left, Twips inner, const Area& back);  // its button's top and size
+    void arrangeField(Label& words, TextField& field, const Area& area);
+    void arrangePhrases(const Area& area, Twips button);
+    void arrangeSave(const Area& area);
     void connect();
     void connectFields();
     void connectButtons();

@@ -7,10 +7,6 @@ namespace quillor {
 namespace {
 
 constexpr int kPhraseLength = 35;
-constexpr Twips kLeft = 1260;
-constexpr Twips kFieldWidth = 5160;
-constexpr Twips kRight = kLeft + kFieldWidth + 360;
-constexpr Twips kInner = 2 * kFieldWidth + 360;
 constexpr Color kInk = rgb(40, 40, 40);
 
 Shape& styled(Shape& shape, const char* id) {
@@ -44,65 +40,137 @@ TextField& styled(TextField& field, const char* id, int length) {
 }  // namespace
 
 void frmInventor::layOut() {
-    width = style::kScreenWidth;
-    height = style::kScreenHeight;
     imgBack.id = "imgBack";
-    add(imgBack).place(0, 0, width, height);
-    layOutView({120, 360, 1020, 540}, kInk);
-    layOutHead();
-    layOutNames();
-    layOutPhrases();
+    add(imgBack);
+    layOutView({}, kInk);
+    add(styled(shpHead, "shpHead"));
+    add(styled(lblLabel(0), {Face::Display, 26, true}, Align::Center));
+    add(styled(shpBack, "shpBack"));
+    add(asButton(lblBack, "lblBack", style::kSmallButton));
+    add(styled(shpOpen, "shpOpen"));
+    add(asButton(lblOpen, "lblOpen", style::kSmallButton));
+    add(styled(shpHelp, "shpHelp"));
+    add(asButton(lblHelp, "lblHelp", {Face::Webdings, 18, false}, symbols::kQuestion));
 
-    add(styled(shpSave, "shpSave")).place(kLeft, 6780, kInner, 900);
-    lblSave(0).role = lblSave(1).role = LabelRole::Button;
-    lblSave(0).tabStop = false;
-    add(lblSave(0)).place(kLeft, 6780, kInner, 900);
-    lblSave(1).font = style::kButton;
-    add(lblSave(1)).place(kLeft + 240, 6870, kInner - 480, 720);
-}
-
-void frmInventor::layOutHead() {
-    add(styled(shpHead, "shpHead")).place(kLeft, 360, kInner, 960);
-    add(styled(lblLabel(0), {Face::Display, 26, true}, Align::Center))
-        .place(kLeft + 2400, 360, kInner - 4800, 960);
-    add(styled(shpBack, "shpBack")).place(kLeft + 180, 510, 1920, 660);
-    add(asButton(lblBack, "lblBack", style::kSmallButton)).place(kLeft + 180, 510, 1920, 660);
-    constexpr Twips kOpen = kLeft + kInner - 2340;
-    add(styled(shpOpen, "shpOpen")).place(kOpen, 510, 1380, 660);
-    add(asButton(lblOpen, "lblOpen", style::kSmallButton)).place(kOpen, 510, 1380, 660);
-    add(styled(shpHelp, "shpHelp")).place(kLeft + kInner - 840, 510, 660, 660);
-    add(asButton(lblHelp, "lblHelp", {Face::Webdings, 18, false}, symbols::kQuestion))
-        .place(kLeft + kInner - 840, 510, 660, 660);
-}
-
-void frmInventor::layOutNames() {
-    add(styled(lblLabel(1), style::kText, Align::Left)).place(kLeft, 1500, kFieldWidth, 360);
-    add(styled(txtTheme, "txtTheme", kNameLength)).place(kLeft, 1890, kFieldWidth, 600);
-    add(styled(lblLabel(2), style::kText, Align::Left)).place(kRight, 1500, kFieldWidth, 360);
-    add(styled(txtFile, "txtFile", kNameLength)).place(kRight, 1890, kFieldWidth, 600);
+    add(styled(lblLabel(1), style::kText, Align::Left));
+    add(styled(txtTheme, "txtTheme", kNameLength));
+    add(styled(lblLabel(2), style::kText, Align::Left));
+    add(styled(txtFile, "txtFile", kNameLength));
     txtFile.backColor = rgb(224, 224, 224);
-}
 
-void frmInventor::layOutPhrases() {
     constexpr Font kSign{Face::Wingdings, 18, false};
-    constexpr Twips kAdd = kLeft + kInner - 1440;
-    constexpr Twips kDelete = kLeft + kInner - 660;
-    add(styled(lblLabel(3), style::kText, Align::Left)).place(kLeft, 2700, kInner - 1560, 360);
+    add(styled(lblLabel(3), style::kText, Align::Left));
     lblCont.id = "lblCont";
-    add(styled(lblCont, {Face::Display, 14, true}, Align::Right)).place(kAdd, 2640, 1440, 420);
-    add(styled(txtWord, "txtWord", kPhraseLength)).place(kLeft, 3090, kInner - 1560, 660);
-    add(styled(shpAdd, "shpAdd")).place(kAdd, 3090, 660, 660);
-    add(asButton(lblOk, "lblOk", kSign, symbols::kPlus)).place(kAdd, 3090, 660, 660);
-    add(styled(shpDel, "shpDel")).place(kDelete, 3090, 660, 660);
-    add(asButton(lblDel, "lblDel", kSign, symbols::kDelete)).place(kDelete, 3090, 660, 660);
-
+    add(styled(lblCont, {Face::Display, 14, true}, Align::Right));
+    add(styled(txtWord, "txtWord", kPhraseLength));
+    add(styled(shpAdd, "shpAdd"));
+    add(asButton(lblOk, "lblOk", kSign, symbols::kPlus));
+    add(styled(shpDel, "shpDel"));
+    add(asButton(lblDel, "lblDel", kSign, symbols::kDelete));
     lstTopics.id = "lstTopics";
-    lstTopics.font = style::kField;
-    add(lstTopics).place(kLeft, 3930, kInner, 2220);
+    add(lstTopics);
     lblHint.id = "lblHint";
     lblHint.literal = true;
-    add(styled(lblHint, style::kText, Align::Left)).place(kLeft, 6270, kInner, 360);
+    add(styled(lblHint, style::kText, Align::Left));
     lblHint.textColor = style::kFaint;
+
+    add(styled(shpSave, "shpSave"));
+    lblSave(0).role = lblSave(1).role = LabelRole::Button;
+    lblSave(0).tabStop = false;
+    add(lblSave(0));
+    add(lblSave(1));
+    fit(kWideSheet.width, kWideSheet.height);
+}
+
+// Where everything stands, in twips: the two names beside each other, or below.
+void frmInventor::arrange(const Sheet& paper) {
+    const bool wide = paper.layout == Layout::Wide;
+    width = paper.width;
+    height = paper.height;
+    imgBack.place(0, 0, width, height);
+    const Twips left = wide ? 1260 : 300;
+    const Twips inner = width - 2 * left;
+    setFonts(wide ? 1 : 1.3F);
+    lblView.place(wide ? 120 : 240, wide ? 360 : 180, wide ? 1020 : 1380, 540);
+    arrangeHead(left, inner, wide ? Area{0, 360, 1920, 660} : Area{0, 840, 1980, 960});
+    if (wide) {
+        const Twips column = (inner - 360) / 2;
+        arrangeField(lblLabel(1), txtTheme, {left, 1500, column, 990});
+        arrangeField(lblLabel(2), txtFile, {left + column + 360, 1500, column, 990});
+        arrangePhrases({left, 2700, inner, 3990}, 660);
+        arrangeSave({left, 6780, inner, 900});
+    } else {
+        const Twips save = height - 300 - 1200;
+        arrangeField(lblLabel(1), txtTheme, {left, 2340, inner, 1320});
+        arrangeField(lblLabel(2), txtFile, {left, 3840, inner, 1320});
+        arrangePhrases({left, 5340, inner, save - 120 - 5340}, 960);
+        arrangeSave({left, save, inner, 1200});
+    }
+}
+
+void frmInventor::setFonts(float larger) {
+    for (Label* label : {&lblLabel(1), &lblLabel(2), &lblLabel(3), &lblHint})
+        label->font.size = style::kText.size * larger;
+    lblOpen.font.size = style::kSmallButton.size * larger;
+    for (TextField* field : {&txtTheme, &txtFile, &txtWord})
+        field->font.size = style::kField.size * larger;
+    lstTopics.font = style::kField;
+    lstTopics.font.size *= larger;
+    lblView.font.size = lblBack.font.size = lblCont.font.size = style::kSmallButton.size * larger;
+    lblSave(1).font = style::kButton;
+    lblSave(1).font.size *= larger;
+}
+
+void frmInventor::arrangeHead(Twips left, Twips inner, const Area& back) {
+    constexpr Twips kInset = 150;
+    const Twips top = back.top;
+    const Twips button = back.height;
+    const Twips high = button + 2 * kInset;
+    shpHead.place(left, top, inner, high);
+    const auto put = [&](Shape& face, Label& label, Twips x, Twips wide) {
+        face.place(x, top + kInset, wide, button);
+        label.place(x, top + kInset, wide, button);
+    };
+    put(shpBack, lblBack, left + kInset + 30, back.width);
+    const Twips help = left + inner - kInset - 30 - button;
+    const Twips open = help - 120 - back.width * 0.72F;
+    put(shpOpen, lblOpen, open, back.width * 0.72F);
+    put(shpHelp, lblHelp, help, button);
+    // In the middle, where there is room for that.
+    const Twips beside = left + back.width + 2 * kInset;
+    const Twips middle = 2 * (open - kInset - left - inner / 2);
+    if (middle > 3000)
+        lblLabel(0).place(left + (inner - middle) / 2, top, middle, high);
+    else
+        lblLabel(0).place(beside, top, open - kInset - beside, high);
+}
+
+void frmInventor::arrangeField(Label& words, TextField& field, const Area& area) {
+    constexpr Twips kWords = 360;
+    words.place(area.left, area.top, area.width, kWords);
+    field.place(area.left, area.top + kWords + 30, area.width, area.height - kWords - 30);
+}
+
+void frmInventor::arrangePhrases(const Area& area, Twips button) {
+    const Twips add = area.right() - 2 * button - 120;
+    const Twips field = area.top + 390;
+    lblLabel(3).place(area.left, area.top, add - area.left - 120, 360);
+    lblCont.place(add, area.top - 60, area.right() - add, 420);
+    txtWord.place(area.left, field, add - area.left - 120, button);
+    shpAdd.place(add, field, button, button);
+    lblOk.place(add, field, button, button);
+    shpDel.place(area.right() - button, field, button, button);
+    lblDel.place(area.right() - button, field, button, button);
+    const Twips list = field + button + 180;
+    const Twips hint = area.bottom() - 420;
+    lstTopics.place(area.left, list, area.width, hint - 120 - list);
+    lblHint.place(area.left, hint, area.width, 360);
+}
+
+void frmInventor::arrangeSave(const Area& area) {
+    shpSave.place(area.left, area.top, area.width, area.height);
+    lblSave(0).place(area.left, area.top, area.width, area.height);
+    lblSave(1).place(area.left + 240, area.top + 90, area.width - 480, area.height - 180);
 }
 
 }  // namespace quillor

@@ -97,44 +97,56 @@ void frmWord2::lstTopics_KeyDown(KeyEvent& event) {
     event.handled = true;
 }
 
-// Where everything stands, in twips.
 void frmWord2::layOut() {
-    layOutPanel(6720);
+    layOutPanel();
     lstTopics.id = "lstTopics";
-    lstTopics.font = style::kField;
-    add(lstTopics).place(kEdge, 480, kInner, 3540);
-    layOutModes();
-    layOutAccept(5100);
-    layOutView();
-}
-
-void frmWord2::layOutModes() {
-    constexpr Twips kArrow = 600;
-    constexpr Twips kRightArrow = kEdge + kInner - kArrow;  // ends with the list
+    add(lstTopics);
     lblSelect.id = "lblSelect";
-    lblSelect.font = style::kBarText;
     lblSelect.textColor = kPale;
     lblSelect.align = Align::Left;
-    add(lblSelect).place(kEdge, 4230, 1920, 540);
+    add(lblSelect);
     lblOpt.id = "lblOpt";
     lblOpt.caption = texts::kSelectionModes.front().spanish;
-    lblOpt.font = style::kBarText;
     lblOpt.textColor = kPale;
-    add(lblOpt).place(3060, 4230, kRightArrow - 3060, 540);
+    add(lblOpt);
     for (int i = 0; i <= 1; ++i) {
-        const Twips left = i == 0 ? 2460 : kRightArrow;
         Shape& frame = shpChng(i);
         frame.filled = false;
         frame.borderColor = kPale;
         frame.borderWidth = 30;
-        add(frame).place(left, 4200, kArrow, kArrow);
+        add(frame);
         Label& arrow = lblChng(i);
         arrow.caption = i == 0 ? symbols::kTriangleLeft : symbols::kTriangleRight;
         arrow.font = {Face::Webdings, 16, false};
         arrow.textColor = kPale;
         arrow.toolTip = texts::kChangeModeTip;
         arrow.role = LabelRole::Button;
-        add(arrow).place(left, 4200, kArrow, kArrow);
+        add(arrow);
+    }
+    layOutAccept();
+    layOutView();
+    fit(kSheets[0].width, kSheets[0].height);
+}
+
+// Where everything stands, in twips: the list takes what the others leave.
+void frmWord2::arrange(const Sheet& paper) {
+    arrangePanel(paper);
+    arrangeAccept();
+    const float larger = largerOn(paper);
+    const Twips arrow = 600 * larger;
+    const Twips modes = shpOk.top - 300 - arrow;
+    lstTopics.font = style::kField;
+    lstTopics.font.size *= larger;
+    lstTopics.place(kEdge, 480, kInner, modes - 180 - 480);
+    const Twips rightArrow = kEdge + kInner - arrow;  // ends with the list
+    const Twips leftArrow = kEdge + 1980;
+    lblSelect.place(kEdge, modes, 1920, arrow);
+    lblOpt.place(leftArrow + arrow, modes, rightArrow - leftArrow - arrow, arrow);
+    lblSelect.font = lblOpt.font = style::kBarText;
+    for (int i = 0; i <= 1; ++i) {
+        const Twips left = i == 0 ? leftArrow : rightArrow;
+        shpChng(i).place(left, modes, arrow, arrow);
+        lblChng(i).place(left, modes, arrow, arrow);
     }
 }
 

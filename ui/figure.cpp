@@ -8,6 +8,16 @@
 namespace quillor {
 
 static_assert(texts::kMistakeTips.size() == kMostMistakes, "each strike box has its tip");
+void StrikeBoxes::arrange(const Area& area) {
+    const Twips box = area.width / kMostMistakes;
+    shpStrikes.place(area.left, area.top, area.width, area.height);
+    for (int i = 0; i <= kMostMistakes; ++i) {
+        const Twips x = area.left + box * static_cast<Twips>(i);
+        lnStrike(i).span(x, area.top, x, area.bottom());
+        if (i < kMostMistakes)
+            lblStrike(i).place(x + 30, area.top, box - 60, area.height);
+    }
+}
 
 void StrikeBoxes::eTranslate(const GameSettings& settings) {
     for (int i = 0; i < kMostMistakes; ++i)

@@ -14,6 +14,8 @@ struct StrikeBoxes {
     ControlArray<Line, 0, kMostMistakes> lnStrike{"lnStrike"};
     ControlArray<Label, 0, kMostMistakes - 1> lblStrike{"lblStrike"};
 
+    /// The boxes side by side in that area of the screen, in twips.
+    void arrange(const Area& area);
     void eTranslate(const GameSettings& settings);
     void show(const Round& round);
 };

@@ -144,6 +144,13 @@ void WebSearch::offer(bool shown) {
         label.visible = shown;
 }
 
+void WebSearch::arrange(const Area& area) {
+    constexpr Twips kSign = 540;
+    shpFinder.place(area.left, area.top, area.width, area.height);
+    lblFinder(1).place(area.left + 120, area.top, kSign, area.height);
+    lblFinder(0).place(area.left + 120 + kSign, area.top, area.width - 240 - kSign, area.height);
+}
+
 void WebSearch::eTranslate() {
     lblFinder(0).caption = program_.lang(texts::kFinder);
     lblFinder(1).spokenName = replaceAll(lblFinder(0).caption, u"&", u"");

@@ -81,6 +81,8 @@ class WebSearch {
     Shape shpFinder;
 
     void offer(bool shown);
+    /// The button in that area of the screen, in twips.
+    void arrange(const Area& area);
     void eTranslate();
     /// Opens the search of the last answer: lower case, otherwise as it stands.
     void lblFinder_Click();

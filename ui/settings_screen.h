@@ -31,6 +31,8 @@ class frmOptions : public ProgramScreen {
     void takePaper(const ImageRef& paper) override { imgBack.image = paper; }
 
   protected:
+    std::span<const Sheet> sheets() const override { return kLargeSheets; }
+    void arrange(const Sheet& paper) override;
     void onLoad() override;
     void onUnload() override;
     void onKeyDown(KeyEvent& event) override;

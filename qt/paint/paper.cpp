@@ -40,7 +40,7 @@ QPixmap notebook(QSize pixels, const PaperCache::Wish& wish) {
     QPixmap page(pixels);
     const QRectF drawn(wish.drawn.topLeft() * wish.density, wish.drawn.size() * wish.density);
     QPainter painter(&page);
-    paintNotebook(painter, page.rect(), drawn.top(), wish.pixelsPerTwip * wish.density);
+    paintNotebook(painter, page.rect(), wish.top * wish.density, wish.pixelsPerTwip * wish.density);
     paintDrawing(painter, wish.drawing, drawn.isNull() ? page.rect() : drawn.toRect());
     return page;
 }

@@ -37,7 +37,8 @@ class PaperCache {
         QSize size;           // logical pixels
         double density = 1;
         double pixelsPerTwip = 1;
-        QRectF drawn;  // where the drawing lies, logical pixels; null: all over
+        QRectF drawn;    // where the drawing lies, logical pixels; null: all over
+        double top = 0;  // where the page's rules begin, logical pixels
 
         bool operator==(const Wish&) const = default;
     };

@@ -117,7 +117,7 @@ PictureView::PictureView(Picture& picture, ScreenLink& link, QWidget* parent)
 }
 
 void PictureView::syncLook() {
-    const Look look{picture_.image, picture_.drawing};
+    const Look look{picture_.image, picture_.drawing, picture_.drawn};
     if (look == shown_)
         return;
     shown_ = look;
@@ -126,12 +126,16 @@ void PictureView::syncLook() {
 
 void PictureView::paintEvent(QPaintEvent* event) {
     const double density = devicePixelRatioF();
-    const auto& [image, drawing] = shown_;
+    const auto& [image, drawing, part] = shown_;
+    QRectF drawn = ownPlace();
+    if (part.width > 0)
+        drawn = QRectF(drawn.topLeft() + QPointF(part.left, part.top) * pixelsPerTwip(),
+                       QSizeF(part.width, part.height) * pixelsPerTwip());
     const QPixmap& pixmap = link().shell().papers.filling(
-        {image, drawing, size(), density, pixelsPerTwip(), ownPlace()});
+        {image, drawing, size(), density, pixelsPerTwip(), drawn, ownPlace().top()});
     QPainter painter(this);
-    const QRectF part = event->rect();
-    painter.drawPixmap(part, pixmap, QRectF(part.topLeft() * density, part.size() * density));
+    const QRectF dirty = event->rect();
+    painter.drawPixmap(dirty, pixmap, QRectF(dirty.topLeft() * density, dirty.size() * density));
 }
 
 void PictureView::mouseMoveEvent(QMouseEvent*) {

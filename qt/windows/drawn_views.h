@@ -67,7 +67,7 @@ class PictureView : public QWidget, public ControlView {
     void enterEvent(QEnterEvent* event) override;
 
   private:
-    using Look = std::tuple<ImageRef, std::string>;
+    using Look = std::tuple<ImageRef, std::string, Area>;
     Picture& picture_;
     Look shown_;
 };

@@ -112,12 +112,18 @@ void Page::mouseReleaseEvent(QMouseEvent* event) {
         link_.event([](Screen& screen) { screen.rightClickBeside(); });
 }
 
+void Page::fit(QSize room) {
+    if (screen_)
+        screen_->fit(room.width(), room.height());
+}
+
 // In the middle, unless it has a bar along its top, which hangs from the window's.
 void Page::layOut() {
     if (!screen_)
         return;
+    fit(size());
     const QSizeF twips(static_cast<double>(screen_->width), static_cast<double>(screen_->height));
-    scale_ = TwipScale::fitting(window_.sheet(twips), twips, size());
+    scale_ = TwipScale::fitting(window_.sheet(*screen_), twips, size());
     if (std::ranges::any_of(views_, [&](ControlView* each) { return each->isHeadBar(twips); }))
         scale_.origin.setY(0);
     for (ControlView* each : views_)

@@ -50,6 +50,8 @@ class Page : public QWidget {
 
     /// Applies what has changed on the screen since the last call.
     void sync();
+    /// Stands the screen as it suits a room of that size.
+    void fit(QSize room);
     /// It is on show from now on, and keys go to it, or no more.
     void enter();
     void leave();

@@ -16,40 +16,61 @@ namespace quillor {
 
 namespace {
 
-constexpr double kShareOfDisplay = 0.8;      // that the window fills at first
-constexpr double kSmallestScale = 0.35;      // of the first one
-constexpr double kFallbackScale = 1.0 / 15;  // pixels a twip, without a display
+constexpr double kShareOfDisplay = 0.8;  // that the window fills at first
+constexpr QSize kRoomy(800, 490);        // a smaller first window fills its display instead
+// The smallest window: no text falls under 8 pixels in it, whatever its shape.
+constexpr QSize kSmallest(600, 370);
+constexpr QSize kSmallestUpright(360, 620);  // on a display that is no wider than a phone
+constexpr double kSmallestDialog = 0.03;     // pixels a twip
+constexpr int kSettled = 400;                // ms
 
-const QSizeF kSheet(style::kScreenWidth, style::kScreenHeight);
-
-double firstScale() {
-    const QScreen* display = QGuiApplication::primaryScreen();
-    if (!display)
-        return kFallbackScale;
-    const QSizeF space = display->availableSize() * kShareOfDisplay;
-    return std::min(space.width() / kSheet.width(), space.height() / kSheet.height());
+QSizeF sizeOf(const Sheet& sheet) {
+    return {sheet.width, sheet.height};
 }
 
 QSizeF sizeOf(const Screen& screen) {
-    return {static_cast<double>(screen.width), static_cast<double>(screen.height)};
+    return {screen.width, screen.height};
+}
+
+QList<QRect> displays() {
+    QList<QRect> areas;
+    for (const QScreen* display : QGuiApplication::screens())
+        areas << display->availableGeometry();
+    if (const QScreen* main = QGuiApplication::primaryScreen())
+        areas.prepend(main->availableGeometry());
+    return areas;
+}
+
+QSize smallestOn(const QRect& display) {
+    const bool upright = display.width() < kSmallest.width();
+    return (upright ? kSmallestUpright : kSmallest).boundedTo(display.size());
 }
 
 }  // namespace
 
-PageWindow::PageWindow(PageWindow* owner) : QMainWindow(owner) {
+PageWindow::PageWindow(QWidget* parent, const WindowMemory* memory)
+    : QMainWindow(parent), memory_(memory) {
     installAccessibility();
     setContextMenuPolicy(Qt::NoContextMenu);
     setCentralWidget(new QWidget);
     room_ = new QGridLayout(centralWidget());
     room_->setContentsMargins({});
-    if (!owner)
-        return;
+    settled_.setSingleShot(true);
+    settled_.setInterval(kSettled);
+    connect(&settled_, &QTimer::timeout, this, [this] { keepState(); });
+}
+
+PageWindow::PageWindow(const WindowMemory* memory) : PageWindow(nullptr, memory) {}
+
+PageWindow::PageWindow(PageWindow& owner) : PageWindow(&owner, nullptr) {
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     setWindowModality(Qt::WindowModal);
 }
 
-QSizeF PageWindow::sheet(QSizeF screen) const {
-    return isDialog() ? screen : kSheet.expandedTo(screen);
+QSizeF PageWindow::sheet(const Screen& screen) const {
+    if (screen.sheet().width > 0)
+        return sizeOf(screen.sheet());
+    return isDialog() ? sizeOf(screen) : sizeOf(kWideSheet).expandedTo(sizeOf(screen));
 }
 
 // The new page appears before the old one goes, so that nothing shines through.
@@ -88,27 +109,86 @@ void PageWindow::syncTitle() {
 
 void PageWindow::open() {
     if (!std::exchange(opened_, true)) {
-        setMinimumSize((sheet(sizeOf(*page_->screen())) * firstScale() * kSmallestScale).toSize());
-        setGeometry(firstPlace());
+        const QList<QRect> areas = displays();
+        const std::optional<WindowState> kept = memory_ ? memory_->kept() : std::nullopt;
+        if (isDialog())
+            setMinimumSize((sheet(*page_->screen()) * kSmallestDialog).toSize());
+        else if (!areas.isEmpty())
+            setMinimumSize(smallestOn(areas.front()));
+        if (kept && !areas.isEmpty())
+            restore(*kept);
+        else
+            setGeometry(isDialog() ? dialogPlace() : firstPlace());
     }
     show();
 }
 
-// In the middle of the display, or of the owner and in its scale.
+void PageWindow::restore(const WindowState& state) {
+    setGeometry(placeOnDisplays(state.place, displays()));
+    if (state.shown == WindowState::Shown::Maximised)
+        setWindowState(Qt::WindowMaximized);
+    else if (state.shown == WindowState::Shown::FullScreen)
+        setWindowState(Qt::WindowFullScreen);
+    known_ = state;
+}
+
+// In the middle of the display, on the sheet that suits it. A small one it fills.
 QRect PageWindow::firstPlace() const {
-    const auto* owner = static_cast<const PageWindow*>(parentWidget());
-    const double scale = owner ? owner->page()->scale().pixels : firstScale();
-    QRect place(QPoint(), (sheet(sizeOf(*page_->screen())) * scale).toSize());
-    const QScreen* display = owner ? owner->screen() : QGuiApplication::primaryScreen();
-    if (!display)
-        return place;
-    const QRect space = display->availableGeometry();
-    place.moveCenter(owner ? owner->geometry().center() : space.center());
+    const QScreen* display = QGuiApplication::primaryScreen();
+    const QRect space = display ? display->availableGeometry() : QRect(QPoint(), kRoomy);
+    const QSize room = space.size() * kShareOfDisplay;
+    const QSizeF paper = sizeOf(sheetFor(kLargeSheets, space.width(), space.height()));
+    const QSize size = paper.scaled(room, Qt::KeepAspectRatio).toSize();
+    if (size.width() < kRoomy.width() && size.height() < kRoomy.height())
+        return space;
+    QRect place(QPoint(), size);
+    place.moveCenter(space.center());
+    return place;
+}
+
+// In the middle of the owner, of its shape and in its scale.
+QRect PageWindow::dialogPlace() const {
+    const auto& owner = static_cast<const PageWindow&>(*parentWidget());
+    page_->fit(owner.size());
+    QRect place(QPoint(), (sheet(*page_->screen()) * owner.page()->scale().pixels).toSize());
+    const QRect space = owner.screen()->availableGeometry();
+    place.moveCenter(owner.geometry().center());
     // The owner may be half off the display.
     place.moveBottomRight(
         {std::min(place.right(), space.right()), std::min(place.bottom(), space.bottom())});
     place.moveTopLeft({std::max(place.left(), space.left()), std::max(place.top(), space.top())});
     return place;
+}
+
+void PageWindow::moveEvent(QMoveEvent* event) {
+    QMainWindow::moveEvent(event);
+    noteChange();
+}
+
+void PageWindow::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    noteChange();
+}
+
+void PageWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange)
+        noteChange();
+}
+
+void PageWindow::noteChange() {
+    if (memory_ && isVisible())
+        settled_.start();
+}
+
+// What the desktop makes of the window when it opens is not the player's doing.
+void PageWindow::keepState() {
+    const WindowState state{normalGeometry(), isFullScreen()  ? WindowState::Shown::FullScreen
+                                              : isMaximized() ? WindowState::Shown::Maximised
+                                                              : WindowState::Shown::Normal};
+    if (known_ && *known_ != state)
+        memory_->keep(state);
+    known_ = state;
 }
 
 // A key that finds no widget with the focus is the page's all the same.

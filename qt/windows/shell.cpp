@@ -49,9 +49,9 @@ void Shell::comeToFront(const std::string& token) {
 PageWindow& Shell::windowFor(const Screen& screen) {
     const Page* below = screen.over ? find(screen.over) : nullptr;
     if (below)
-        return *dialogs_.emplace_back(new PageWindow(&below->pageWindow()));
+        return *dialogs_.emplace_back(new PageWindow(below->pageWindow()));
     if (!window_)
-        window_ = std::make_unique<PageWindow>();
+        window_ = std::make_unique<PageWindow>(memory ? &*memory : nullptr);
     return *window_;
 }
 

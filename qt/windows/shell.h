@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -11,8 +12,10 @@
 #include "qt/paint/font_book.h"
 #include "qt/paint/paper.h"
 #include "qt/windows/key_mapping.h"
+#include "qt/windows/window_memory.h"
 #include "toolkit/focus.h"
 #include "toolkit/key_route.h"
+#include "toolkit/preferences.h"
 
 namespace quillor {
 
@@ -28,6 +31,9 @@ class Shell {
 
     const FontBook& fonts;
     PaperCache papers;
+    Preferences preferences;
+    /// Where the window is kept between runs; none: it opens anew each time.
+    std::optional<WindowMemory> memory;
     KeyRoute keys;
     RepeatFinder repeats;
     /// Called when no handler of any screen is running any more.

@@ -24,8 +24,8 @@ ICON_SIZES = (16, 24, 32, 48, 64, 128, 256, 512)
 # What the Windows shell asks for; 256 pixels are stored as PNG, the others as bitmaps.
 ICO_SIZES = (16, 24, 32, 48, 64, 128, 256)
 # What is drawn on the ruled page of a screen; everything else is see-through.
-PAGES = ("menu", "idle", "settings")
-PAGE_SIZE = (1980, 1215)
+PAGES = {"menu": (1980, 1215), "idle": (1980, 1215), "idle-tall": (1215, 585),
+         "settings": (1980, 1215)}
 
 
 def draw(svg, size, png):
@@ -68,9 +68,9 @@ def make(icon_folder, picture_folder):
     pngs = {size: (icon_folder / f"quillor-{size}.png").read_bytes() for size in ICO_SIZES}
     made.append(icon_folder / "quillor.ico")
     made[-1].write_bytes(ico(pngs))
-    for page in PAGES:
+    for page, size in PAGES.items():
         made.append(picture_folder / f"{page}.png")
-        draw(PICTURES / f"{page}.svg", PAGE_SIZE, made[-1])
+        draw(PICTURES / f"{page}.svg", size, made[-1])
     return made
 
 

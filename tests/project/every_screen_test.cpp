@@ -88,6 +88,10 @@ bool within(const Box& inner, const Box& outer) {
            inner.bottom <= outer.bottom;
 }
 
+bool overlap(const Box& a, const Box& b) {
+    return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
+}
+
 // In one row, and touching or nearly so.
 bool sideBySide(const Box& a, const Box& b) {
     constexpr Twips kGap = 300;
@@ -126,6 +130,52 @@ TEST_P(EveryScreen, KeepsWhatIsReadOrUsedWithinItsWindow) {
         EXPECT_TRUE(within(boxOf(*field), window)) << field->id;
     for (const ListBox* list : all<ListBox>())
         EXPECT_TRUE(within(boxOf(*list), window)) << list->id;
+}
+
+// A half of a display, a tablet, a phone; and back.
+struct Room {
+    double width, height;
+};
+constexpr Room kRooms[] = {{960, 1040}, {768, 1024}, {360, 640}, {400, 900}, {1320, 810}};
+
+TEST_P(EveryScreen, KeepsWhatIsReadOrUsedWithinWindowsOfAnyShape) {
+    for (const Room& room : kRooms) {
+        screen().fit(room.width, room.height);
+        const Box window{0, 0, screen().width, screen().height};
+        for (const ControlRef& ref : screen().controls()) {
+            const Control& control = controlOf(ref);
+            if (!std::holds_alternative<Picture*>(ref) && Player::sees(control))
+                EXPECT_TRUE(within(boxOf(control), window)) << control.id << room.width;
+        }
+    }
+}
+
+TEST_P(EveryScreen, LetsNothingThatIsPressedOverlapInATallWindow) {
+    for (const Room& room : kRooms) {
+        screen().fit(room.width, room.height);
+        std::vector<Control*> seen;
+        for (Label* button : buttons())
+            if (button->tabStop && Player::sees(*button))
+                seen.push_back(button);
+        for (TextField* field : all<TextField>())
+            seen.push_back(field);
+        for (ListBox* list : all<ListBox>())
+            seen.push_back(list);
+        for (const Control* one : seen)
+            for (const Control* other : seen)
+                EXPECT_TRUE(one == other || !overlap(boxOf(*one), boxOf(*other)))
+                    << one->id << " and " << other->id << " at " << room.width;
+    }
+}
+
+TEST_P(EveryScreen, StandsAsItDidWhenTheWindowIsAsItWas) {
+    std::map<const Control*, Area> before;
+    for (const ControlRef& ref : screen().controls())
+        before[&controlOf(ref)] = areaOnScreen(controlOf(ref));
+    for (const Room& room : kRooms)
+        screen().fit(room.width, room.height);
+    for (const ControlRef& ref : screen().controls())
+        EXPECT_EQ(areaOnScreen(controlOf(ref)), before[&controlOf(ref)]) << controlOf(ref).id;
 }
 
 TEST_P(EveryScreen, KeepsTheLabelsThatAreSeenWithinTheirFrames) {

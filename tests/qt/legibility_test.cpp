@@ -89,7 +89,7 @@ class Legibility : public GameTest {
             const QWidget& widget = view->widget();
             QRect area(widget.mapTo(&page, QPoint()), widget.size());
             if (isSymbolFace(label->label().font.face))
-                area.adjust(6, 6, -6, -6);  // without the frame around it
+                area.adjust(10, 10, -10, -10);  // without the frame around it
             EXPECT_GE(readable(image, area & image.rect(), label->label().textColor,
                                contrastNeeded(label->label().font)),
                       kNearlyAll)

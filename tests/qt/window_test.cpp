@@ -207,7 +207,7 @@ TEST_F(Windows, ShowOneLargeScreenAfterTheOther) {
     PlainScreen next;
     next.title = u"Quillor | Next";
     PageWindow& window = open();
-    window.setGeometry(40, 50, 500, 300);
+    window.setGeometry(40, 50, 640, 420);
     const WId native = window.winId();
     Page& before = *window.page();
     shell.event([&] {
@@ -216,7 +216,7 @@ TEST_F(Windows, ShowOneLargeScreenAfterTheOther) {
     });
     EXPECT_EQ(&shell.find(&next)->pageWindow(), &window);
     EXPECT_EQ(window.winId(), native);
-    EXPECT_EQ(window.geometry(), QRect(40, 50, 500, 300));
+    EXPECT_EQ(window.geometry(), QRect(40, 50, 640, 420));
     EXPECT_EQ(window.windowTitle(), "Quillor | Next");
     EXPECT_TRUE(window.page()->isVisible());
     EXPECT_FALSE(before.isVisible());

@@ -74,6 +74,7 @@ class FakeDesktop : public Desktop {
     std::deque<double> draws;  // served first; then the seeded generator
     Text clipboardText;
     bool fullScreen = false;
+    Preferences asked;  // of the system, by the player
 
     // What has been asked of it.
     std::vector<std::filesystem::path> openedFiles;
@@ -102,6 +103,7 @@ class FakeDesktop : public Desktop {
     }
     std::span<const std::byte> sound(int id) override;
     void playWave(std::span<const std::byte> image) override;
+    Preferences preferences() const override { return asked; }
     TimeOfDay timeOfDay() override;
     double random() override;
     void seedRandom() override;

@@ -11,8 +11,8 @@ namespace quillor {
 class PlainScreen : public Screen {
   public:
     PlainScreen() : Screen("frmPlain") {
-        width = style::kScreenWidth;
-        height = style::kScreenHeight;
+        width = kWideSheet.width;
+        height = kWideSheet.height;
     }
     using Screen::add;
 
