@@ -1,6 +1,7 @@
 #include "app/program_screen.h"
 
 #include "core/numbers.h"
+#include "core/settings_file.h"
 #include "toolkit/style.h"
 
 namespace quillor {
@@ -26,6 +27,13 @@ std::vector<ViewEntry> commonViewEntries() {
          {key::kReturn, false, true},
          switchFullScreen,
          isFullScreen,
+         {}},
+        {"mLanguage",
+         texts::kViewLanguage,
+         {},
+         {},
+         [](ProgramScreen& screen) { screen.changeLanguage(); },
+         {},
          {}},
         {"mKeys",
          texts::kViewKeys,
@@ -71,6 +79,19 @@ void ProgramScreen::makeEntries() {
             item.onClick = [this, run = entry.run] { run(*this); };
         mView.children.push_back(&item);
     }
+}
+
+void ProgramScreen::changeLanguage() {
+    Program& program = program_;
+    const bool english = !settings_.gbEnglish;
+    if (!program.desktop.question(program.lang(texts::kAskLanguage)))
+        return;
+    chooseLanguage(program.folder, english);
+    // What stands over the game closes with it.
+    Screen* game = over ? program.find(ScreenId::Game) : nullptr;
+    if (game)
+        program.close(*this);
+    eRestartGame(program, game ? *game : *this);
 }
 
 void ProgramScreen::layOutView(const Area& place, Color ink, Frame* on) {

@@ -21,6 +21,8 @@ class ProgramScreen : public Screen {
     virtual void openHelp();
     /// A box with the keys of this screen, and those that all have.
     void showKeys();
+    /// Speaks the other language from now on, once the player has agreed to start anew.
+    void changeLanguage();
     /// As the title bar's close button, but asks first where a game would be lost.
     void quit();
 

@@ -16,6 +16,7 @@ constexpr Twips kLineFull = 5800;
 constexpr Twips kLineStep = 120;
 constexpr Twips kSubStart = 3000;
 constexpr Twips kSubTurn = 4450;  // where the subtitle bounces back
+constexpr Twips kSubEnd = 4470;   // and where it comes to rest
 constexpr Twips kSubStep = 100;
 constexpr Twips kSubBounce = 30;
 
@@ -147,6 +148,11 @@ void frmStart::writeFirstSettings() {
 void frmStart::tmrBar_Timer() {
     if (lnGo.x2 >= kLineFull) {
         eGoForm();
+        return;
+    }
+    if (program_.desktop.preferences().reducedMotion) {
+        lnGo.x2 = kLineFull;
+        lblSub.left = kSubEnd;
         return;
     }
     lnGo.x2 += kLineStep;

@@ -215,6 +215,10 @@ inline constexpr TextPair kBackTip{u" Regresar a Inicio ", u" Return to Start "}
 inline constexpr TextPair kView{u"Ver", u"View"};
 inline constexpr TextPair kViewTip{u" Ventana, teclas y ayuda ", u" Window, keys and help "};
 inline constexpr TextPair kViewFullScreen{u"Pantalla completa", u"Full screen"};
+inline constexpr TextPair kViewLanguage{u"English", u"Español"};  // the other one, by its own name
+inline constexpr TextPair kAskLanguage{
+    u"El juego se reinicia en inglés; si hay una partida en curso, se pierde. ¿Quieres continuar?",
+    u"The game restarts in Spanish; a game that is going on is lost. Do you want to continue?"};
 inline constexpr TextPair kViewKeys{u"Teclas", u"Keys"};
 inline constexpr TextPair kKeysEverywhere{
     u"Tab y flechas: de un botón a otro\r\nBarra espaciadora: presionar\r\nF10 o Alt+V: este menú"

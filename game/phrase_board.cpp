@@ -14,6 +14,13 @@ Text captionOf(const Cell& cell, const Round& round) {
     return Text(1, round.hiddenLetters && covered ? u'?' : cell.character);
 }
 
+// Not by their colour alone is it seen which letters the player did not find.
+void underlineMissed(Line& line, const GameSettings& settings) {
+    constexpr Twips kThick = 120;
+    line.color = settings.glRed;
+    line.thickness = kThick;
+}
+
 }  // namespace
 
 void PhraseBoard::ePutDesign(GameSettings& settings) {
@@ -25,6 +32,7 @@ void PhraseBoard::ePutDesign(GameSettings& settings) {
 }
 
 void PhraseBoard::layOut(const GameSettings& settings, const Round& round) {
+    plainLine_ = lnLetter(1);
     widestCell_ = 0;
     lblTopic.caption = settings.gsTopicName;
     for (std::size_t i = 0; i < round.cells.size(); ++i)
@@ -52,10 +60,16 @@ void PhraseBoard::placeCell(int cell, const Cell& state) {
 void PhraseBoard::show(const GameSettings& settings, const Round& round) {
     for (std::size_t i = 0; i < round.cells.size(); ++i) {
         const Cell& cell = round.cells[i];
-        Label& label = lblLetter(static_cast<int>(i) + 1);
+        const int number = static_cast<int>(i) + 1;
+        Label& label = lblLetter(number);
+        const bool missed = cell.state == CellState::Missed;
+        if (cell.isFound() && !label.visible && !missed)
+            label.move(Motion::Appear);
         label.visible = cell.isFound();
         label.caption = captionOf(cell, round);
-        label.textColor = cell.state == CellState::Missed ? settings.glRed : settings.glDesignColor;
+        label.textColor = missed ? settings.glRed : settings.glDesignColor;
+        if (missed)
+            underlineMissed(lnLetter(number), settings);
     }
     lblCont.visible = settings.giGameState == kPlaying;
     lblCont.caption = inDigits(round.found()) + u"/" + inDigits(round.letters());
@@ -83,6 +97,10 @@ void PhraseBoard::clear(const GameSettings& settings) {
         lblLetter(cell).textColor = settings.glDesignColor;
         lblLetter(cell).visible = false;
         lnLetter(cell).visible = false;
+        if (plainLine_) {
+            lnLetter(cell).color = plainLine_->color;
+            lnLetter(cell).thickness = plainLine_->thickness;
+        }
     }
     lblCont.visible = false;
     lblTopic.caption = eLang(settings, texts::kNoTopicShown);

@@ -2,6 +2,8 @@
 // one that is to be guessed, the topic above and the counter below.
 #pragma once
 
+#include <optional>
+
 #include "core/text_rules.h"
 #include "game/rules/round.h"
 #include "toolkit/control_array.h"
@@ -40,6 +42,7 @@ class PhraseBoard {
 
     Picture& paper_;
     Twips widestCell_ = 0;
+    std::optional<Line> plainLine_;  // under the letters, as the design has it
 };
 
 /// The picture in a frame lines up with the one behind the frame.

@@ -66,9 +66,13 @@ void ScoreLine::showPoints() {
     lblPoints.top = lblBonus.top = kPointsTop;
     lblPoints.visible = !settings_.gbClassicMode;
     lblBonus.visible = settings_.gbAnswerWritten && !settings_.gbClassicMode;
-    if (!settings_.gbUseSounds)
+    if (!settings_.gbUseSounds || isStill())
         tmrUp.interval = kSilentHold;
     tmrUp.enabled = true;
+}
+
+bool ScoreLine::isStill() const {
+    return program_.desktop.preferences().reducedMotion;
 }
 
 void ScoreLine::hidePoints() {
@@ -77,7 +81,7 @@ void ScoreLine::hidePoints() {
 }
 
 void ScoreLine::tmrUp_Timer() {
-    if (lblPoints.top <= kRiseEnd) {
+    if (lblPoints.top <= kRiseEnd || isStill()) {
         tmrUp.interval = kRiseTick;
         hidePoints();
         // Where no score is kept there is nothing to count.
@@ -91,7 +95,9 @@ void ScoreLine::tmrUp_Timer() {
 
 // Ends with the last point, not a tick later: whoever sees it may press play.
 void ScoreLine::tmrScore_Timer() {
-    tmrScore.enabled = !countScore(settings_);
+    if (isStill())
+        settleScore(settings_);
+    tmrScore.enabled = !isStill() && !countScore(settings_);
     showScore();
 }
 
@@ -115,6 +121,10 @@ void ScoreLine::tmrBlood_Timer() {
     if (settings_.giScore > kLowScore) {
         color = settings_.glWhite;
         tmrBlood.enabled = false;
+        return;
+    }
+    if (isStill()) {
+        color = settings_.glRed;
         return;
     }
     if (bloodRising_ ? color >= settings_.glWhite : color <= settings_.glRed) {

@@ -39,6 +39,7 @@ class ScoreLine {
   private:
     void showScore();
     void hidePoints();
+    bool isStill() const;  // nothing is to move
     void tmrUp_Timer();
     void tmrScore_Timer();
     void tmrBlood_Timer();

@@ -25,7 +25,7 @@ void StatusLine::show() {
 }
 
 void StatusLine::tmrState_Timer() {
-    if (program_.settings.giGameState != kPlaying)
+    if (program_.settings.giGameState != kPlaying || program_.desktop.preferences().reducedMotion)
         return;
     dots_ = (dots_ + 1) % texts::kPlaying.size();
     lblStatus.caption = program_.lang(texts::kPlaying.at(dots_));

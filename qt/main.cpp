@@ -118,6 +118,7 @@ class Session {
         for (const QString& topic : topics)
             program_.topicsToTake.push_back(std::filesystem::absolute(toPath(fromQt(topic))));
         shell_.memory.emplace(program_.folder / "Quillor-Window.ini");
+        followPreferences();
         shell_.event([&] { program_.show(ScreenId::Start); });
         return shell_.hasEnded() ? 0 : QApplication::exec();
     }
@@ -159,6 +160,19 @@ class Session {
             desktop_.messageBox(MessageIcon::Critical,
                                 program_.lang(texts::kNothingIsSaved) + u"\n\n" + where);
         });
+    }
+
+    // The player may change them in another program, and comes back from there.
+    void followPreferences() {
+        const auto read = [this] {
+            platform::readPreferences([this](const Preferences& wanted) { shell_.apply(wanted); });
+        };
+        read();
+        QObject::connect(qApp, &QGuiApplication::applicationStateChanged, qApp,
+                         [read](Qt::ApplicationState state) {
+                             if (state == Qt::ApplicationActive)
+                                 read();
+                         });
     }
 
     platform::WatchedDisk disk_;

@@ -65,6 +65,7 @@ BoxStyle QtDesktop::boxStyle() const {
     style.font = shell_.fonts.font(kBoxFont, scale);
     style.buttonFont = shell_.fonts.font(kButtonFont, scale);
     style.accent = program_->settings.glTheme;
+    style.scheme = shell_.scheme;
     style.ringShown = shell_.showsFocus;
     return style;
 }
@@ -127,7 +128,8 @@ std::span<const std::byte> QtDesktop::sound(int id) {
 
 void QtDesktop::playWave(std::span<const std::byte> image) {
     shell_.showNow();
-    player_->play(image);
+    // No event is delivered meanwhile, and what moves goes on all the same.
+    player_->play(image, [this] { shell_.paintMotions(); });
 }
 
 TimeOfDay QtDesktop::timeOfDay() {

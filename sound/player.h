@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <span>
 
@@ -13,8 +14,11 @@ class SoundPlayer {
 
     /// Plays a whole WAVE image (RIFF header included; PCM or MPEG Layer 3
     /// inside) to its end. Returns at once when the image cannot be played or
-    /// the machine has no audio device; never throws.
-    virtual void play(std::span<const std::byte> waveImage) = 0;
+    /// the machine has no audio device; never throws. `meanwhile`, if there is one, is
+    /// called every few milliseconds until then, by the caller's thread.
+    virtual void play(std::span<const std::byte> waveImage,
+                      const std::function<void()>& meanwhile) = 0;
+    void play(std::span<const std::byte> waveImage) { play(waveImage, {}); }
 };
 
 /// The player of this build.

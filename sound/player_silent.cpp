@@ -7,7 +7,7 @@ namespace {
 
 class SilentPlayer : public SoundPlayer {
   public:
-    void play(std::span<const std::byte>) override {}
+    void play(std::span<const std::byte>, const std::function<void()>&) override {}
 };
 
 }  // namespace

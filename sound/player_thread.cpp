@@ -17,7 +17,7 @@ class ThreadedSoundPlayer::Worker {
         : device_(std::move(device)), limits_(limits) {}
 
     /// On the caller's thread.
-    void play(std::shared_ptr<const WaveSound> sound);
+    void play(std::shared_ptr<const WaveSound> sound, const std::function<void()>& meanwhile);
     /// On the caller's thread: true when the thread is about to return.
     bool end();
     /// The whole life of the thread.
@@ -28,6 +28,9 @@ class ThreadedSoundPlayer::Worker {
     using Lock = std::unique_lock<std::mutex>;
 
     void serve(Lock& lock);
+    /// Until that stage is left; false when it has not been for so long.
+    bool waitFor(Lock& lock, std::chrono::steady_clock::duration most, Stage stage,
+                 const std::function<void()>& meanwhile);
     void close(Lock& lock);
     void enter(Stage stage);
 
@@ -42,7 +45,8 @@ class ThreadedSoundPlayer::Worker {
     bool ending_ = false;
 };
 
-void ThreadedSoundPlayer::Worker::play(std::shared_ptr<const WaveSound> sound) {
+void ThreadedSoundPlayer::Worker::play(std::shared_ptr<const WaveSound> sound,
+                                       const std::function<void()>& meanwhile) {
     Lock lock(mutex_);
     if (stage_ != Stage::Idle)
         return;
@@ -50,9 +54,24 @@ void ThreadedSoundPlayer::Worker::play(std::shared_ptr<const WaveSound> sound) {
     sound_ = std::move(sound);
     enter(Stage::Opening);
     const auto opening = wasSilent_ ? limits_.reopening : limits_.opening;
-    if (changed_.wait_for(lock, opening, [this] { return stage_ != Stage::Opening; }))
-        changed_.wait_for(lock, overtime, [this] { return stage_ != Stage::Playing; });
+    if (waitFor(lock, opening, Stage::Opening, meanwhile))
+        waitFor(lock, overtime, Stage::Playing, meanwhile);
     sound_ = nullptr;
+}
+
+bool ThreadedSoundPlayer::Worker::waitFor(Lock& lock, std::chrono::steady_clock::duration most,
+                                          Stage stage, const std::function<void()>& meanwhile) {
+    constexpr std::chrono::milliseconds kMeanwhile{15};
+    const auto end = std::chrono::steady_clock::now() + most;
+    const auto over = [this, stage] { return stage_ != stage; };
+    while (meanwhile && std::chrono::steady_clock::now() + kMeanwhile < end) {
+        if (changed_.wait_for(lock, kMeanwhile, over))
+            return true;
+        lock.unlock();
+        meanwhile();
+        lock.lock();
+    }
+    return changed_.wait_until(lock, end, over);
 }
 
 bool ThreadedSoundPlayer::Worker::end() {
@@ -128,14 +147,15 @@ ThreadedSoundPlayer::~ThreadedSoundPlayer() {
         thread_.detach();
 }
 
-void ThreadedSoundPlayer::play(std::span<const std::byte> image) {
+void ThreadedSoundPlayer::play(std::span<const std::byte> image,
+                               const std::function<void()>& meanwhile) {
     try {
         const auto sound = decoded(image);
         if (sound->samples.empty())
             return;
         if (!thread_.joinable())
             thread_ = std::thread([worker = worker_] { worker->run(); });
-        worker_->play(sound);
+        worker_->play(sound, meanwhile);
     } catch (const std::exception&) {
         // No memory or no thread to be had: silence.
     }

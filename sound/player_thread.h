@@ -48,7 +48,8 @@ class ThreadedSoundPlayer final : public SoundPlayer {
     ~ThreadedSoundPlayer() override;
 
     /// A sound asked for while an earlier one hangs in its device is not played.
-    void play(std::span<const std::byte> image) override;
+    using SoundPlayer::play;
+    void play(std::span<const std::byte> image, const std::function<void()>& meanwhile) override;
 
   private:
     class Worker;

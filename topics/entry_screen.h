@@ -27,6 +27,10 @@ class EntryScreen : public ProgramScreen {
     static constexpr Twips kInner = kWidth - 2 * kEdge;
     static constexpr Color kPale = rgb(250, 250, 250);
 
+    /// Of those that show a list.
+    static constexpr std::array kListSheets{Sheet{Layout::Wide, kWidth, 6720},
+                                            Sheet{Layout::Tall, kWidth, 9000}};
+
     void layOutPanel();
     void layOutAccept();
     void layOutView();

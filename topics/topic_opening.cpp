@@ -47,14 +47,22 @@ void frmOpen::lstTopics_KeyDown(KeyEvent& event) {
     lblOk_Click();
 }
 
-// Where everything stands, in twips.
 void frmOpen::layOut() {
-    layOutPanel(6720);
+    layOutPanel();
     lstTopics.id = "lstTopics";
-    lstTopics.font = style::kField;
-    add(lstTopics).place(kEdge, 480, kInner, 4320);
-    layOutAccept(5100);
+    add(lstTopics);
+    layOutAccept();
     layOutView();
+    fit(kListSheets[0].width, kListSheets[0].height);
+}
+
+// Where everything stands, in twips.
+void frmOpen::arrange(const Sheet& paper) {
+    arrangePanel(paper);
+    arrangeAccept();
+    lstTopics.font = style::kField;
+    lstTopics.font.size *= largerOn(paper);
+    lstTopics.place(kEdge, 480, kInner, shpOk.top - 300 - 480);
 }
 
 }  // namespace quillor

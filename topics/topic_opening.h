@@ -18,6 +18,8 @@ class frmOpen : public EntryScreen {
     }
 
   protected:
+    std::span<const Sheet> sheets() const override { return kListSheets; }
+    void arrange(const Sheet& paper) override;
     void onLoad() override;
     TextPair ownKeys() const override { return texts::kKeysOpen; }
 

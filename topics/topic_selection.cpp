@@ -125,7 +125,7 @@ void frmWord2::layOut() {
     }
     layOutAccept();
     layOutView();
-    fit(kSheets[0].width, kSheets[0].height);
+    fit(kListSheets[0].width, kListSheets[0].height);
 }
 
 // Where everything stands, in twips: the list takes what the others leave.

@@ -19,16 +19,13 @@ class frmWord2 : public EntryScreen {
     bool takesFiles() const override { return true; }
 
   protected:
-    std::span<const Sheet> sheets() const override { return kSheets; }
+    std::span<const Sheet> sheets() const override { return kListSheets; }
     void arrange(const Sheet& paper) override;
     void onLoad() override;
     TextPair ownKeys() const override { return texts::kKeysTopics; }
     void onFilesDropped(const std::vector<std::filesystem::path>& files) override;
 
   private:
-    static constexpr std::array kSheets{Sheet{Layout::Wide, kWidth, 6720},
-                                        Sheet{Layout::Tall, kWidth, 9000}};
-
     void layOut();
     void connect();
     void eTranslate();

@@ -98,7 +98,7 @@ bool Accent::mayRise(const Channel& channel) const {
 }
 
 void Accent::tmrSmooth_Timer() {
-    if (!settings_.gbColorTransition)
+    if (!settings_.gbColorTransition || program_.desktop.preferences().reducedMotion)
         return;
     program_.desktop.seedRandom();
     Channel& channel = channels_.at(static_cast<std::size_t>(3 * program_.desktop.random()));

@@ -8,6 +8,7 @@
 namespace quillor {
 
 static_assert(texts::kMistakeTips.size() == kMostMistakes, "each strike box has its tip");
+
 void StrikeBoxes::arrange(const Area& area) {
     const Twips box = area.width / kMostMistakes;
     shpStrikes.place(area.left, area.top, area.width, area.height);
@@ -25,9 +26,15 @@ void StrikeBoxes::eTranslate(const GameSettings& settings) {
 }
 
 void StrikeBoxes::show(const Round& round) {
-    for (int i = 0; i < kMostMistakes; ++i)
-        lblStrike(i).caption =
+    for (int i = 0; i < kMostMistakes; ++i) {
+        const Text mistake =
             round.mistakes.substr(std::min(static_cast<std::size_t>(i), round.mistakes.size()), 1);
+        if (lblStrike(i).caption.empty() && !mistake.empty())
+            for (Control* part :
+                 std::initializer_list<Control*>{&lblStrike(i), &lnStrike(i), &lnStrike(i + 1)})
+                part->move(Motion::Shake);
+        lblStrike(i).caption = mistake;
+    }
 }
 
 Figure::Figure() {

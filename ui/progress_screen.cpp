@@ -147,8 +147,8 @@ void frmProgress::onKeyDown(KeyEvent& event) {
 
 // Where everything stands, in twips.
 void frmProgress::layOut() {
-    width = style::kScreenWidth;
-    height = style::kScreenHeight;
+    width = kWideSheet.width;
+    height = kWideSheet.height;
     imgBack.id = "imgBack";
     add(imgBack).place(0, 0, width, height);
     tmrSpeak.id = "tmrSpeak";
@@ -201,7 +201,7 @@ void frmProgress::layOutHead() {
     };
     constexpr Area kBackPlace{kLeft + 180, 510, 1920, 660};
     constexpr Area kEmptyPlace{kLeft + kInner - 2100, 510, 1920, 660};
-    layOutView(style::kViewPlace, style::kFaint);
+    layOutView({240, 240, 1020, 540}, style::kFaint);
     shape(shpHead, "shpHead", {kLeft, 360, kInner, 960});
     lblHeading.id = "lblHeading";
     lblHeading.font = {Face::Display, 26, true};

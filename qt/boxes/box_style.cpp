@@ -76,7 +76,7 @@ void paintEntry(QPainter& painter, QStyleOptionMenuItem item, const Em& em) {
     const bool enabled = item.state.testFlag(QStyle::State_Enabled);
     const bool hovered = enabled && item.state.testFlag(QStyle::State_Selected);
     QPalette& colors = item.palette;
-    const QColor ink = hovered ? colors.highlightedText().color() : QColor(toQt(style::kInk));
+    const QColor ink = hovered ? colors.highlightedText().color() : colors.text().color();
     if (hovered)
         paintRounded(painter, item.rect, em(kRadius) / 2.0, colors.highlight());
     if (hovered)
@@ -87,7 +87,7 @@ void paintEntry(QPainter& painter, QStyleOptionMenuItem item, const Em& em) {
                      side);
     if (item.checkType != QStyleOptionMenuItem::NotCheckable)
         paintCheck(painter, box, item, hovered ? ink : colors.highlight().color(),
-                   QPen(hovered ? ink : toQt(style::kEdge), em.line()));
+                   QPen(hovered ? ink : colors.mid().color(), em.line()));
     const QRect text = item.rect.adjusted(em(kCheckColumn), 0, -em(kEntrySide), 0);
     painter.setPen(ink);
     painter.setFont(item.font);
@@ -104,13 +104,17 @@ void paintEntry(QPainter& painter, QStyleOptionMenuItem item, const Em& em) {
 
 }  // namespace
 
-QPalette notebookColors(Color accent, Color ground) {
-    const QColor ink = toQt(style::kInk);
-    QPalette colors(toQt(style::kQuietFace), toQt(ground));
+QPalette notebookColors(Color accent, Color ground, const Scheme& scheme) {
+    const QColor ink = toQt(scheme.ink(style::kInk, ground));
+    QPalette colors(toQt(scheme.ground(style::kQuietFace)), toQt(scheme.ground(ground)));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         colors.setColor(role, ink);
-    colors.setColor(QPalette::Base, Qt::white);
-    colors.setColor(QPalette::Highlight, toQt(darkEnoughForWhite(accent, kSmallTextContrast)));
+    colors.setColor(QPalette::Base, toQt(scheme.ground(rgb(255, 255, 255))));
+    colors.setColor(QPalette::AlternateBase, toQt(scheme.ground(style::kQuietFace)));
+    colors.setColor(QPalette::Mid, toQt(scheme.edge(style::kEdge, ground)));
+    colors.setColor(QPalette::Midlight, toQt(scheme.edge(style::kFineEdge, ground)));
+    colors.setColor(QPalette::Highlight,
+                    toQt(darkEnoughForWhite(accent, scheme.needed(kSmallTextContrast))));
     colors.setColor(QPalette::HighlightedText, Qt::white);
     return colors;
 }
@@ -128,16 +132,16 @@ void NotebookStyle::paintButton(QPainter& painter, const QStyleOptionButton& but
     const QColor face = pressed   ? toQt(style::kBoxPressed)
                         : hovered ? toQt(style::kBoxHover)
                                   : button.palette.button().color();
-    const bool colored = face != toQt(style::kQuietFace);
+    const bool colored = face != button.palette.alternateBase().color();
     const QRectF whole(button.rect);
     const double gap = em(kRing);
     painter.setOpacity(enabled ? 1 : kFaded);
     paintRounded(painter, whole.adjusted(gap, gap, -gap, -gap), em(kRadius), face,
-                 colored ? QPen(Qt::NoPen) : QPen(toQt(style::kEdge), em.line()));
+                 colored ? QPen(Qt::NoPen) : QPen(button.palette.mid().color(), em.line()));
     if (button.state.testFlag(State_HasFocus) && button.state.testFlag(State_KeyboardFocusChange))
         paintRounded(painter, whole, em(kRadius) + gap, Qt::NoBrush,
-                     QPen(toQt(style::kInk), em(1) / 7.0));
-    painter.setPen(colored ? QColor(Qt::white) : toQt(style::kInk));
+                     QPen(button.palette.windowText().color(), em(1) / 7.0));
+    painter.setPen(colored ? QColor(Qt::white) : button.palette.buttonText().color());
     const bool marked = proxy()->styleHint(SH_UnderlineShortcut, &button, widget, nullptr) != 0;
     painter.drawText(button.rect,
                      Qt::AlignCenter | (marked ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
@@ -154,7 +158,7 @@ void NotebookStyle::drawControl(ControlElement element, const QStyleOption* opti
     else if (element == CE_MenuItem && item &&
              item->menuItemType == QStyleOptionMenuItem::Separator)
         painter->fillRect(item->rect.left(), item->rect.center().y(), item->rect.width(),
-                          static_cast<int>(Em(widget).line()), toQt(style::kFineEdge));
+                          static_cast<int>(Em(widget).line()), option->palette.midlight());
     else if (element == CE_MenuItem && item)
         paintEntry(*painter, *item, Em(widget));
     else if (element != CE_MenuEmptyArea)
@@ -171,11 +175,12 @@ void NotebookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
         paintRounded(*painter, option->rect, em(kRadius), option->palette.base(),
                      option->state.testFlag(State_HasFocus)
                          ? QPen(option->palette.highlight(), 2 * em.line())
-                         : QPen(toQt(style::kEdge), em.line()));
+                         : QPen(option->palette.mid().color(), em.line()));
     else if (element == PE_PanelMenu)
         painter->fillRect(option->rect, option->palette.window());
     else if (element == PE_FrameMenu)
-        paintRounded(*painter, option->rect, 0, Qt::NoBrush, QPen(toQt(style::kEdge), em.line()));
+        paintRounded(*painter, option->rect, 0, Qt::NoBrush,
+                     QPen(option->palette.mid().color(), em.line()));
     else
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     painter->restore();
@@ -191,7 +196,7 @@ void NotebookStyle::drawComplexControl(ComplexControl control, const QStyleOptio
     const QRectF slider = proxy()->subControlRect(control, option, SC_ScrollBarSlider, widget);
     const double radius = std::min(slider.width(), slider.height()) / 2;
     painter->save();
-    paintRounded(*painter, slider, radius, toQt(style::kEdge));
+    paintRounded(*painter, slider, radius, option->palette.mid());
     painter->restore();
 }
 

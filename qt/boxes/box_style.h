@@ -9,6 +9,7 @@
 #include <QStyleOption>
 
 #include "core/types.h"
+#include "toolkit/scheme.h"
 
 namespace quillor {
 
@@ -24,13 +25,14 @@ struct BoxStyle {
     QFont font;        // of all texts, in pixels
     QFont buttonFont;  // the same
     Color accent = rgb(20, 140, 220);
-    bool low = false;        // in the lower part of that window, so that what is above can be read
+    bool low = false;  // in the lower part of that window, so that what is above can be read
+    Scheme scheme;
     bool ringShown = false;  // the focus is shown from the start, not only after the first Tab
 };
 
 /// The colours of a box or menu: `Highlight` is the accent, dark enough for the
 /// white `HighlightedText`.
-QPalette notebookColors(Color accent, Color ground);
+QPalette notebookColors(Color accent, Color ground, const Scheme& scheme = {});
 
 /// The application's style. It paints buttons, fields and menus in the colours of
 /// their palettes and measures all in sizes of their fonts.

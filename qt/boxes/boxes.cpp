@@ -49,7 +49,7 @@ class Box : public QDialog {
         QAccessible::installFactory(makeInterface);
         setWindowTitle(toQt(texts::kProgramName));
         setFont(style.font);
-        setPalette(notebookColors(style.accent, style::kPaper));
+        setPalette(notebookColors(style.accent, style::kPaper, style.scheme));
         const int margin = px(kMargin);
         rows_->setContentsMargins(margin, margin, margin, margin);
         rows_->setVerticalSpacing(px(kRowGap));

@@ -138,7 +138,7 @@ MenuItem* choosePopUp(const BoxStyle& style, const MenuItem& menu, QPoint at) {
     QMenu popup(toQt(menu.caption), style.parent);
     popup.setAccessibleName(toQt(menu.caption));
     popup.setFont(style.font);
-    popup.setPalette(notebookColors(style.accent, rgb(255, 255, 255)));
+    popup.setPalette(notebookColors(style.accent, rgb(255, 255, 255), style.scheme));
     fill(popup, menu);
     const QAction* chosen = popup.exec(at);
     return chosen ? static_cast<MenuItem*>(chosen->data().value<void*>()) : nullptr;

@@ -64,7 +64,8 @@ QFont FontBook::font(const Font& font, double pixelsPerTwip) const {
         result.setFamily(name);
     // That font has one weight, which is bold already: bolder would smear it.
     result.setBold(font.bold && name != displayName());
-    const double size = static_cast<double>(font.size) * kTwipsPerPoint * pixelsPerTwip;
+    const double points = font.size * (font.face == Face::Plain ? textSize : 1);
+    const double size = points * kTwipsPerPoint * pixelsPerTwip;
     result.setPixelSize(std::max(1, static_cast<int>(std::lround(size))));
     return result;
 }

@@ -15,6 +15,9 @@ class FontBook {
     /// Loads every font file in the given folders; one that is missing is skipped.
     explicit FontBook(const std::vector<std::filesystem::path>& folders);
 
+    /// Of the plain face, to its usual size; for those who ask the system for larger type.
+    double textSize = 1;
+
     /// In logical pixels, at `pixelsPerTwip`.
     QFont font(const Font& font, double pixelsPerTwip) const;
 

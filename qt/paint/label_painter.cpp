@@ -167,14 +167,21 @@ void paintLabel(QPainter& painter, const QRectF& rect, const LabelLook& look, co
         return;
     const Caption caption(rect, look, fonts.font(look.font, pixelsPerTwip));
     if (!look.enabled) {
-        painter.setOpacity(kDisabledOpacity);
-        caption.draw(painter, toQt(style::kInk));
+        painter.setOpacity(look.fades ? kDisabledOpacity : 1);
+        caption.draw(painter, toQt(look.textColor));
         return;
     }
-    const Edge edge = edgeFor(look.textColor, look.grounds, contrastNeeded(look.font));
+    const double needed = look.needed > 0 ? look.needed : contrastNeeded(look.font);
+    const Edge edge = edgeFor(look.textColor, look.grounds, needed);
     if (edge.share > 0)
         caption.drawEdge(painter, rect, edge);
     caption.draw(painter, toQt(look.textColor));
+}
+
+QFont drawnFont(const QRectF& rect, const LabelLook& look, const FontBook& fonts,
+                double pixelsPerTwip) {
+    return fitted(fonts.font(look.font, pixelsPerTwip), rect, alignment(look),
+                  toQt(look.caption).replace("\r\n", "\n"));
 }
 
 double fineLine(double pixelsPerTwip) {
@@ -193,13 +200,13 @@ void paintFocusRing(QPainter& painter, const QRectF& rect, double radius, double
     painter.drawRoundedRect(place, radius, radius);
 }
 
-void paintField(QPainter& painter, const QRectF& rect, Twips radius, Color face, bool focused,
+void paintField(QPainter& painter, const QRectF& rect, const FieldLook& look, bool focused,
                 double pixelsPerTwip) {
     const double inset = fineLine(pixelsPerTwip) / 2;
-    const double corner = static_cast<double>(radius) * pixelsPerTwip;
+    const double corner = static_cast<double>(look.radius) * pixelsPerTwip;
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(toQt(style::kEdge), 2 * inset));
-    painter.setBrush(toQt(face));
+    painter.setPen(QPen(toQt(look.edge), 2 * inset));
+    painter.setBrush(toQt(look.face));
     painter.drawRoundedRect(rect.adjusted(inset, inset, -inset, -inset), corner, corner);
     if (focused)
         paintFocusRing(painter, rect, corner, pixelsPerTwip);

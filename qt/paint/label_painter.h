@@ -24,6 +24,8 @@ struct LabelLook {
     bool wordWrap = false;
     bool enabled = true;
     ColorRange grounds{rgb(255, 255, 255), rgb(255, 255, 255)};  // behind it
+    bool fades = true;                                           // where it is not enabled
+    double needed = 0;  // of contrast to them; 0: as its font needs it
 
     bool operator==(const LabelLook&) const = default;
 };
@@ -36,6 +38,10 @@ LabelLook lookOf(const Label& label);
 void paintLabel(QPainter& painter, const QRectF& rect, const LabelLook& look, const FontBook& fonts,
                 double pixelsPerTwip);
 
+/// The font in which a caption, not a symbol, is drawn in that rectangle.
+QFont drawnFont(const QRectF& rect, const LabelLook& look, const FontBook& fonts,
+                double pixelsPerTwip);
+
 /// The width of fine edges, in pixels: at least 1.
 double fineLine(double pixelsPerTwip);
 
@@ -43,8 +49,13 @@ double fineLine(double pixelsPerTwip);
 /// dark ground.
 void paintFocusRing(QPainter& painter, const QRectF& rect, double radius, double pixelsPerTwip);
 
-/// The white box of fields and lists with its edge, and its ring when it has the focus.
-void paintField(QPainter& painter, const QRectF& rect, Twips radius, Color face, bool focused,
+/// The box of fields and lists with its edge, and its ring when it has the focus.
+struct FieldLook {
+    Twips radius = 0;
+    Color face = 0;
+    Color edge = 0;
+};
+void paintField(QPainter& painter, const QRectF& rect, const FieldLook& look, bool focused,
                 double pixelsPerTwip);
 
 }  // namespace quillor

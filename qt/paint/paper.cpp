@@ -40,7 +40,10 @@ QPixmap notebook(QSize pixels, const PaperCache::Wish& wish) {
     QPixmap page(pixels);
     const QRectF drawn(wish.drawn.topLeft() * wish.density, wish.drawn.size() * wish.density);
     QPainter painter(&page);
-    paintNotebook(painter, page.rect(), wish.top * wish.density, wish.pixelsPerTwip * wish.density);
+    paintNotebook(painter, page.rect(), wish.top * wish.density, wish.pixelsPerTwip * wish.density,
+                  wish.scheme);
+    if (wish.scheme.isHighContrast())
+        return page;
     paintDrawing(painter, wish.drawing, drawn.isNull() ? page.rect() : drawn.toRect());
     return page;
 }
@@ -70,45 +73,59 @@ ColorRange rangeOf(const QImage& image) {
 
 DecodedImage::DecodedImage(QImage pixels) : image(std::move(pixels)), range(rangeOf(image)) {}
 
-ColorRange colorRange(const Ground& ground) {
-    if (!ground.picture)
-        return {ground.color, ground.color};
-    const ImageRef& image = ground.picture->image;
-    return image ? static_cast<const DecodedImage&>(*image).range
-                 : ColorRange{style::kPaper, style::kPaper};
+bool isPhoto(const Ground& ground, const Scheme& scheme) {
+    return ground.picture && ground.picture->image && !scheme.isHighContrast();
+}
+
+ColorRange shownRange(const Ground& ground, const Scheme& scheme) {
+    if (isPhoto(ground, scheme))
+        return static_cast<const DecodedImage&>(*ground.picture->image).range;
+    const Color color = scheme.ground(ground.picture ? style::kPaper : ground.color);
+    return {color, color};
 }
 
 std::size_t qHash(const PaperCache::Wish& wish, std::size_t seed) {
     return qHashMulti(seed, wish.image.get(), QByteArray::fromStdString(wish.drawing),
-                      wish.size.width(), wish.size.height(), wish.density);
+                      wish.size.width(), wish.size.height(), wish.density, wish.scheme.isUsual(),
+                      wish.scheme.isHighContrast());
 }
 
 const QPixmap& PaperCache::filling(const Wish& wish) {
     if (const QPixmap* known = copies_.object(wish))
         return *known;
     const QSize pixels = (QSizeF(wish.size) * wish.density).toSize().expandedTo(QSize(1, 1));
-    auto made = std::make_unique<QPixmap>(wish.image ? cropped(pixelsOf(wish.image), pixels)
-                                                     : notebook(pixels, wish));
+    auto made = std::make_unique<QPixmap>(wish.image && !wish.scheme.isHighContrast()
+                                              ? cropped(pixelsOf(wish.image), pixels)
+                                              : notebook(pixels, wish));
     made->setDevicePixelRatio(wish.density);
     copies_.insert(wish, made.release());
     return *copies_.object(wish);
 }
 
-void paintNotebook(QPainter& painter, const QRectF& area, double top, double pixelsPerTwip) {
-    painter.fillRect(area, toQt(style::kPaper));
+void paintNotebook(QPainter& painter, const QRectF& area, double top, double pixelsPerTwip,
+                   const Scheme& scheme) {
+    const Color paper = scheme.ground(style::kPaper);
+    painter.fillRect(area, toQt(paper));
+    if (scheme.isHighContrast())
+        return;
+    // What is printed on it is as faint in the dark as by day.
+    const auto printed = [&](Color color) {
+        constexpr double kFaint = 0.25;
+        return toQt(scheme.isUsual() ? color : mixed(paper, darkEnoughForWhite(color, 3), kFaint));
+    };
     const double pen = std::max(1.0, std::round(kPen * pixelsPerTwip));
     const double pitch = kRulePitch * pixelsPerTwip;
     const double first = top + kFirstRule * pixelsPerTwip;
     const double start = first + std::ceil((area.top() - pen - first) / pitch) * pitch;
     for (double y = start; y < area.bottom(); y += pitch)
         painter.fillRect(QRectF(area.left(), std::round(y), area.width(), pen),
-                         QColor(223, 233, 244));
-    const auto margin = [&](double twips, const QColor& color) {
+                         printed(rgb(223, 233, 244)));
+    const auto margin = [&](double twips, Color color) {
         const double x = std::round(area.left() + twips * pixelsPerTwip);
-        painter.fillRect(QRectF(x, area.top(), pen, area.height()), color);
+        painter.fillRect(QRectF(x, area.top(), pen, area.height()), printed(color));
     };
-    margin(kMargin, QColor(245, 207, 207));
-    margin(kMargin + 3 * kPen, QColor(248, 224, 223));
+    margin(kMargin, rgb(245, 207, 207));
+    margin(kMargin + 3 * kPen, rgb(248, 224, 223));
 }
 
 }  // namespace quillor

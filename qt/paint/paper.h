@@ -11,6 +11,7 @@
 #include <string>
 
 #include "toolkit/contrast.h"
+#include "toolkit/scheme.h"
 
 namespace quillor {
 
@@ -22,8 +23,11 @@ class DecodedImage : public Image {
     const ColorRange range;  // of what can be seen from a distance
 };
 
-/// Of the ground's image, or of the notebook page, or its only colour.
-ColorRange colorRange(const Ground& ground);
+/// Whether it is a picture of the player's, which is shown in all schemes but high contrast.
+bool isPhoto(const Ground& ground, const Scheme& scheme);
+/// Of the ground as it is shown: of the player's picture, or of the notebook page, or its only
+/// colour.
+ColorRange shownRange(const Ground& ground, const Scheme& scheme);
 
 /// Scaled copies of pictures. Several controls of one size share one copy.
 class PaperCache {
@@ -39,6 +43,7 @@ class PaperCache {
         double pixelsPerTwip = 1;
         QRectF drawn;    // where the drawing lies, logical pixels; null: all over
         double top = 0;  // where the page's rules begin, logical pixels
+        Scheme scheme{};  // in high contrast nothing but plain paper
 
         bool operator==(const Wish&) const = default;
     };
@@ -53,6 +58,7 @@ std::size_t qHash(const PaperCache::Wish& wish, std::size_t seed);
 
 /// Paints the notebook page over `area`. Its rules lie as on a page that begins at
 /// `top`; the margin's lines keep to the left edge of `area`.
-void paintNotebook(QPainter& painter, const QRectF& area, double top, double pixelsPerTwip);
+void paintNotebook(QPainter& painter, const QRectF& area, double top, double pixelsPerTwip,
+                   const Scheme& scheme = {});
 
 }  // namespace quillor

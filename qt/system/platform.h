@@ -5,11 +5,18 @@
 #include <QStringList>
 #include <cstddef>
 #include <filesystem>
+#include <functional>
 #include <span>
+
+#include "toolkit/preferences.h"
 
 class QWidget;
 
 namespace quillor::platform {
+
+/// Finds out what the person has asked the system for, as far as it tells, and passes it on:
+/// at once or as soon as the system has answered, in the application's thread.
+void readPreferences(std::function<void(const Preferences&)> told);
 
 /// The command line without the program's own name.
 QStringList arguments(int argc, char** argv);

@@ -81,6 +81,8 @@ void ControlView::sync(const TwipScale& scale) {
         own.setEnabled(true);
     if (shown_.visible && own.isHidden())
         own.show();
+    if (control().motions != motions_)
+        startMotion();
 }
 
 void ControlView::withdraw() {
@@ -113,8 +115,25 @@ void ControlView::syncPlace(const TwipScale& scale) {
     QRect place = placed(extent(), hasGround());
     if (const Frame* frame = control().parent)
         place.translate(-placed(screenRect(*frame), frame->opaque).topLeft());
-    if (place != own.geometry())
-        own.setGeometry(place);
+    place_ = place;
+    put();
+}
+
+void ControlView::put() {
+    QWidget& own = widget();
+    const QRect now = place_.translated((shift_ * place_.height()).toPoint());
+    if (now != own.geometry())
+        own.setGeometry(now);
+}
+
+// One that was made while nothing was seen of it is not made up for.
+void ControlView::startMotion() {
+    motions_ = control().motions;
+    if (widget().isVisible())
+        link_.shell().motions.start(this, control().motion, [this](QPointF shift) {
+            shift_ = shift;
+            put();
+        });
 }
 
 QRectF ControlView::ownPlace() const {

@@ -44,7 +44,7 @@ QRectF screenRect(const Control& control);
 /// Shows one control. It keeps what it showed last and applies only what differs.
 class ControlView {
   public:
-    virtual ~ControlView() = default;
+    virtual ~ControlView() { link_.shell().motions.stop(this); }
     ControlView(const ControlView&) = delete;
     ControlView& operator=(const ControlView&) = delete;
 
@@ -92,14 +92,21 @@ class ControlView {
     /// The system has given it the focus: the player, or an assistive tool, wants it so.
     void takeFocus();
 
+    const Scheme& scheme() const { return link_.shell().scheme; }
+
   private:
     void syncPlace(const TwipScale& scale);
+    void put();
+    void startMotion();
 
     const ControlRef ref_;
     ScreenLink& link_;
     TwipScale scale_;
     ShownControl shown_;
     bool named_ = false;  // its words have been told once
+    QRect place_;         // where it stands
+    QPointF shift_;       // and how far it is from there, in sizes of its height
+    int motions_ = 0;     // shown so far
 };
 
 }  // namespace quillor

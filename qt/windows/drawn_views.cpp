@@ -17,8 +17,10 @@ ShapeView::ShapeView(Shape& shape, ScreenLink& link, QWidget* parent)
 
 void ShapeView::syncLook() {
     const Shape& s = shape_;
-    const Look look{s.kind,        s.backColor, s.filled, s.borderColor,
-                    s.borderWidth, s.radius,    s.enabled};
+    const Color face = s.enabled ? s.backColor : style::kDisabledFace;
+    const Look look{s.kind,        scheme().ground(face),
+                    s.filled,      s.filled ? scheme().edge(s.borderColor, face) : s.borderColor,
+                    s.borderWidth, s.radius};
     if (look == shown_)
         return;
     shown_ = look;
@@ -26,14 +28,13 @@ void ShapeView::syncLook() {
 }
 
 void ShapeView::paintEvent(QPaintEvent*) {
-    const auto& [kind, backColor, filled, borderColor, borderTwips, radiusTwips, enabled] = shown_;
+    const auto& [kind, backColor, filled, borderColor, borderTwips, radiusTwips] = shown_;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const double border = static_cast<double>(borderTwips) * pixelsPerTwip();
     const QRectF area = QRectF(rect()).adjusted(border / 2, border / 2, -border / 2, -border / 2);
     painter.setPen(border > 0 ? QPen(toQt(borderColor), border) : QPen(Qt::NoPen));
-    const Color face = enabled ? backColor : style::kDisabledFace;
-    painter.setBrush(filled ? QBrush(toQt(face)) : QBrush(Qt::NoBrush));
+    painter.setBrush(filled ? QBrush(toQt(backColor)) : QBrush(Qt::NoBrush));
     const double radius = std::min(
         {static_cast<double>(radiusTwips) * pixelsPerTwip(), area.width() / 2, area.height() / 2});
     if (kind == ShapeKind::Oval)
@@ -64,8 +65,13 @@ void LineView::syncLook() {
               l.color,
               l.roundEnds,
               {}};
-    if (const Screen* screen = link().screen(); screen && l.visible)
-        look.edge = edgeFor(l.color, colorRange(groundBehind(*screen, l)), kLargeTextContrast);
+    if (const Screen* screen = link().screen(); screen && l.visible) {
+        const Ground ground = groundBehind(*screen, l);
+        if (!isPhoto(ground, scheme()))
+            look.color = scheme().ink(l.color, ground.picture ? style::kPaper : ground.color);
+        look.edge =
+            edgeFor(look.color, shownRange(ground, scheme()), scheme().needed(kLargeTextContrast));
+    }
     if (look == shown_)
         return;
     shown_ = look;
@@ -117,7 +123,7 @@ PictureView::PictureView(Picture& picture, ScreenLink& link, QWidget* parent)
 }
 
 void PictureView::syncLook() {
-    const Look look{picture_.image, picture_.drawing, picture_.drawn};
+    const Look look{picture_.image, picture_.drawing, picture_.drawn, scheme()};
     if (look == shown_)
         return;
     shown_ = look;
@@ -126,13 +132,13 @@ void PictureView::syncLook() {
 
 void PictureView::paintEvent(QPaintEvent* event) {
     const double density = devicePixelRatioF();
-    const auto& [image, drawing, part] = shown_;
+    const auto& [image, drawing, part, colors] = shown_;
     QRectF drawn = ownPlace();
     if (part.width > 0)
         drawn = QRectF(drawn.topLeft() + QPointF(part.left, part.top) * pixelsPerTwip(),
                        QSizeF(part.width, part.height) * pixelsPerTwip());
     const QPixmap& pixmap = link().shell().papers.filling(
-        {image, drawing, size(), density, pixelsPerTwip(), drawn, ownPlace().top()});
+        {image, drawing, size(), density, pixelsPerTwip(), drawn, ownPlace().top(), colors});
     QPainter painter(this);
     const QRectF dirty = event->rect();
     painter.drawPixmap(dirty, pixmap, QRectF(dirty.topLeft() * density, dirty.size() * density));
@@ -161,7 +167,7 @@ FrameView::FrameView(Frame& frame, ScreenLink& link, QWidget* parent)
 }
 
 void FrameView::syncLook() {
-    const std::tuple<Color, bool> look{frame_.backColor, frame_.opaque};
+    const std::tuple<Color, bool> look{scheme().ground(frame_.backColor), frame_.opaque};
     if (look == shown_)
         return;
     shown_ = look;

@@ -21,7 +21,7 @@ class ShapeView : public QWidget, public ControlView {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    using Look = std::tuple<ShapeKind, Color, bool, Color, Twips, Twips, bool>;
+    using Look = std::tuple<ShapeKind, Color, bool, Color, Twips, Twips>;
     Shape& shape_;
     Look shown_;
 };
@@ -67,7 +67,7 @@ class PictureView : public QWidget, public ControlView {
     void enterEvent(QEnterEvent* event) override;
 
   private:
-    using Look = std::tuple<ImageRef, std::string, Area>;
+    using Look = std::tuple<ImageRef, std::string, Area, Scheme>;
     Picture& picture_;
     Look shown_;
 };

@@ -8,6 +8,7 @@
 
 #include "qt/paint/label_painter.h"
 #include "qt/windows/qt_values.h"
+#include "toolkit/contrast.h"
 #include "toolkit/style.h"
 
 namespace quillor {
@@ -16,6 +17,7 @@ namespace {
 
 constexpr Twips kRadius = 90;    // twips, of the box's corners
 constexpr double kPadding = 90;  // twips, from the box's edge to the text
+constexpr double kInner = 3;     // pixels, that the toolkit leaves to either side, and the caret
 
 // How many characters both texts have in common at their beginnings.
 qsizetype commonStart(const QString& a, const QString& b) {
@@ -43,25 +45,48 @@ void FieldView::syncLook() {
     syncSelection();
 }
 
+// Smaller where its text would not fit, so that all of it is seen; also while it is typed.
+QFont FieldView::fitted() const {
+    constexpr int kSmallest = 8;  // pixels
+    QFont font = link().shell().fonts.font(field_.font, pixelsPerTwip());
+    const double room = width() - 2 * kPadding * pixelsPerTwip() - 2 * kInner;
+    const double high = height() * 0.8;
+    const QString text = toQt(shown<ShownField>().text);
+    const auto fits = [&] {
+        const QFontMetricsF metrics(font);
+        return metrics.horizontalAdvance(text) <= room && metrics.height() <= high;
+    };
+    while (room > 0 && font.pixelSize() > kSmallest && !fits())
+        font.setPixelSize(font.pixelSize() - 1);
+    return font;
+}
+
 void FieldView::syncFont() {
-    if (shownFont_ == field_.font && shownScale_ == pixelsPerTwip())
+    const QFont wanted = fitted();
+    const int padding = static_cast<int>(kPadding * pixelsPerTwip());
+    if (shownFont_ == wanted && shownPadding_ == padding)
         return;
-    shownFont_ = field_.font;
-    shownScale_ = pixelsPerTwip();
-    setFont(link().shell().fonts.font(shownFont_, shownScale_));
-    const int padding = static_cast<int>(kPadding * shownScale_);
+    shownFont_ = wanted;
+    shownPadding_ = padding;
+    setFont(wanted);
     setTextMargins(padding, 0, padding, 0);
 }
 
 void FieldView::syncColors() {
-    if (shownTextColor_ == field_.textColor && shownBackColor_ == field_.backColor)
+    const Color back = scheme().ground(field_.backColor);
+    const Color ink = scheme().ink(field_.textColor, field_.backColor);
+    const Color edge = scheme().edge(style::kEdge, field_.backColor);
+    if (shownTextColor_ == ink && shownBackColor_ == back && shownEdge_ == edge)
         return;
-    shownTextColor_ = field_.textColor;
-    shownBackColor_ = field_.backColor;
+    shownTextColor_ = ink;
+    shownBackColor_ = back;
+    shownEdge_ = edge;
     QPalette colors = palette();
     colors.setColor(QPalette::Text, toQt(shownTextColor_));
     colors.setColor(QPalette::Base, Qt::transparent);  // the box is painted below
-    colors.setColor(QPalette::Highlight, toQt(style::kSelection));
+    colors.setColor(
+        QPalette::Highlight,
+        toQt(darkEnoughForWhite(style::kSelection, scheme().needed(kSmallTextContrast))));
     colors.setColor(QPalette::HighlightedText, Qt::white);
     setPalette(colors);
     update();
@@ -152,7 +177,8 @@ void FieldView::mouseMoveEvent(QMouseEvent* event) {
 void FieldView::paintEvent(QPaintEvent* event) {
     {
         QPainter painter(this);
-        paintField(painter, rect(), kRadius, shownBackColor_, hasFocus(), pixelsPerTwip());
+        paintField(painter, rect(), {kRadius, shownBackColor_, shownEdge_}, hasFocus(),
+                   pixelsPerTwip());
     }
     QLineEdit::paintEvent(event);
 }

@@ -35,10 +35,13 @@ class FieldView : public QLineEdit, public ControlView {
     void report();  // what the player has done, to the screen
 
     TextField& field_;
-    Font shownFont_;
-    double shownScale_ = 0;
+    QFont fitted() const;
+
+    QFont shownFont_;
+    int shownPadding_ = -1;
     Color shownTextColor_ = -1;
     Color shownBackColor_ = -1;
+    Color shownEdge_ = -1;
     bool writing_ = false;  // it is the screen that changes the field
 };
 

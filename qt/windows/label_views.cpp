@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include "toolkit/contrast.h"
+#include "toolkit/style.h"
 
 namespace quillor {
 
@@ -21,11 +22,18 @@ void LabelView::syncLook() {
 // What is not seen needs none.
 void LabelView::takeGround(LabelLook& look) const {
     const Screen* screen = link().screen();
+    look.backColor = scheme().ground(label_.backColor);
     if (!screen || !label_.visible || label_.caption.empty())
         return;
     const Ground ground = groundBehind(*screen, label_);
-    look.grounds = colorRange(ground);
     look.enabled = look.enabled && ground.enabled;
+    look.grounds = shownRange(ground, scheme());
+    look.fades = scheme().isUsual();
+    look.needed = scheme().needed(contrastNeeded(label_.font));
+    const Color face = look.enabled ? ground.color : style::kDisabledFace;
+    look.textColor = look.enabled ? label_.textColor : style::kInk;
+    if (!isPhoto(ground, scheme()))
+        look.textColor = scheme().ink(look.textColor, ground.picture ? style::kPaper : face);
 }
 
 void LabelView::syncWords() {

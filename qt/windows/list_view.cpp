@@ -44,13 +44,13 @@ class RowDelegate : public QStyledItemDelegate {
         painter->setPen(Qt::NoPen);
         if (selected || hovered) {
             painter->setBrush(selected ? option.palette.highlight()
-                                       : QBrush(toQt(style::kHoveredRow)));
+                                       : option.palette.alternateBase());
             painter->drawRoundedRect(row, em * kRowRadius, em * kRowRadius);
         }
         const double padding = em * kRowPadding;
         const QRectF space = row.adjusted(padding, 0, -padding, 0);
         painter->setFont(option.font);
-        painter->setPen(selected ? QColor(Qt::white) : toQt(style::kInk));
+        painter->setPen(selected ? QColor(Qt::white) : option.palette.text().color());
         const QString text =
             QFontMetricsF(option.font)
                 .elidedText(index.data().toString(), Qt::ElideRight, space.width());
@@ -87,11 +87,12 @@ void ListView::syncLook() {
 }
 
 void ListView::syncFont() {
-    if (shownFont_ == list_.font && shownScale_ == pixelsPerTwip())
+    const QFont wanted = link().shell().fonts.font(list_.font, pixelsPerTwip());
+    if (shownFont_ == wanted && shownScale_ == pixelsPerTwip())
         return;
-    shownFont_ = list_.font;
+    shownFont_ = wanted;
     shownScale_ = pixelsPerTwip();
-    setFont(link().shell().fonts.font(shownFont_, shownScale_));
+    setFont(wanted);
     const int inset = static_cast<int>(std::ceil(kInset * shownScale_));
     setLineWidth(inset);
     scheduleDelayedItemsLayout();
@@ -99,12 +100,19 @@ void ListView::syncFont() {
 }
 
 void ListView::syncColors() {
-    const QColor wanted = toQt(darkEnoughForWhite(list_.selectionColor, kSmallTextContrast));
-    if (palette().color(QPalette::Highlight) == wanted)
-        return;
+    const Color white = rgb(255, 255, 255);
     QPalette colors = palette();
-    colors.setColor(QPalette::Highlight, wanted);
+    colors.setColor(
+        QPalette::Highlight,
+        toQt(darkEnoughForWhite(list_.selectionColor, scheme().needed(kSmallTextContrast))));
+    colors.setColor(QPalette::Base, toQt(scheme().ground(white)));
+    colors.setColor(QPalette::AlternateBase, toQt(scheme().ground(style::kHoveredRow)));
+    colors.setColor(QPalette::Text, toQt(scheme().ink(style::kInk, white)));
+    colors.setColor(QPalette::Mid, toQt(scheme().edge(style::kEdge, white)));
+    if (colors == palette())
+        return;
     setPalette(colors);
+    update();
 }
 
 void ListView::syncItems() {
@@ -183,7 +191,12 @@ bool ListView::event(QEvent* event) {
 
 void ListView::paintBox() {
     QPainter painter(this);
-    paintField(painter, rect(), kRadius, rgb(255, 255, 255), hasFocus(), pixelsPerTwip());
+    const auto color = [this](QPalette::ColorRole role) {
+        const QColor painted = palette().color(role);
+        return rgb(painted.red(), painted.green(), painted.blue());
+    };
+    paintField(painter, rect(), {kRadius, color(QPalette::Base), color(QPalette::Mid)}, hasFocus(),
+               pixelsPerTwip());
 }
 
 void ListView::enterEvent(QEnterEvent*) {

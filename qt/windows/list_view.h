@@ -36,7 +36,7 @@ class ListView : public QListWidget, public ControlView {
     void selectionMade();
 
     ListBox& list_;
-    Font shownFont_;
+    QFont shownFont_;
     double shownScale_ = 0;
     std::vector<Text> shownItems_;
     bool writing_ = false;  // it is the screen that changes the list

@@ -100,7 +100,7 @@ void Page::resizeEvent(QResizeEvent*) {
 // Only what no picture of the screen covers.
 void Page::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    paintNotebook(painter, rect(), scale_.origin.y(), scale_.pixels);
+    paintNotebook(painter, rect(), scale_.origin.y(), scale_.pixels, link_.shell().scheme);
 }
 
 void Page::mousePressEvent(QMouseEvent* event) {

@@ -121,6 +121,7 @@ void PageWindow::open() {
             setGeometry(isDialog() ? dialogPlace() : firstPlace());
     }
     show();
+    noteChange();
 }
 
 void PageWindow::restore(const WindowState& state) {
@@ -181,12 +182,13 @@ void PageWindow::noteChange() {
         settled_.start();
 }
 
-// What the desktop makes of the window when it opens is not the player's doing.
+// Where the desktop puts the window when it opens is not the player's doing.
 void PageWindow::keepState() {
     const WindowState state{normalGeometry(), isFullScreen()  ? WindowState::Shown::FullScreen
                                               : isMaximized() ? WindowState::Shown::Maximised
                                                               : WindowState::Shown::Normal};
-    if (known_ && *known_ != state)
+    const bool byPlayer = known_ ? *known_ != state : state.shown != WindowState::Shown::Normal;
+    if (byPlayer)
         memory_->keep(state);
     known_ = state;
 }

@@ -15,7 +15,7 @@ constexpr int kMostRounds = 8;
 
 }  // namespace
 
-Shell::Shell(const FontBook& fontBook) : fonts(fontBook) {}
+Shell::Shell(FontBook& fontBook) : fonts(fontBook) {}
 
 Shell::~Shell() = default;
 
@@ -140,6 +140,23 @@ void Shell::deleteClosed() {
         dialog->deleteLater();
         return true;
     });
+}
+
+void Shell::apply(const Preferences& wanted) {
+    if (wanted == preferences)
+        return;
+    preferences = wanted;
+    scheme = Scheme(wanted);
+    fonts.textSize = wanted.textSize;
+    motions.wanted = !wanted.reducedMotion;
+    event([] {});
+}
+
+void Shell::paintMotions() {
+    if (ended_ || !motions.step())
+        return;
+    if (window_)
+        window_->repaint();
 }
 
 void Shell::showNow() {

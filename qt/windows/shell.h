@@ -12,10 +12,12 @@
 #include "qt/paint/font_book.h"
 #include "qt/paint/paper.h"
 #include "qt/windows/key_mapping.h"
+#include "qt/windows/motions.h"
 #include "qt/windows/window_memory.h"
 #include "toolkit/focus.h"
 #include "toolkit/key_route.h"
 #include "toolkit/preferences.h"
+#include "toolkit/scheme.h"
 
 namespace quillor {
 
@@ -24,14 +26,17 @@ class PageWindow;
 
 class Shell {
   public:
-    explicit Shell(const FontBook& fontBook);
+    explicit Shell(FontBook& fontBook);
     ~Shell();
     Shell(const Shell&) = delete;
     Shell& operator=(const Shell&) = delete;
 
-    const FontBook& fonts;
+    FontBook& fonts;
     PaperCache papers;
-    Preferences preferences;
+    Preferences preferences;  // as last applied
+    Scheme scheme;            // the same, for colours
+    /// The player wants other things of the system now: all windows follow.
+    void apply(const Preferences& wanted);
     /// Where the window is kept between runs; none: it opens anew each time.
     std::optional<WindowMemory> memory;
     KeyRoute keys;
@@ -78,6 +83,11 @@ class Shell {
     /// Puts the window that takes the player's input in front of all others, as far as
     /// the desktop lets it: some want a token for it.
     void comeToFront(const std::string& token);
+
+    /// What moves now. While a sound is played no event is delivered: then `paintMotions` takes
+    /// it a step further and paints it at once.
+    Motions motions;
+    void paintMotions();
 
     /// Brings all pages in step with their screens, and onto the display.
     void showNow();

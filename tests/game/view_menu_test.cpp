@@ -51,6 +51,33 @@ TEST_F(ViewMenu, SwitchesFullScreenAndShowsWhetherItIsOn) {
     EXPECT_TRUE(dynamic_cast<ProgramScreen&>(player.screen()).mView.children.front()->checked);
 }
 
+TEST_F(ViewMenu, SpeaksTheOtherLanguageOnceThePlayerAgrees) {
+    start();
+    desktop.answerQuestion(texts::kAskLanguage.english, false);
+    desktop.chooseFromPopUp("mLanguage");
+    player.click("lblView");
+    EXPECT_TRUE(settings.gbEnglish);
+    desktop.answerQuestion(texts::kAskLanguage.english, true);
+    desktop.chooseFromPopUp("mLanguage");
+    player.click("lblView");
+    desktop.advance(2000);
+    EXPECT_FALSE(settings.gbEnglish);
+    EXPECT_FALSE(run.folder.has("English.txt"));
+    EXPECT_EQ(player.screen().title, texts::kMenuTitle.spanish);
+}
+
+TEST_F(ViewMenu, ClosesTheGameWithWhatStandsOverItForAnotherLanguage) {
+    addTopic(u"A\r\nONE\r\nTWO");
+    openArcade();
+    player.press(key::kReturn);
+    desktop.answerQuestion(texts::kAskLanguage.english, true);
+    desktop.chooseFromPopUp("mLanguage");
+    player.click("lblView");
+    desktop.advance(2000);
+    EXPECT_EQ(front(), "frmMenu");
+    EXPECT_FALSE(gameIsOpen());
+}
+
 TEST_F(ViewMenu, SwitchesFullScreenByBothKeysEvenInAList) {
     addTopic(u"A\r\nONE\r\nTWO");
     openArcade();

@@ -78,6 +78,34 @@ class OneWindow(Player):
         self.go_round(look)
 
 
+    def again(self):
+        self.end_program()
+        self.start_at_menu()
+        self.window = self.desktop.windows.active()
+
+    def test_is_in_the_next_run_where_the_player_left_it(self):
+        windows = self.desktop.windows
+        self.tool("windowsize", self.window, 900, 700)
+        until(lambda: windows.place(self.window)[2:] == (900, 700), "another size")
+        self.tool("windowmove", self.window, 111, 77)
+        until(lambda: "Quillor-Window.ini" in self.files(), "a file that keeps the place")
+        place = windows.place(self.window)
+        until(lambda: f"{place[0]}" in self.get("Quillor-Window.ini").decode(), "the last place")
+        self.again()
+        self.assertEqual(windows.place(self.window), place)
+
+    def test_is_full_screen_again_in_the_next_run(self):
+        self.key("F11")
+        until(lambda: "Quillor-Window.ini" in self.files(), "a file that keeps the state")
+        self.again()
+        until(lambda: "FULLSCREEN" in self.desktop.windows.states(self.window), "a full screen")
+
+    def test_keeps_nothing_of_a_window_that_is_left_alone(self):
+        self.go_round(lambda: None)
+        self.again()
+        self.assertNotIn("Quillor-Window.ini", self.files())
+
+
 class Dialogs(Player):
     """The screens over the game."""
 

@@ -50,7 +50,7 @@ class Shapes(Player):
         self.open_arcade()
         self.expect_bar()
         for x in (1, -1):
-            for y in (60, 500, -1):
+            for y in (130, 500, -1):
                 self.expect_color(PAPER, x, y)
         self.picture("game-tall")
 

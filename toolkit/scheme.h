@@ -1,0 +1,40 @@
+// The colours in which a screen is shown to someone who has asked the system for high contrast
+// or for a dark scheme. Whoever has asked for neither sees the screen's own.
+#pragma once
+
+#include "toolkit/contrast.h"
+#include "toolkit/preferences.h"
+
+namespace quillor {
+
+/// What texts need in high contrast.
+inline constexpr double kHighContrast = 7;
+
+class Scheme {
+  public:
+    Scheme() = default;
+    explicit Scheme(const Preferences& preferences)
+        : dark_(preferences.dark), high_(preferences.highContrast) {}
+
+    bool isUsual() const { return !dark_ && !high_; }
+    bool isHighContrast() const { return high_; }
+
+    /// The colour of something filled.
+    Color ground(Color face) const;
+    /// Of a text or a line on a ground, both as the screen has them. What cannot be told from
+    /// it well enough is made lighter or darker.
+    Color ink(Color ink, Color ground) const;
+    /// Of an edge around something: seen well in high contrast, and faint otherwise.
+    Color edge(Color edge, Color ground) const;
+
+    /// What a text needs that usually needs so much.
+    double needed(double usual) const;
+
+    bool operator==(const Scheme&) const = default;
+
+  private:
+    bool dark_ = false;
+    bool high_ = false;
+};
+
+}  // namespace quillor
