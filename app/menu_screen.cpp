@@ -161,6 +161,7 @@ void frmMenu::layOut() {
         add(face);
         Label& button = lblOption(i + kFirstButton);
         button.role = LabelRole::Button;
+        button.group = 1;
         button.cornerRadius = style::kButtonRadius;
         add(button);
         Label& caption = lblOption(i);

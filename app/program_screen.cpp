@@ -1,5 +1,7 @@
 #include "app/program_screen.h"
 
+#include <utility>
+
 #include "core/numbers.h"
 #include "core/settings_file.h"
 #include "toolkit/style.h"
@@ -62,7 +64,12 @@ std::vector<ViewEntry> commonViewEntries() {
 ProgramScreen::ProgramScreen(const std::string& screenName, Program& program)
     : Screen(screenName), program_(program), settings_(program.settings) {
     makeEntries();
+    lblSpoken.id = "lblSpoken";
+    lblSpoken.role = LabelRole::Notification;
+    lblSpoken.literal = true;
+    add(lblSpoken);
     lblView.id = "lblView";
+    lblView.menu = &mView;
     lblView.role = LabelRole::Button;
     lblView.onClick = [this] { popUpView(); };
     translateView();
@@ -127,6 +134,11 @@ void ProgramScreen::showEntries() {
 void ProgramScreen::popUpView() {
     showEntries();
     program_.desktop.popUp(*this, mView, &lblView);
+}
+
+void ProgramScreen::speak(Text words) {
+    lblSpoken.caption = std::move(words);
+    ++lblSpoken.said;
 }
 
 void ProgramScreen::openHelp() {

@@ -12,11 +12,14 @@ namespace quillor {
 
 class ProgramScreen : public Screen {
   public:
-    Label lblView;  // opens the menu
+    Label lblSpoken;  // never drawn: what is to be heard
+    Label lblView;    // opens the menu
     MenuItem mView;
 
     Program& program() const { return program_; }
 
+    /// Has a screen reader say it, also when it is what was said last.
+    void speak(Text words);
     /// Opens what helps on this screen: the manual, where there is nothing else.
     virtual void openHelp();
     /// A box with the keys of this screen, and those that all have.

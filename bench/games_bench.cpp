@@ -18,7 +18,7 @@ namespace {
 class SilentDesktop : public Desktop {
   public:
     void messageBox(MessageIcon, TextView) override {}
-    bool question(TextView) override { return true; }
+    bool question(TextView, bool) override { return true; }
     Text inputBox(TextView) override { return {}; }
     void aboutBox(TextView, TextView) override {}
     Text clipboard() override { return {}; }

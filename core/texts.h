@@ -261,9 +261,6 @@ inline constexpr TextPair kKeysInventor{
     u"Return: from the name to the phrase; adds the phrase; in the list, saves\r\nDelete: removes "
     u"the selected phrase\r\nBackspace, at the beginning of the topic name: go back\r\n?, in the "
     u"topic name: information"};
-inline constexpr TextPair kLeaveTopic{u"Estás por perder las frases de este tema, ¿quieres salir?",
-                                      u"You're about to lose this topic's phrases, do you want to "
-                                      u"leave?"};
 
 // Classic entry.
 inline constexpr TextPair kEntryTitle{u"Escriba su frase y tema:", u"Write your phrase and topic:"};
@@ -493,6 +490,27 @@ inline constexpr TextPair kSpokenMistakes{u"Errores: ", u"Mistakes: "};
 inline constexpr TextPair kSpokenOf{u" de ", u" of "};
 inline constexpr TextPair kSpokenLetters{u"Letras: ", u"Letters: "};
 inline constexpr TextPair kSpokenAnswer{u"La respuesta: ", u"The answer: "};
+inline constexpr TextPair kSpokenOn{u": sí", u": on"};
+inline constexpr TextPair kSpokenOff{u": no", u": off"};
+inline constexpr TextPair kSpokenWay{u"Selección: ", u"Selection: "};
+inline constexpr TextPair kSpokenPoints{u". Puntos de esta partida: ", u". Points of this game: "};
+inline constexpr TextPair kSpokenNewScore{u". Puntaje: ", u". Score: "};
+inline constexpr TextPair kSpokenBonus{u". Bono del 50%", u". 50% bonus"};
+inline constexpr TextPair kSpokenMinute{u"Queda un minuto.", u"One minute left."};
+inline constexpr TextPair kSpokenHalfMinute{u"Quedan 30 segundos.", u"30 seconds left."};
+inline constexpr TextPair kSpokenTenSeconds{u"Quedan 10 segundos.", u"10 seconds left."};
+inline constexpr TextPair kSpokenNoKey{
+    u" no es una tecla del juego; sólo letras sin acento y números.",
+    u" is no key of the game; only letters without accents "
+    u"and numbers."};
+inline constexpr TextPair kSpokenDesign{u"Diseño: ", u"Design: "};
+inline constexpr TextPair kBoardName{u"Tablero: ", u"Board: "};
+inline constexpr TextPair kBoardTip{u" Flechas: casilla por casilla ", u" Arrows: cell by cell "};
+inline constexpr TextPair kReadBoard{u"Leer el tablero", u"Read the board"};
+inline constexpr TextPair kCell{u"Casilla ", u"Cell "};
+inline constexpr TextPair kCellBlank{u"espacio", u"blank"};
+inline constexpr TextPair kCellHidden{u"por descubrir", u"to be found"};
+inline constexpr TextPair kCellCovered{u"descubierta, oculta", u"found, hidden"};
 
 // Of the folder that the game keeps its files in, which follows.
 inline constexpr TextPair kNothingIsSaved{

@@ -1,6 +1,8 @@
 // What happens in the game, in words, for players who do not see it.
 #pragma once
 
+#include <functional>
+
 #include "app/program.h"
 #include "game/rules/round.h"
 
@@ -8,19 +10,31 @@ namespace quillor {
 
 class Announcer {
   public:
-    explicit Announcer(Program& program);
-
-    Label lblSpoken;  // never drawn; spoken whenever its caption changes
+    using Speak = std::function<void(Text)>;
+    Announcer(Program& program, Speak speak);
 
     void sayNewGame(const Round& round);
     void sayGuess(char16_t key, Happened happened, const Round& round);
-    void sayEnding();
+    /// Won or lost, the answer with its accents, and what it was worth.
+    void sayEnding(const Round& round);
+    /// A minute, 30 and 10 seconds before the clock kills.
+    void sayTime(const Round& round);
+    /// A sign was typed that is no key of the game.
+    void sayNoKey(char16_t sign);
 
   private:
+    Text points() const;
+
     Program& program_;
+    Speak speak_;
 };
+
+/// "Sounds: on", in the interface's language.
+Text switchText(const Program& program, const TextPair& caption, bool on);
 
 /// The phrase spelled as the board shows it, with its gaps.
 Text spelled(const Round& round);
+/// The answer as the board has it at last, with its accents, one blank between words.
+Text answerOf(const Round& round);
 
 }  // namespace quillor

@@ -8,7 +8,7 @@ namespace quillor {
 
 // False, whatever was answered, when the game ended while the question stood.
 bool frmGame::confirmsLeaving() {
-    const bool yes = program_.desktop.question(program_.lang(texts::kLeaveGame));
+    const bool yes = program_.desktop.question(program_.lang(texts::kLeaveGame), true);
     return yes && settings_.giGameState == kPlaying;
 }
 
@@ -24,7 +24,7 @@ bool frmGame::mayLeaveGame() {
 // However many mistakes there are: the program may always be ended.
 bool frmGame::mayQuit() {
     return settings_.giGameState != kPlaying ||
-           program_.desktop.question(program_.lang(texts::kLeaveGame));
+           program_.desktop.question(program_.lang(texts::kLeaveGame), true);
 }
 
 void frmGame::mBack_Click() {
@@ -48,34 +48,47 @@ void frmGame::mDoWay_Click(int index) {
     settings_.gbAutoChoice = false;
     eDoWay(settings_, static_cast<std::int16_t>(index));
     saveSwitches();
+    tellWay();
 }
 
 void frmGame::mDoWayAll_Click(int index) {
     chooseFromAll(settings_, index);
     saveSwitches();
+    tellWay();
 }
 
 void frmGame::eChangeSound() {
     settings_.gbUseSounds = !settings_.gbUseSounds;
     sounds.eActiveSound();
     saveSwitches();
+    tell(switchText(program_, texts::kSpokenSounds, settings_.gbUseSounds));
 }
 
 // Both helps count from the next board on.
 void frmGame::mHelpy_Click() {
     settings_.gbFirstLetter = !settings_.gbFirstLetter;
     saveSwitches();
+    tell(switchText(program_, texts::kMenuFirstLetter, settings_.gbFirstLetter));
 }
 
 void frmGame::mHide_Click() {
     settings_.gbHiddenLetters = !settings_.gbHiddenLetters;
     saveSwitches();
+    tell(switchText(program_, texts::kMenuHiddenLetters, settings_.gbHiddenLetters));
 }
 
 void frmGame::mColor_Click() {
     settings_.gbColorTransition = !settings_.gbColorTransition;
     accent.switchTransition();
     saveSwitches();
+    tell(switchText(program_, texts::kMenuColors, settings_.gbColorTransition));
+}
+
+// As the menu has it checked.
+void frmGame::tellWay() {
+    for (const MenuItem* item : menu.mAuto.children)
+        if (item->radio && item->checked)
+            tell(program_.lang(texts::kSpokenWay) + item->caption);
 }
 
 void frmGame::saveSwitches() {

@@ -25,7 +25,6 @@ Label& describe(Label& label, const char* id, const Font& font, Color ink, Align
 
 void frmGame::layOut() {
     add(imgBack(0));
-    add(announcer.lblSpoken);
     layOutBar();
     layOutFigure();
     layOutStrikes();
@@ -183,6 +182,12 @@ void frmGame::layOutBoard() {
     board.frmeMagic.id = "frmeMagic";
     add(board.frmeMagic);
     add(imgBack(2), &board.frmeMagic);
+    board.lblBoard.id = "lblBoard";
+    board.lblBoard.role = LabelRole::Reader;
+    board.lblBoard.literal = true;
+    board.lblBoard.cornerRadius = style::kButtonRadius;
+    board.lblBoard.visible = false;
+    add(board.lblBoard, &board.frmeMagic);
     add(board.lnLetter, &board.frmeMagic);
     add(board.lblLetter, &board.frmeMagic);
     for (int i = 1; i <= kBoardCells; ++i) {
@@ -223,6 +228,7 @@ void frmGame::layOutKeyboard() {
         add(face, &frame);
         Label& label = keyboard.lblKey(key);
         label.role = LabelRole::Button;
+        label.group = Keyboard::kGroup;
         label.cornerRadius = kKeyRadius;
         add(label, &frame);
     };

@@ -104,6 +104,7 @@ void frmGame::ePlayNewGame() {
     if (settings_.giGameState != kPlaying)
         return;
     announcer.sayNewGame(round);
+    setFocus(keyboard.firstKey());
     if (settings_.gbAgainstClock) {
         ePutSomeTime(round, static_cast<int>(settings_.gsPhrase.size()));
         clock.start(round);
@@ -155,6 +156,8 @@ void frmGame::eEnterWord() {
 void frmGame::passSecond() {
     const Happened happened = quillor::passSecond(settings_, round);
     clock.show(round);
+    if (happened == Happened::Nothing && settings_.giGameState == kPlaying)
+        announcer.sayTime(round);
     show(happened);
 }
 
@@ -190,7 +193,7 @@ void frmGame::endGame(Happened how) {
     clock.stop();
     webSearch.offer(true);
     score.showPoints();
-    announcer.sayEnding();
+    announcer.sayEnding(round);
     // Named at once: the sixth mistake's own sound must not play under the box.
     sounds.name(dead ? sound::kDeath : sound::kVictory);
     if (tourCompleted)

@@ -12,6 +12,10 @@
 
 namespace quillor {
 
+namespace {
+constexpr int kTipHold = 4000;  // ms
+}
+
 frmGame::frmGame(Program& program)
     : ProgramScreen("frmGame", program),
       menu(program, commands()),
@@ -24,7 +28,7 @@ frmGame::frmGame(Program& program)
       clock(program, [this] { passSecond(); }),
       status(program),
       playButton(program, [this] { keyboard.leaveKeys(); }),
-      announcer(program),
+      announcer(program, [this](Text words) { speak(std::move(words)); }),
       accent(program, [this](Color color) { paintAccent(color); }) {
     layOut();
     addTimers();
@@ -54,6 +58,18 @@ void frmGame::connect() {
     playButton.lblPlay(0).onClick = [this] { ePlayButton(); };
     sounds.lblWave(0).onClick = [this] { eChangeSound(); };
     lblMenu.onClick = [this] { popUpMenu(&lblMenu); };
+    lblMenu.menu = &menu.mMenu;
+    tmrTip.id = "tmrTip";
+    tmrTip.interval = kTipHold;
+    tmrTip.onTick = [this] { showTip(); };
+    add(tmrTip);
+    board.lblBoard.onMouseMove = [this] { mouseLeftButtons(); };
+    board.lblBoard.onKeyDown = [this](KeyEvent& event) {
+        const Text words = board.readCell(round, event.code, settings_);
+        event.handled = !words.empty();
+        if (event.handled)
+            speak(words);
+    };
     for (Label* label : {&lblMenu, &lblView})
         showPress(*label, label->textColor, settings_.glGrey, settings_.glWhite);
     // What the mouse moves over beside the keys puts their light out.
@@ -119,15 +135,42 @@ void frmGame::onKeyPress(char16_t character) {
                         (character >= u'a' && character <= u'z') || character == u'Ñ' ||
                         character == u'ñ';
     const bool digit = character >= u'0' && character <= u'9';
+    const bool playing = settings_.giGameState == kPlaying;
     if (letter || digit)
         guess(character);
     else if (character == u'!')
         eEnterWord();
     else if (character == u'?' && webSearch.lblFinder(0).visible)
         webSearch.lblFinder_Click();
+    else if (playing && character > u' ' && character != u'?')
+        announcer.sayNoKey(character);
+}
+
+// The focus coming to the board has it read.
+void frmGame::readBoard() {
+    if (focused == &board.lblBoard)
+        speak(board.lblBoard.spokenName);
+    else
+        setFocus(board.lblBoard);
+}
+
+// What has just been changed stands in the tip line for a moment, and is said.
+void frmGame::tell(Text what) {
+    lblHey.caption = what;
+    // Another interval starts the timer anew.
+    tmrTip.interval = tmrTip.interval == kTipHold ? kTipHold + 1 : kTipHold;
+    tmrTip.enabled = true;
+    speak(std::move(what));
 }
 
 void addGameScreens(Program& program) {
+    const auto reads = [](const ProgramScreen& screen) {
+        const auto* game = dynamic_cast<const frmGame*>(&screen);
+        return game && game->board.lblBoard.visible;
+    };
+    const auto read = [](ProgramScreen& screen) { dynamic_cast<frmGame&>(screen).readBoard(); };
+    program.viewEntries.insert(program.viewEntries.begin() + 1,
+                               {"mReadBoard", texts::kReadBoard, {key::kF4}, {}, read, {}, reads});
     program.addScreen(ScreenId::Game,
                       [](Program& owner) { return std::make_unique<frmGame>(owner); });
 }
@@ -175,6 +218,7 @@ void frmGame::eTranslate() {
     sounds.eTranslate();
     lblMenu.caption = u"&" + menu.mMenu.caption;
     lblMode.toolTip = program_.lang(texts::kModeTip);
+    board.lblBoard.toolTip = program_.lang(texts::kBoardTip);
     board.lblTopic.toolTip = program_.lang(texts::kTopicTip);
     clock.lblTime.toolTip = program_.lang(texts::kTimeTip);
     status.lblStatus.toolTip = program_.lang(texts::kStatusTip);
@@ -200,7 +244,13 @@ void frmGame::ePutSomeLucky() {
     program_.desktop.seedRandom();
     const auto tip = static_cast<std::size_t>(program_.desktop.random() *
                                               static_cast<double>(texts::kTips.size()));
-    lblHey.caption = program_.lang(texts::kTips.at(tip));
+    tip_ = program_.lang(texts::kTips.at(tip));
+    showTip();
+}
+
+void frmGame::showTip() {
+    tmrTip.enabled = false;
+    lblHey.caption = tip_;
 }
 
 }  // namespace quillor

@@ -40,6 +40,7 @@ class frmGame : public ProgramScreen {
     StatusLine status;
     PlayButton playButton;
     Announcer announcer;
+    Timer tmrTip;  // how long the tip line shows what has been changed
     Accent accent;
 
     void takePaper(const ImageRef& paper) override;
@@ -51,6 +52,8 @@ class frmGame : public ProgramScreen {
     void eChangeTitle();
     /// Shows a tip drawn at random.
     void ePutSomeLucky();
+    /// Has the board read, as it shows itself.
+    void readBoard();
 
   protected:
     std::span<const Sheet> sheets() const override;
@@ -116,10 +119,14 @@ class frmGame : public ProgramScreen {
     void mHide_Click();
     void mColor_Click();
     void saveSwitches();
+    void tell(Text what);
+    void tellWay();
+    void showTip();
 
     void say(const TextPair& text);
 
-    bool idlePage_ = false;    // nothing is played, and something is drawn in its place
+    bool idlePage_ = false;  // nothing is played, and something is drawn in its place
+    Text tip_;
     bool topicDealt_ = false;  // Repeat and Tour have a topic to start from
     Played typed_;             // what was typed since progress was noted
 };

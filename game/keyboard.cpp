@@ -76,6 +76,13 @@ void Keyboard::arrange(Twips left, Twips top, Twips width, const Grid& grid) {
     frmeNumbers.place(0, heightOf(rows) + grid.gap, width, heightOf(digitRows));
 }
 
+Label& Keyboard::firstKey() {
+    for (Label& label : lblKey)
+        if (isUsable(label))
+            return label;
+    return lblKey(kWriteKey);
+}
+
 void Keyboard::eTranslate() {
     lblKey(kNumbersKey).toolTip = program_.lang(texts::kNumbersTip);
     lblKey(kNumbersKey).spokenName = program_.lang(texts::kSpokenNumbers);

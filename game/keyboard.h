@@ -17,6 +17,7 @@ class Keyboard {
     static constexpr int kNumbersKey = 38;    // shows the digits
     static constexpr int kHideNumbersKey = 39;
     static constexpr int kWriteKey = 40;
+    static constexpr int kGroup = 1;  // whose arrow keys lead from key to key
 
     /// Whom the keys tell.
     struct Told {
@@ -42,6 +43,9 @@ class Keyboard {
         float commandFontSize = 14;  // the same
     };
     void arrange(Twips left, Twips top, Twips width, const Grid& grid);
+
+    /// The first one that has not been used.
+    Label& firstKey();
 
     void eTranslate();
     /// Fills the table of the keys' colours from the palette, and paints them.

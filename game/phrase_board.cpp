@@ -1,8 +1,13 @@
 // Cells find their places once a game; afterwards they only show or hide.
 #include "game/phrase_board.h"
 
+#include <algorithm>
+#include <cstdlib>
+#include <optional>
+
 #include "core/numbers.h"
 #include "core/texts.h"
+#include "game/announcer.h"
 #include "ui/colors.h"
 
 namespace quillor {
@@ -19,6 +24,47 @@ void underlineMissed(Line& line, const GameSettings& settings) {
     constexpr Twips kThick = 120;
     line.color = settings.glRed;
     line.thickness = kThick;
+}
+
+// Where a key leads among the letters' cells, as a position in `letters`; at the ends it
+// stays. A cursor that is nowhere yet comes to the first one.
+std::optional<std::size_t> letterAt(const std::vector<std::size_t>& letters, std::size_t cursor,
+                                    int keyCode) {
+    if (letters.empty())
+        return std::nullopt;
+    const auto found = std::find(letters.begin(), letters.end(), cursor);
+    const bool known = found != letters.end();
+    const auto at = known ? static_cast<std::size_t>(found - letters.begin()) : 0;
+    const auto nearest = [&](std::ptrdiff_t cell) {
+        const auto row = cell < 0 ? -1 : cell / kRowCells;
+        std::size_t best = at;
+        std::ptrdiff_t distance = kBoardCells;
+        for (std::size_t i = 0; i < letters.size(); ++i) {
+            const auto each = static_cast<std::ptrdiff_t>(letters[i]);
+            if (each / kRowCells == row && std::abs(each - cell) < distance) {
+                best = i;
+                distance = std::abs(each - cell);
+            }
+        }
+        return best;
+    };
+    const auto here = static_cast<std::ptrdiff_t>(letters[at]);
+    switch (keyCode) {
+        case key::kLeft:
+            return at > 0 ? at - 1 : 0;
+        case key::kRight:
+            return known && at + 1 < letters.size() ? at + 1 : at;
+        case key::kHome:
+            return 0;
+        case key::kEnd:
+            return letters.size() - 1;
+        case key::kUp:
+            return nearest(here - kRowCells);
+        case key::kDown:
+            return nearest(here + kRowCells);
+        default:
+            return std::nullopt;
+    }
 }
 
 }  // namespace
@@ -38,6 +84,8 @@ void PhraseBoard::layOut(const GameSettings& settings, const Round& round) {
     for (std::size_t i = 0; i < round.cells.size(); ++i)
         placeCell(static_cast<int>(i) + 1, round.cells[i]);
     frmeMagic.height += lblCont.height;
+    lblBoard.place(0, 0, frmeMagic.width, frmeMagic.height);
+    cursor_ = round.cells.size();
     show(settings, round);
     ePutAllCenter();
 }
@@ -58,6 +106,8 @@ void PhraseBoard::placeCell(int cell, const Cell& state) {
 }
 
 void PhraseBoard::show(const GameSettings& settings, const Round& round) {
+    lblBoard.visible = settings.giGameState != kIdle;
+    lblBoard.spokenName = eLang(settings, texts::kBoardName) + spelled(round);
     for (std::size_t i = 0; i < round.cells.size(); ++i) {
         const Cell& cell = round.cells[i];
         const int number = static_cast<int>(i) + 1;
@@ -91,6 +141,25 @@ void PhraseBoard::arrange(const Area& area) {
         ePutAllCenter();
 }
 
+Text PhraseBoard::readCell(const Round& round, int keyCode, const GameSettings& settings) {
+    std::vector<std::size_t> letters;
+    for (std::size_t i = 0; i < round.cells.size(); ++i)
+        if (round.cells[i].isLetter())
+            letters.push_back(i);
+    const std::optional<std::size_t> to = letterAt(letters, cursor_, keyCode);
+    if (!to)
+        return {};
+    cursor_ = letters[*to];
+    const Cell& cell = round.cells[cursor_];
+    Text words = eLang(settings, texts::kCell) + inDigits(static_cast<int>(*to) + 1) + u": ";
+    if (cell.startsWord && *to > 0)
+        words = eLang(settings, texts::kCellBlank) + u". " + words;
+    const Text shown = captionOf(cell, round);
+    if (!cell.isFound())
+        return words + eLang(settings, texts::kCellHidden);
+    return words + (shown == u"?" ? eLang(settings, texts::kCellCovered) : shown);
+}
+
 void PhraseBoard::clear(const GameSettings& settings) {
     for (int cell = 1; cell <= kBoardCells; ++cell) {
         lblLetter(cell).caption.clear();
@@ -102,7 +171,7 @@ void PhraseBoard::clear(const GameSettings& settings) {
             lnLetter(cell).thickness = plainLine_->thickness;
         }
     }
-    lblCont.visible = false;
+    lblCont.visible = lblBoard.visible = false;
     lblTopic.caption = eLang(settings, texts::kNoTopicShown);
 }
 

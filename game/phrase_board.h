@@ -21,6 +21,7 @@ class PhraseBoard {
     Frame frmeMagic;
     ControlArray<Line, 1, kBoardCells> lnLetter{"lnLetter"};
     ControlArray<Label, 1, kBoardCells> lblLetter{"lblLetter"};
+    Label lblBoard;  // all over the frame: read as a whole, and by arrow keys cell by cell
     Label lblCont;
     Label lblTopic;
 
@@ -34,6 +35,9 @@ class PhraseBoard {
     void ePutAllCenter();
     /// The area available for the board, in twips; the board moves into it.
     void arrange(const Area& area);
+    /// Goes from letter to letter by an arrow key, Home or End, and says what the board
+    /// shows there; nothing for another key.
+    Text readCell(const Round& round, int keyCode, const GameSettings& settings);
     /// Hides every cell and underline.
     void clear(const GameSettings& settings);
 
@@ -43,6 +47,7 @@ class PhraseBoard {
     Picture& paper_;
     Twips widestCell_ = 0;
     std::optional<Line> plainLine_;  // under the letters, as the design has it
+    std::size_t cursor_ = 0;         // the cell that was read last
 };
 
 /// The picture in a frame lines up with the one behind the frame.

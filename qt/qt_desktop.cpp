@@ -78,9 +78,10 @@ void QtDesktop::messageBox(MessageIcon icon, TextView text) {
     });
 }
 
-bool QtDesktop::question(TextView text) {
-    return shell_.modally(
-        [&] { return askQuestion(boxStyle(), toQt(text), lang(texts::kYes), lang(texts::kNo)); });
+bool QtDesktop::question(TextView text, bool yesLoses) {
+    return shell_.modally([&] {
+        return askQuestion(boxStyle(), toQt(text), lang(texts::kYes), lang(texts::kNo), yesLoses);
+    });
 }
 
 Text QtDesktop::inputBox(TextView prompt) {
@@ -162,7 +163,8 @@ void QtDesktop::popUp(Screen& screen, MenuItem& menu, const Control* under) {
                                             : QCursor::pos();
     BoxStyle style = boxStyle();
     style.parent = &page->pageWindow();
-    MenuItem* chosen = shell_.modally([&] { return choosePopUp(style, menu, at); });
+    const bool byKey = shell_.isKeyEvent();
+    MenuItem* chosen = shell_.modally([&] { return choosePopUp(style, menu, at, byKey); });
     if (chosen && shell_.isOpen(screen))
         screen.choose(*chosen);
 }

@@ -25,7 +25,7 @@ class QtDesktop : public Desktop {
     std::function<void()> beforeRestart;
 
     void messageBox(MessageIcon icon, TextView text) override;
-    bool question(TextView text) override;
+    bool question(TextView text, bool yesLoses) override;
     Text inputBox(TextView prompt) override;
     void aboutBox(TextView title, TextView text) override;
     Text clipboard() override;

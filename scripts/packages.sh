@@ -10,7 +10,7 @@
     # A screen that exists in memory alone, and a window manager for it.
     packages_virtual_display=(xvfb openbox dbus)
     packages_test=(libgtest-dev libgmock-dev libbenchmark-dev xdotool imagemagick at-spi2-core
-        weston python3 python3-gi python3-xlib hunspell hunspell-es hunspell-en-us)
+        weston orca python3 python3-gi python3-xlib hunspell hunspell-es hunspell-en-us)
     # One version of the formatter, because each formats a little differently.
     packages_check=(clang-format-14 clang-tidy-14 shellcheck desktop-file-utils appstream
         man-db)
@@ -61,9 +61,9 @@ compiler, CMake 3.25, Ninja, Qt 6.4, SDL 2, mpg123 and a rounded font; its tests
 GoogleTest and Google Benchmark, and its window tests (Linux only) an X server in memory:
   Fedora: sudo dnf install gcc-c++ cmake ninja-build qt6-qtbase-devel SDL2-devel mpg123-devel \
             aajohan-comfortaa-fonts gtest-devel gmock-devel google-benchmark-devel xorg-x11-server-Xvfb openbox xdotool \
-            ImageMagick weston dbus-daemon at-spi2-core python3-gobject python3-xlib hunspell-es hunspell-en-US
+            ImageMagick weston orca dbus-daemon at-spi2-core python3-gobject python3-xlib hunspell-es hunspell-en-US
   Arch:   sudo pacman -S --needed gcc cmake ninja qt6-base sdl2 mpg123 ttf-nunito gtest benchmark \
-            xorg-server-xvfb openbox xdotool imagemagick weston at-spi2-core python-gobject python-xlib hunspell-es_es hunspell-en_us
+            xorg-server-xvfb openbox xdotool imagemagick weston orca at-spi2-core python-gobject python-xlib hunspell-es_es hunspell-en_us
   macOS:  xcode-select --install; brew install cmake ninja qt sdl2 mpg123 googletest google-benchmark
             brew install --cask font-quicksand
 END

@@ -31,7 +31,12 @@ Area areaOnScreen(const Control& control) {
 }
 
 bool isButton(const Label& label) {
-    return label.role != LabelRole::Plain && label.role != LabelRole::Notification;
+    return label.role == LabelRole::Button || label.role == LabelRole::CheckBox ||
+           label.role == LabelRole::RadioButton;
+}
+
+bool takesFocus(const Label& label) {
+    return isButton(label) || label.role == LabelRole::Reader;
 }
 
 bool isPressable(const Label& label) {

@@ -15,6 +15,7 @@
 namespace quillor {
 
 struct Frame;
+struct MenuItem;
 
 /// Which of the program's typefaces a text is drawn in.
 enum class Face {
@@ -63,6 +64,7 @@ struct Control {
     Twips height = 0;
     bool visible = true;
     bool enabled = true;
+    int group = 0;  // controls of one: arrow keys go from one to the next, Tab leaves; 0: none
     Text toolTip;
     Text spokenName;  // accessible name where the caption is a symbol or there is none
     Motion motion = Motion::Appear;
@@ -95,7 +97,8 @@ enum class LabelRole {
     Button,        // pressed by click, by Space, or as the screen says
     CheckBox,      // a button whose `checked` is spoken
     RadioButton,   // the same, one of several
-    Notification,  // spoken when its caption changes, never drawn
+    Notification,  // spoken when `said` is raised, never drawn
+    Reader,        // read, and reached by Tab: its own keys lead about in it
 };
 
 struct Label : Control {
@@ -110,17 +113,22 @@ struct Label : Control {
     bool wordWrap = false;
     LabelRole role = LabelRole::Plain;
     bool checked = false;
-    bool tabStop = true;  // for buttons: reached by Tab
+    bool tabStop = true;       // for buttons: reached by Tab
+    int said = 0;              // for notifications: how often something was said
+    MenuItem* menu = nullptr;  // what pressing it pops up
 
     std::function<void()> onClick;  // left button released over it, Space, or assistive press
     std::function<void()> onRightClick;
     std::function<void()> onMouseDown;  // left button
     std::function<void()> onMouseUp;
-    std::function<void()> onMouseMove;  // also when the mouse enters it
+    std::function<void()> onMouseMove;         // also when the mouse enters it
+    std::function<void(KeyEvent&)> onKeyDown;  // while it has the focus
 };
 
 /// Whether it is a button of any kind, which may have the focus.
 bool isButton(const Label& label);
+/// Whether it may have the focus.
+bool takesFocus(const Label& label);
 /// Whether pressing it does something now.
 bool isPressable(const Label& label);
 

@@ -33,8 +33,8 @@ class Desktop {
     virtual ~Desktop() = default;
 
     virtual void messageBox(MessageIcon icon, TextView text) = 0;
-    /// Yes or No; closing the box is No.
-    virtual bool question(TextView text) = 0;
+    /// Yes or No; closing the box is No. Where Yes loses something, Return means No.
+    virtual bool question(TextView text, bool yesLoses = false) = 0;
     /// What was typed; empty when the box was cancelled.
     virtual Text inputBox(TextView prompt) = 0;
     virtual void aboutBox(TextView title, TextView text) = 0;

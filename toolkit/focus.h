@@ -2,6 +2,7 @@
 // through them.
 #pragma once
 
+#include <map>
 #include <vector>
 
 #include "toolkit/screen.h"
@@ -23,25 +24,39 @@ class Focus {
     }
 
     /// After each event: grants the screen's wish, and leaves a control that can no
-    /// longer be used, or none, for the screen's first choice.
+    /// longer be used for the next one of its group, or for the screen's first choice.
     void settle();
     /// The player has chosen a control by the mouse. Nothing happens at one that cannot be used.
     void take(Control& control);
-    /// Tab: on to the next control in reading order, and round. What is in a field that
-    /// is entered so is selected.
+    /// Tab: on to the next control in reading order, and round. A group is one stop:
+    /// that which had the focus last in it, or else its first one. What is in
+    /// a field that is entered so is selected.
     void next() { step(1); }
     void previous() { step(-1); }
+    /// An arrow key, Home or End, in a group: to the neighbour in its row, round at its
+    /// ends, or in the row above or below. False: the focus is in no group, or it is
+    /// another key.
+    bool moveInGroup(int keyCode);
+    /// Whether arrow keys move the focus.
+    bool hasArrows() const { return control_ && control_->group != 0; }
 
   private:
     void moveTo(Control* control);
     void step(int by);
+    Control* heir(const Control& lost) const;
+    Control* entry(Control& member) const;
 
     Screen& screen_;
     Control* control_ = nullptr;
+    std::map<int, Control*> last_;  // of each group, what had the focus
 };
 
 /// The buttons, fields and lists that take Tab now: row by row from the top, each row
 /// from the left.
 std::vector<Control*> readingOrder(const Screen& screen);
+
+/// What is told of a screen, in reading order: what has words now, and each button once.
+/// Things to be said stand at the end.
+std::vector<Control*> spokenOrder(const Screen& screen);
 
 }  // namespace quillor

@@ -46,7 +46,7 @@ KeyRoute::Rest KeyRoute::press(Screen& screen, Focus& focus, const KeyPress& pre
 
 bool KeyRoute::mayRepeat(const Screen& screen, const Focus& focus, const KeyPress& press) const {
     return held_ && held_->types && held_->id == press.id && held_->screen == &screen &&
-           (held_->focused == focus.control() || press.key.code == key::kTab);
+           (held_->focused == focus.control() || press.key.code == key::kTab || focus.hasArrows());
 }
 
 void KeyRoute::letRepeat(bool types) {
@@ -62,6 +62,8 @@ bool KeyRoute::isTaken(Screen& screen, Focus& focus, KeyEvent key) {
         screen.fieldKeyDown(*field, key);
     else if (auto* list = focus.as<ListBox>())
         screen.listKeyDown(*list, key);
+    else if (auto* label = focus.as<Label>())
+        screen.labelKeyDown(*label, key);
     if (key.handled || !goesOn(screen))
         return true;
     screen.keyUnused(key);
@@ -93,6 +95,8 @@ KeyRoute::Rest KeyRoute::serve(Screen& screen, Focus& focus, const KeyPress& pre
     }
     if (auto* field = focus.as<TextField>())
         return serveField(screen, *field, press);
+    if (moveInGroup(focus, press.key))
+        return Rest::None;
     if (pressButton(screen, focus, press))
         return Rest::None;
     const bool list = focus.as<ListBox>() != nullptr;
@@ -100,6 +104,14 @@ KeyRoute::Rest KeyRoute::serve(Screen& screen, Focus& focus, const KeyPress& pre
     if (!press.autoRepeat)
         typeOn(screen, press.typed);
     return list && goesOn(screen) ? Rest::List : Rest::None;
+}
+
+bool KeyRoute::moveInGroup(Focus& focus, const KeyEvent& key) {
+    const bool plain = !key.control && !key.alt && !key.shift;
+    if (!plain || !focus.moveInGroup(key.code))
+        return false;
+    letRepeat(true);
+    return true;
 }
 
 KeyRoute::Rest KeyRoute::serveField(Screen& screen, TextField& field, const KeyPress& press) {

@@ -59,6 +59,7 @@ class KeyRoute {
     Rest serve(Screen& screen, Focus& focus, const KeyPress& press);
     Rest serveField(Screen& screen, TextField& field, const KeyPress& press);
     bool typeInto(Screen& screen, TextField& field, TextView typed);
+    bool moveInGroup(Focus& focus, const KeyEvent& key);
     bool pressButton(Screen& screen, Focus& focus, const KeyPress& press);
     void pressLabel(Screen& screen, Label& label);
     void typeOn(Screen& screen, TextView text);

@@ -22,6 +22,7 @@ inline constexpr int kKeypad0 = 96;  // keypad digits are 96..105
 inline constexpr int kF1 = 112;
 inline constexpr int kF2 = 113;
 inline constexpr int kF3 = 114;
+inline constexpr int kF4 = 115;
 inline constexpr int kF10 = 121;
 inline constexpr int kF11 = 122;
 inline constexpr int kLastFunctionKey = 135;  // F24

@@ -194,6 +194,11 @@ void Screen::dropFiles(const std::vector<std::filesystem::path>& files) {
         quietly(name + "_DropFiles", [&] { onFilesDropped(files); });
 }
 
+void Screen::labelKeyDown(Label& label, KeyEvent& event) {
+    if (enabled && label.enabled && label.onKeyDown)
+        quietly(label.id + "_KeyDown", [&] { label.onKeyDown(event); });
+}
+
 void Screen::listKeyDown(ListBox& list, KeyEvent& event) {
     if (enabled && list.enabled && list.onKeyDown)
         quietly(list.id + "_KeyDown", [&] { list.onKeyDown(event); });

@@ -24,8 +24,9 @@ class Screen {
     Text title;
     Twips width = 0;
     Twips height = 0;
-    bool enabled = true;           // false while a screen stands over it
-    const Screen* over = nullptr;  // the screen that this one stands over, if any
+    bool enabled = true;               // false while a screen stands over it
+    const Screen* over = nullptr;      // the screen that this one stands over, if any
+    const Control* focused = nullptr;  // as Focus has moved it; null: none
 
     /// What fills the window: the screen, or a page that it stands in the middle of. Of no
     /// size where a screen has one layout only.
@@ -92,6 +93,7 @@ class Screen {
     void doubleClick(ListBox& list);
     /// Files that were dropped on the screen; nothing where it takes none.
     void dropFiles(const std::vector<std::filesystem::path>& files);
+    void labelKeyDown(Label& label, KeyEvent& event);
     void listKeyDown(ListBox& list, KeyEvent& event);
 
   protected:

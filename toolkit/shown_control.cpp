@@ -30,6 +30,11 @@ bool isChecked(const ControlRef& ref) {
     return label != nullptr && (*label)->checked;
 }
 
+int saidOf(const ControlRef& ref) {
+    auto* const* label = std::get_if<Label*>(&ref);
+    return label ? (*label)->said : 0;
+}
+
 // Where a line stands is part of its look.
 Area areaOf(const Control& control) {
     return {control.left, control.top, control.width, control.height};
@@ -91,6 +96,7 @@ ShownControl::Changes ShownControl::update(const ControlRef& ref) {
     changes.place = assign(area, areaOf(control));
     changes.words = assign(name, seen ? nameOf(ref) : Text());
     changes.words |= assign(toolTip, seen ? control.toolTip : Text());
+    changes.words |= assign(said, saidOf(ref));
     changes.state = assign(visible, control.visible);
     changes.state |= assign(enabled, control.enabled);
     changes.checked = assign(checked, isChecked(ref));

@@ -94,6 +94,7 @@ struct ShownControl {
     Text name;             // as it is spoken; empty while the control is not seen
     Text toolTip;          // the same
     bool checked = false;
+    int said = 0;
     ShownLook look;
 
     struct Changes {

@@ -308,7 +308,8 @@ void frmInventor::saveTopic() {
 }
 
 bool frmInventor::mayLoseTopic() {
-    return lstTopics.items.empty() || program_.desktop.question(program_.lang(texts::kLoseTopic));
+    return lstTopics.items.empty() ||
+           program_.desktop.question(program_.lang(texts::kLoseTopic), true);
 }
 
 void frmInventor::lblOpen_Click() {
@@ -353,7 +354,7 @@ void frmInventor::onFilesDropped(const std::vector<std::filesystem::path>& files
 
 // Escape is pressed by mistake more easily than the button.
 void frmInventor::goBack() {
-    if (lstTopics.items.empty() || program_.desktop.question(program_.lang(texts::kLeaveTopic)))
+    if (mayLoseTopic())
         lblBack_Click();
 }
 

@@ -76,7 +76,8 @@ void frmInventor::layOut() {
 
     add(styled(shpSave, "shpSave"));
     lblSave(0).role = lblSave(1).role = LabelRole::Button;
-    lblSave(0).tabStop = false;
+    lblSave(1).tabStop = false;
+    lblSave(0).cornerRadius = style::kButtonRadius;
     add(lblSave(0));
     add(lblSave(1));
     fit(kWideSheet.width, kWideSheet.height);

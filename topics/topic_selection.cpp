@@ -49,6 +49,9 @@ void frmWord2::fillList() {
     const int topics = static_cast<int>(lstTopics.items.size());
     if (settings_.giTopicIndex >= 0 && topics > settings_.giTopicIndex)
         lstTopics.select(settings_.giTopicIndex);
+    // A screen reader says how many there are, and not which one is selected.
+    if (lstTopics.listIndex() >= 0)
+        speak(lstTopics.items.at(static_cast<std::size_t>(lstTopics.listIndex())));
 }
 
 void frmWord2::lblOk_Click() {
@@ -76,6 +79,7 @@ void frmWord2::eChangeMode(int step) {
     if (pendingMode_ >= kManual && pendingMode_ <= kTour)
         lblOpt.caption =
             program_.lang(texts::kSelectionModes.at(static_cast<std::size_t>(pendingMode_)));
+    speak(program_.lang(texts::kSpokenWay) + lblOpt.caption);
 }
 
 void frmWord2::lstTopics_KeyDown(KeyEvent& event) {

@@ -47,9 +47,10 @@ void frmProgress::connect() {
     showPress(lblEmpty, lblEmpty.textColor, settings_.glGrey, settings_.glWhite);
     tmrSpeak.onTick = [this] {
         tmrSpeak.enabled = false;
+        Text words;
         for (const Label& count : lblCount)
-            lblSpoken.caption += count.caption + u". ";
-        lblSpoken.caption += lblScores.caption;
+            words += count.caption + u". ";
+        speak(words + lblScores.caption);
     };
 }
 
@@ -132,7 +133,7 @@ void frmProgress::showTopics(const Progress& progress) {
 }
 
 void frmProgress::lblEmpty_Click() {
-    if (!program_.desktop.question(program_.lang(texts::kAskEmpty)))
+    if (!program_.desktop.question(program_.lang(texts::kAskEmpty), true))
         return;
     emptyProgress(program_.folder);
     show(readProgress(program_.folder).value_or(Progress{}));
@@ -154,9 +155,6 @@ void frmProgress::layOut() {
     tmrSpeak.id = "tmrSpeak";
     tmrSpeak.interval = kSpeakDelay;
     add(tmrSpeak);
-    lblSpoken.id = "lblSpoken";
-    lblSpoken.role = LabelRole::Notification;
-    add(lblSpoken);
     layOutHead();
     const auto text = [this](Label& label) -> Label& {
         label.font = style::kText;

@@ -26,7 +26,6 @@ class frmProgress : public ProgramScreen {
     ControlArray<Line, 1, kLastScore> lnScore{"lnScore"};  // each to its score, from the one before
     Label lblTopics;
     ListBox lstTopics;
-    Label lblSpoken;
     Timer tmrSpeak;  // once the page is seen
 
     Control* initialFocus() override { return &lstTopics; }

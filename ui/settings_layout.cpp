@@ -63,6 +63,7 @@ void frmOptions::layOutOptions() {
         box.textColor = kPale;
         box.cornerRadius = shpCheck(i).radius;
         box.role = i == 0 ? LabelRole::Plain : LabelRole::CheckBox;
+        box.group = 1;
         add(box);
         Label& words = lblOpts(i);
         words.textColor = kInk;
@@ -83,6 +84,7 @@ void frmOptions::layOutDesigns() {
         lblDs(i).font = {Face::Display, 18, true};
         lblDs(i).textColor = kPale;
         lblDs(i).role = LabelRole::RadioButton;
+        lblDs(i).group = 2;
         lblDs(i).cornerRadius = shpDs(i).radius;
         add(lblDs(i));
     }

@@ -111,6 +111,13 @@ void frmOptions::ePressCheck(int option) {
     eSaveData();
 }
 
+// Wherever the focus is: what has changed is said.
+void frmOptions::pressByKey(int option) {
+    ePressCheck(option);
+    speak(lblCheck(option).spokenName +
+          program_.lang(settingOf(option) ? texts::kSpokenOn : texts::kSpokenOff));
+}
+
 void frmOptions::eSaveData() {
     saveFromSettingsScreen(settings_, program_.folder);
 }
@@ -140,16 +147,16 @@ void frmOptions::lblDs_Click(int design) {
 void frmOptions::onKeyDown(KeyEvent& event) {
     switch (event.code) {
         case 'W':
-            ePressCheck(1);
+            pressByKey(1);
             break;
         case 'D':
-            ePressCheck(2);
+            pressByKey(2);
             break;
         case 'I':
-            ePressCheck(3);
+            pressByKey(3);
             break;
         case 'C':
-            ePressCheck(4);
+            pressByKey(4);
             break;
         case key::kBackspace:
             program_.close(*this);
@@ -160,6 +167,7 @@ void frmOptions::onKeyDown(KeyEvent& event) {
             if (design < 0 || design > kLastDesign)
                 return;
             lblDs_Click(design);
+            speak(program_.lang(texts::kSpokenDesign) + lblDs(design).spokenName);
         }
     }
     event.handled = true;

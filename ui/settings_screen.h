@@ -52,6 +52,7 @@ class frmOptions : public ProgramScreen {
     void eLoadData();
     void eSaveData();
     void ePressCheck(int option);
+    void pressByKey(int option);
     void lblDs_Click(int design);
     void markDesign(int design);
     void paintTiles(int design);

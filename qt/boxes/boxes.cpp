@@ -182,12 +182,16 @@ void showMessage(const BoxStyle& style, BoxSign sign, const QString& text, const
     box.ask(box.addButton(accept, QDialogButtonBox::AcceptRole));
 }
 
-bool askQuestion(const BoxStyle& style, const QString& text, const QString& yes,
-                 const QString& no) {
+bool askQuestion(const BoxStyle& style, const QString& text, const QString& yes, const QString& no,
+                 bool yesLoses) {
     Message box(style, BoxSign::Question, text);
-    QPushButton& agree = box.addButton(yes, QDialogButtonBox::YesRole);
-    box.addButton(no, QDialogButtonBox::NoRole);
-    return box.ask(agree);
+    QPushButton* first = nullptr;
+    for (const bool agrees : {!yesLoses, yesLoses}) {
+        QPushButton& button = box.addButton(
+            agrees ? yes : no, agrees ? QDialogButtonBox::YesRole : QDialogButtonBox::NoRole);
+        first = first ? first : &button;
+    }
+    return box.ask(*first);
 }
 
 QString askText(const BoxStyle& style, const QString& prompt, const QString& accept,

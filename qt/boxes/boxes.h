@@ -9,8 +9,10 @@ namespace quillor {
 
 void showMessage(const BoxStyle& style, BoxSign sign, const QString& text, const QString& accept);
 
-/// True for yes; Escape and the close button mean no.
-bool askQuestion(const BoxStyle& style, const QString& text, const QString& yes, const QString& no);
+/// True for yes; Escape and the close button mean no, and so does Return where yes loses
+/// something.
+bool askQuestion(const BoxStyle& style, const QString& text, const QString& yes, const QString& no,
+                 bool yesLoses = false);
 
 /// What was typed; empty when the box was cancelled.
 QString askText(const BoxStyle& style, const QString& prompt, const QString& accept,

@@ -5,6 +5,7 @@
 #include <QAccessibleObject>
 #include <QActionGroup>
 #include <QMenu>
+#include <QTimer>
 
 #include "qt/windows/qt_values.h"
 
@@ -133,13 +134,15 @@ void fill(QMenu& menu, const MenuItem& source) {
 
 }  // namespace
 
-MenuItem* choosePopUp(const BoxStyle& style, const MenuItem& menu, QPoint at) {
+MenuItem* choosePopUp(const BoxStyle& style, const MenuItem& menu, QPoint at, bool byKey) {
     installEntryAccessibility();
     QMenu popup(toQt(menu.caption), style.parent);
     popup.setAccessibleName(toQt(menu.caption));
     popup.setFont(style.font);
     popup.setPalette(notebookColors(style.accent, rgb(255, 255, 255), style.scheme));
     fill(popup, menu);
+    if (byKey && !popup.actions().isEmpty())
+        QTimer::singleShot(0, &popup, [&] { popup.setActiveAction(popup.actions().front()); });
     const QAction* chosen = popup.exec(at);
     return chosen ? static_cast<MenuItem*>(chosen->data().value<void*>()) : nullptr;
 }

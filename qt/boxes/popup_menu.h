@@ -10,6 +10,7 @@ namespace quillor {
 
 /// Shows the menu's children at a point of the display until one is chosen.
 /// Returns it, or null when the menu was left.
-MenuItem* choosePopUp(const BoxStyle& style, const MenuItem& menu, QPoint at);
+/// Opened by key its first entry is the current one, which a screen reader then says.
+MenuItem* choosePopUp(const BoxStyle& style, const MenuItem& menu, QPoint at, bool byKey = false);
 
 }  // namespace quillor

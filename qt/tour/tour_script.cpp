@@ -179,6 +179,7 @@ class Script {
         key(Qt::Key_F2);
         add(tour_.waitForBox());
         picture("leave-question");
+        key(Qt::Key_Tab);  // from No to Yes
         key(Qt::Key_Return);
         add(tour_.waitFor("frmMenu"));
     }

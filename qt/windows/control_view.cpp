@@ -79,7 +79,7 @@ void ControlView::sync(const TwipScale& scale) {
     QWidget& own = widget();
     if (shown_.enabled && own.testAttribute(Qt::WA_ForceDisabled))
         own.setEnabled(true);
-    if (shown_.visible && own.isHidden())
+    if (shown_.visible && mayShow() && own.isHidden())
         own.show();
     if (control().motions != motions_)
         startMotion();

@@ -78,6 +78,8 @@ class ControlView {
     }
     /// Tells assistive tools what is said of it from now on.
     virtual void syncWords();
+    /// Whether its widget may appear once the control is visible.
+    virtual bool mayShow() const { return true; }
     /// On the screen, in twips.
     virtual QRectF extent() const { return screenRect(control()); }
     /// Whether it fills its place with a ground of its own.

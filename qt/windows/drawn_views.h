@@ -1,4 +1,5 @@
-// Controls that are only painted: shapes, lines, pictures and frames.
+// Controls that are only painted: shapes, lines, pictures and frames. Nothing is said of
+// them.
 #pragma once
 
 #include <QWidget>
@@ -17,6 +18,7 @@ class ShapeView : public QWidget, public ControlView {
 
   protected:
     void syncLook() override;
+    void syncWords() override {}
     bool hasGround() const override { return shape_.filled; }
     void paintEvent(QPaintEvent* event) override;
 
@@ -33,6 +35,7 @@ class LineView : public QWidget, public ControlView {
 
   protected:
     void syncLook() override;
+    void syncWords() override {}
     QRectF extent() const override;
     void paintEvent(QPaintEvent* event) override;
 
@@ -59,6 +62,7 @@ class PictureView : public QWidget, public ControlView {
 
   protected:
     void syncLook() override;
+    void syncWords() override {}
     bool hasGround() const override { return true; }
     void paintEvent(QPaintEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -79,6 +83,7 @@ class FrameView : public QWidget, public ControlView {
 
   protected:
     void syncLook() override;
+    void syncWords() override {}
     bool hasGround() const override { return frame_.opaque; }
     void paintEvent(QPaintEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;

@@ -10,6 +10,10 @@
 
 namespace quillor {
 
+namespace {
+constexpr int kSayAfter = 50;  // ms
+}
+
 void LabelView::syncLook() {
     LabelLook look = lookOf(label_);
     takeGround(look);
@@ -51,7 +55,8 @@ ButtonView::ButtonView(Label& label, ScreenLink& link, QWidget* parent)
     : QAbstractButton(parent), LabelView(label, link) {
     setFocusPolicy(Qt::TabFocus);
     setMouseTracking(true);
-    setCursor(Qt::PointingHandCursor);
+    if (isButton(label))
+        setCursor(Qt::PointingHandCursor);
     setAttribute(Qt::WA_InputMethodEnabled);
     connect(this, &QAbstractButton::pressed,
             [this] { this->link().event([&](Screen& s) { s.mouseDown(this->label()); }); });
@@ -64,6 +69,11 @@ ButtonView::ButtonView(Label& label, ScreenLink& link, QWidget* parent)
 void ButtonView::assistivePress() {
     if (isEnabled() && !link().shell().isModal())
         click();
+}
+
+void ButtonView::assistiveChoose(MenuItem& item) {
+    if (isEnabled() && !link().shell().isModal())
+        link().event([&](Screen& screen) { screen.choose(item); });
 }
 
 void ButtonView::announce(const ShownControl::Changes& changes) {
@@ -152,12 +162,23 @@ void CaptionView::mouseReleaseEvent(QMouseEvent* event) {
 NotificationView::NotificationView(Label& label, ScreenLink& link, QWidget* parent)
     : QLabel(parent), LabelView(label, link) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
+    later_.setSingleShot(true);
+    later_.setInterval(kSayAfter);
+    connect(&later_, &QTimer::timeout, [this] { sayIt(); });
 }
 
-// Screen readers speak a notification when it comes into view.
+// Screen readers speak a notification when it comes into view. Where much happens at
+// once they drop what they are told in its midst: it is said when the rest is over.
 void NotificationView::announce(const ShownControl::Changes& changes) {
-    if (!changes.words || !isVisible())
+    if (changes.words && !label().caption.empty())
+        later_.start();
+}
+
+void NotificationView::sayIt() {
+    if (!link().isOpen())
         return;
+    if (isHidden())
+        return show();
     QAccessibleEvent event(this, QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&event);
 }

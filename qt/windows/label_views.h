@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QTimer>
 
 #include "qt/paint/label_painter.h"
 #include "qt/windows/control_view.h"
@@ -14,6 +15,8 @@ namespace quillor {
 class LabelView : public ControlView {
   public:
     Label& label() const { return label_; }
+    /// Whether another screen stands over its own.
+    bool isCovered() const { return link().screen() && !link().screen()->enabled; }
 
   protected:
     LabelView(Label& label, ScreenLink& link) : ControlView(&label, link), label_(label) {}
@@ -42,6 +45,8 @@ class ButtonView : public QAbstractButton, public LabelView {
     QWidget& widget() override { return *this; }
     /// Presses it for an assistive tool, which knows nothing of open boxes.
     void assistivePress();
+    /// The same for an entry of its menu.
+    void assistiveChoose(MenuItem& item);
 
   protected:
     void announce(const ShownControl::Changes& changes) override;
@@ -82,7 +87,14 @@ class NotificationView : public QLabel, public LabelView {
 
   protected:
     void announce(const ShownControl::Changes& changes) override;
+    /// By itself, with the first thing to say: an empty one would be spoken of.
+    bool mayShow() const override { return false; }
     void paintEvent(QPaintEvent*) override {}
+
+  private:
+    void sayIt();
+
+    QTimer later_;
 };
 
 }  // namespace quillor

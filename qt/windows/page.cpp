@@ -89,6 +89,14 @@ ControlView* Page::view(const Control& control) const {
     return found == viewOf_.end() ? nullptr : found->second;
 }
 
+std::vector<ControlView*> Page::told() const {
+    std::vector<ControlView*> views;
+    if (screen_)
+        for (const Control* control : spokenOrder(*screen_))
+            views.push_back(view(*control));
+    return views;
+}
+
 ControlView* Page::focusedView() const {
     return dynamic_cast<ControlView*>(focusWidget());
 }
@@ -135,8 +143,6 @@ void Page::layOut() {
 void Page::sync() {
     if (!screen_)
         return;
-    if (screen_->enabled != isEnabled())
-        setEnabled(screen_->enabled);
     link_.focus().settle();
     if (!screen_)
         return;

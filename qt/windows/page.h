@@ -63,6 +63,8 @@ class Page : public QWidget {
     /// The control whose widget has the focus; null: none.
     ControlView* focusedView() const;
     ControlView* view(const Control& control) const;
+    /// The screen's controls that are told to a screen reader now, in their order.
+    std::vector<ControlView*> told() const;
     /// Moves the focus to the next control in reading order, which the toolkit
     /// knows and not the chain of widgets: what takes Tab changes all the time.
     bool focusNextPrevChild(bool next) override;

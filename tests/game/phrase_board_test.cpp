@@ -124,11 +124,9 @@ TEST_F(PhraseBoardTest, PutsNoBlankBehindARowThatIsExactlyFull) {
 
 TEST_F(PhraseBoardTest, IsSpelledWithAGapBetweenAllWords) {
     play(u"FRIED CHICKENS NOW");
-    EXPECT_TRUE(
-        game().announcer.lblSpoken.caption.ends_with(u"_ _ _ _ _ , _ _ _ _ _ _ _ _ , _ _ _ "));
+    EXPECT_TRUE(game().lblSpoken.caption.ends_with(u"_ _ _ _ _ , _ _ _ _ _ _ _ _ , _ _ _ "));
     player.type(u"n");
-    EXPECT_TRUE(
-        game().announcer.lblSpoken.caption.ends_with(u"_ _ _ _ _ , _ _ _ _ _ _ N _ , N _ _ "));
+    EXPECT_TRUE(game().lblSpoken.caption.ends_with(u"_ _ _ _ _ , _ _ _ _ _ _ N _ , N _ _ "));
 }
 
 TEST_F(PhraseBoardTest, ShowsSignsOfTopicAndPhraseAsTheyStand) {

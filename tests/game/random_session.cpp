@@ -30,7 +30,7 @@ class BusyDesktop : public FakeDesktop {
 
     void messageBox(MessageIcon, TextView) override { passTime(); }
     void aboutBox(TextView, TextView) override { passTime(); }
-    bool question(TextView) override {
+    bool question(TextView, bool) override {
         passTime();
         return detail % 3 != 0;
     }

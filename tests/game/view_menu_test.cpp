@@ -124,7 +124,7 @@ TEST_F(ViewMenu, AsksBeforeEscapeLosesAnInventedTopic) {
     player.clickInto("txtWord", 0);
     player.type(u"lion");
     player.press(key::kReturn);
-    desktop.answerQuestion(lang(texts::kLeaveTopic), false);
+    desktop.answerQuestion(lang(texts::kLoseTopic), false);
     player.press(key::kEscape);
     EXPECT_EQ(front(), "frmInventor");
 }

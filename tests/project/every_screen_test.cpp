@@ -54,7 +54,7 @@ class EveryScreen : public ::testing::TestWithParam<Place>, public OpenProgram {
     std::vector<Label*> buttons() {
         std::vector<Label*> found = all<Label>();
         std::erase_if(found, [](const Label* label) {
-            return label->role == LabelRole::Plain || label->role == LabelRole::Notification;
+            return !isButton(*label);
         });
         return found;
     }

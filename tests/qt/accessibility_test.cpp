@@ -33,6 +33,85 @@ TEST_F(Accessibility, NamesACaptionThatIsDataAsItStands) {
     EXPECT_EQ(spoken(title).text(QAccessible::Name), "R&B && 100%S");
 }
 
+std::vector<std::string> namesBelow(const QAccessibleInterface& above) {
+    std::vector<std::string> names;
+    for (int i = 0; i < above.childCount(); ++i) {
+        const QAccessibleInterface* child = above.child(i);
+        EXPECT_EQ(above.indexOfChild(child), i);
+        EXPECT_EQ(child->parent(), &above);
+        names.push_back(child->text(QAccessible::Name).toStdString());
+    }
+    return names;
+}
+
+TEST_F(Accessibility, TellsOfAPageInReadingOrderAndOfEachButtonOnce) {
+    Frame frame;
+    Shape shape;
+    Label second, first, face, hidden;
+    frame.id = "frme";
+    shape.id = "shp";
+    screen.add(frame).place(0, 0, 6000, 6000);
+    screen.add(shape, &frame).place(0, 0, 900, 900);
+    addButton(second, "second", 0, 3000).caption = u"Second";
+    addButton(first, "first", 0, 900).caption = u"First";
+    first.parent = second.parent = &frame;
+    addButton(face, "face", 0, 900).spokenName = u"First";
+    face.tabStop = false;
+    addButton(hidden, "hidden", 0, 5000).caption = u"Hidden";
+    hidden.visible = false;
+    open();
+    const auto& page = *QAccessible::queryAccessibleInterface(shell.find(&screen));
+    EXPECT_EQ(namesBelow(page), (std::vector<std::string>{"First", "Second"}));
+}
+
+TEST_F(Accessibility, TellsOfAMenuBeforeItIsOpen) {
+    MenuItem menu, first, line, more, inner;
+    first.caption = u"&First";
+    first.checkable = first.checked = true;
+    more.caption = u"More";
+    inner.caption = u"Inner";
+    inner.enabled = false;
+    more.children = {&inner};
+    menu.children = {&first, &line, &more};
+    Label button;
+    addButton(button, "lblMenu", 0, 0).menu = &menu;
+    open();
+    const QAccessibleInterface& told = spoken(button);
+    EXPECT_EQ(namesBelow(told), (std::vector<std::string>{"First", "More"}));
+    EXPECT_EQ(told.child(0)->role(), QAccessible::CheckBox);
+    EXPECT_TRUE(told.child(0)->state().checked);
+    EXPECT_EQ(namesBelow(*told.child(1)), std::vector<std::string>{"Inner"});
+    EXPECT_TRUE(told.child(1)->child(0)->state().disabled);
+    EXPECT_TRUE(told.state().hasPopup);
+}
+
+TEST_F(Accessibility, OpensAMenuAndChoosesFromItForAnAssistiveTool) {
+    MenuItem menu, entry;
+    entry.caption = u"Entry";
+    int chosen = 0, opened = 0;
+    entry.onClick = [&] { ++chosen; };
+    menu.children = {&entry};
+    Label button;
+    addButton(button, "lblMenu", 0, 0).menu = &menu;
+    button.onClick = [&] { ++opened; };
+    open();
+    spoken(button).actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+    EXPECT_EQ(opened, 1);
+    spoken(button).child(0)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(chosen, 1);
+}
+
+TEST_F(Accessibility, KeepsTheStateOfEachWidgetWhenAScreenStandsOverTheirs) {
+    Label button;
+    addButton(button, "lbl", 0, 0);
+    open();
+    shell.event([&] { screen.enabled = false; });
+    EXPECT_TRUE(widgetOf(button).isEnabled());
+    EXPECT_TRUE(spoken(button).state().disabled);
+    shell.event([&] { screen.enabled = true; });
+    EXPECT_FALSE(spoken(button).state().disabled);
+}
+
 TEST_F(Accessibility, SaysNothingOfWhatIsHidden) {
     Frame frame;
     Label cell;
@@ -85,7 +164,11 @@ TEST_F(Accessibility, HasNotificationsThatAreNotDrawn) {
     addButton(notice, "lblNotice", 0, 0).role = LabelRole::Notification;
     open();
     const QImage before = widgetOf(notice).window()->grab().toImage();
-    shell.event([&] { notice.caption = u"Right: A"; });
+    shell.event([&] {
+        notice.caption = u"Right: A";
+        ++notice.said;
+    });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return widgetOf(notice).isVisible(); }));
     EXPECT_EQ(spoken(notice).role(), QAccessible::Notification);
     EXPECT_EQ(spoken(notice).text(QAccessible::Name), "Right: A");
     EXPECT_FALSE(spoken(notice).state().invisible);

@@ -168,7 +168,8 @@ class WindowWalker : public Walker {
         std::string all = screen.name + ": " + page().pageWindow().windowTitle().toStdString();
         all += '\n';
         for (const ControlRef& ref : screen.controls())
-            if (QWidget& widget = page().view(controlOf(ref))->widget(); widget.isVisible())
+            if (QWidget& widget = page().view(controlOf(ref))->widget();
+                widget.isVisible() || widget.objectName() == "lblSpoken")
                 all += line(sightOf(widget));
         return all;
     }
@@ -298,6 +299,56 @@ TEST_F(BothShells, ShowTheSameInTheInventor) {
     step("the list", [](Walker& shell) { shell.holdKey(key::kTab, 2); });
     step("up", [](Walker& shell) { shell.press(key::kUp); });
     step("deleted", [](Walker& shell) { shell.holdKey(key::kDelete, 3); });
+}
+
+TEST_F(BothShells, ShowTheSameInWholeGamesByKeyboardAlone) {
+    const auto press = [this](const char* what, int code) {
+        step(what, [code](Walker& shell) { shell.press(code); });
+    };
+    const auto type = [this](TextView text) {
+        step("letters", [text](Walker& shell) { shell.type(text); });
+    };
+    start(ScreenId::Menu);
+    press("to classic mode", key::kDown);
+    type(u" ");
+    EXPECT_EQ(front(), "frmGame");
+    for (const TextView letters : {u"sol", u"bcdfgh"}) {
+        type(u" ");
+        EXPECT_EQ(front(), "frmWord1");
+        type(u"sol");
+        press("the topic", key::kReturn);
+        press("accepted", key::kReturn);
+        EXPECT_EQ(front(), "frmGame");
+        press("a row down", key::kDown);
+        press("a key on", key::kRight);
+        press("the board", key::kEnd);
+        type(letters);
+        step("out of the keys", [](Walker& shell) { shell.press(key::kTab, {false, true}); });
+        step("to the button", [](Walker& shell) {
+            for (int i = 0;
+                 i < 9 && shell.shown().find("lblPlay(0) \"PLAY ANOTHER\" \"\" 0 focus") ==
+                              std::string::npos;
+                 ++i)
+                shell.press(key::kTab);
+        });
+    }
+    press("back", key::kEscape);
+    EXPECT_EQ(front(), "frmMenu");
+}
+
+TEST_F(BothShells, ShowTheSameOnEverySettingByKeyboardAlone) {
+    start(ScreenId::Settings);
+    for (int i = 0; i < 4; ++i) {
+        step("switched", [](Walker& shell) { shell.type(u" "); });
+        step("the next", [](Walker& shell) { shell.press(key::kDown); });
+    }
+    step("the designs", [](Walker& shell) { shell.press(key::kTab, {false, true}); });
+    for (int i = 0; i < 4; ++i) {
+        step("chosen", [](Walker& shell) { shell.type(u" "); });
+        step("the next", [](Walker& shell) { shell.press(key::kRight); });
+    }
+    step("back", [](Walker& shell) { shell.press(key::kEscape); });
+    EXPECT_EQ(front(), "frmMenu");
 }
 
 TEST_F(BothShells, ShowTheSameInAClassicGame) {

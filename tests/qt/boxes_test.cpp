@@ -90,6 +90,16 @@ TEST_F(Boxes, TakeReturnForYesAndEscapeForNo) {
     EXPECT_FALSE(askQuestion(style, "text", "&Yes", "&No"));
 }
 
+TEST_F(Boxes, TakeReturnForNoWhereYesLosesSomething) {
+    whenOpen([](QDialog& box) {
+        EXPECT_TRUE(button(box, "&No")->isDefault());
+        EXPECT_TRUE(button(box, "&No")->hasFocus());
+        type(box, Qt::Key_Return);
+    });
+    EXPECT_FALSE(askQuestion(style, "text", "&Yes", "&No", true));
+    EXPECT_TRUE(opened);
+}
+
 TEST_F(Boxes, StayBelowTheMiddleOfTheirWindowWhenTheyGrow) {
     QWidget window;
     window.setGeometry(0, 0, 700, 600);

@@ -84,7 +84,8 @@ void FakeDesktop::messageBox(MessageIcon icon, TextView text) {
     answer(icon == MessageIcon::Critical ? "critical message" : "message", text);
 }
 
-bool FakeDesktop::question(TextView text) {
+bool FakeDesktop::question(TextView text, bool yesLoses) {
+    noPreselected = yesLoses;
     return answer("question", text) == kYesReply;
 }
 

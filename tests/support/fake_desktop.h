@@ -74,7 +74,8 @@ class FakeDesktop : public Desktop {
     std::deque<double> draws;  // served first; then the seeded generator
     Text clipboardText;
     bool fullScreen = false;
-    Preferences asked;  // of the system, by the player
+    Preferences asked;           // of the system, by the player
+    bool noPreselected = false;  // in the last question
 
     // What has been asked of it.
     std::vector<std::filesystem::path> openedFiles;
@@ -90,7 +91,7 @@ class FakeDesktop : public Desktop {
 
     // Desktop
     void messageBox(MessageIcon icon, TextView text) override;
-    bool question(TextView text) override;
+    bool question(TextView text, bool yesLoses = false) override;
     Text inputBox(TextView prompt) override;
     void aboutBox(TextView title, TextView text) override;
     Text clipboard() override { return clipboardText; }

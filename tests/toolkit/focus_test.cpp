@@ -1,6 +1,8 @@
 // Where the focus of a screen is, and where it goes.
 #include "toolkit/focus.h"
 
+#include <string>
+
 #include <gtest/gtest.h>
 
 #include "tests/support/plain_screen.h"
@@ -29,6 +31,104 @@ class ScreenFocus : public ::testing::Test {
     Label left, right, below;
     Focus focus{screen};
 };
+
+/// Two rows of two keys in a group, and a button below.
+class GroupFocus : public ScreenFocus {
+  protected:
+    GroupFocus() {
+        int number = 0;
+        for (Label* key : {&a, &b, &c, &d}) {
+            key->onClick = [] {};
+            key->group = 1;
+            screen.addButton(*key, std::string(1, static_cast<char>('a' + number)).c_str(),
+                             static_cast<Twips>(number % 2) * 1500,
+                             3000 + static_cast<Twips>(number / 2) * 600);
+            ++number;
+        }
+        focus.take(a);
+    }
+    std::string after(int code) {
+        EXPECT_TRUE(focus.moveInGroup(code));
+        return focused();
+    }
+    Label a, b, c, d;
+};
+
+TEST_F(GroupFocus, GoesFromKeyToKeyByArrows) {
+    EXPECT_EQ(after(key::kRight), "b");
+    EXPECT_EQ(after(key::kDown), "d");
+    EXPECT_EQ(after(key::kLeft), "c");
+    EXPECT_EQ(after(key::kUp), "a");
+    EXPECT_EQ(after(key::kLeft), "d");
+    EXPECT_EQ(after(key::kHome), "a");
+    EXPECT_EQ(after(key::kEnd), "d");
+}
+
+TEST_F(GroupFocus, LeavesAGroupByTabAndComesBackToWhereItWas) {
+    EXPECT_EQ(after(key::kRight), "b");
+    focus.next();
+    EXPECT_EQ(focused(), "left");
+    focus.previous();
+    EXPECT_EQ(focused(), "b");
+}
+
+TEST_F(GroupFocus, LeavesAGroupThatStandsAroundAnotherButton) {
+    below.top = 3600;
+    below.left = 700;
+    focus.next();
+    EXPECT_EQ(focused(), "below");
+    focus.next();
+    EXPECT_EQ(focused(), "left");
+}
+
+TEST_F(GroupFocus, GoesToTheNextKeyWhenItsOwnIsGone) {
+    screen.firstFocus = &left;
+    a.visible = false;
+    focus.settle();
+    EXPECT_EQ(focused(), "b");
+    focus.take(d);
+    d.visible = false;
+    focus.settle();
+    EXPECT_EQ(focused(), "c");
+}
+
+TEST_F(GroupFocus, GoesToTheScreensChoiceWhenTheWholeGroupIsGone) {
+    screen.firstFocus = &left;
+    a.visible = b.visible = c.visible = d.visible = false;
+    focus.settle();
+    EXPECT_EQ(focused(), "left");
+}
+
+TEST_F(GroupFocus, LeavesArrowsAloneOutsideOfAGroup) {
+    focus.take(below);
+    EXPECT_FALSE(focus.moveInGroup(key::kRight));
+    EXPECT_EQ(focused(), "below");
+}
+
+TEST_F(ScreenFocus, ReachesWhatIsOnlyReadAndPressesNothingThere) {
+    Label reader;
+    reader.id = "reader";
+    reader.role = LabelRole::Reader;
+    screen.add(reader).place(0, 2000, 900, 300);
+    EXPECT_EQ(order(), "left right below reader ");
+}
+
+TEST_F(ScreenFocus, TellsEachButtonOnceAndNothingWithoutWords) {
+    Label face, empty, said;
+    face.onClick = [] {};
+    left.caption = right.caption = below.caption = u"x";
+    screen.addButton(face, "face", 0, 60).tabStop = false;
+    face.caption = u"x";
+    empty.id = "empty";
+    screen.add(empty).place(0, 2000, 900, 300);
+    said.id = "said";
+    said.role = LabelRole::Notification;
+    screen.add(said);
+    std::string told;
+    for (const Control* control : spokenOrder(screen))
+        told += control->id + " ";
+    EXPECT_EQ(told, "left right below said ");
+}
 
 TEST_F(ScreenFocus, GoesThroughTheScreenInReadingOrderAndRound) {
     EXPECT_EQ(order(), "left right below ");

@@ -37,6 +37,17 @@ TEST(ShownControl, TellsWhatItIsThatDiffers) {
     EXPECT_EQ(shown.toolTip, u" tip ");
 }
 
+TEST(ShownControl, HasNewWordsEachTimeThatTheSameAreSaid) {
+    Label notice;
+    notice.role = LabelRole::Notification;
+    notice.caption = u"No";
+    ShownControl shown;
+    shown.update(&notice);
+    ++notice.said;
+    EXPECT_TRUE(shown.update(&notice).words);
+    EXPECT_FALSE(shown.update(&notice).any());
+}
+
 TEST(ShownControl, SaysNothingWhileItIsNotSeen) {
     Frame frame;
     Label label;

@@ -31,7 +31,7 @@ class ArcadeInSpanish(Player):
 
     def test_menu_and_idle_game_are_captioned(self):
         self.assertEqual(self.caption("lblWelcome"), self.words.menu_heading)
-        shown = tuple(self.caption(f"lblOption({i})") for i in range(4))
+        shown = tuple(self.caption(f"lblOption({i})") for i in range(4, 8))
         self.assertEqual(shown, self.words.menu_options)
         self.open_arcade()
         self.assertEqual(self.caption("lblMode"), self.words.arcade)

@@ -56,7 +56,7 @@ class ClassicInSpanish(Player):
         self.click("txtWord")
         self.type("sol")
         self.picture(f"classic-entry-{type(self).__name__}")
-        self.click("lblOk(0)")
+        self.click("lblOk(1)")
         self.expect_playing(self.words.no_topic)
 
     def test_phrase_is_filtered_and_limited_while_it_is_typed(self):
@@ -71,14 +71,14 @@ class ClassicInSpanish(Player):
         self.expect_content("txtTheme", "T" * 22)
 
     def test_button_waits_for_a_phrase(self):
-        self.assertFalse(self.is_enabled("lblOk(0)"))
+        self.assertFalse(self.is_enabled("lblOk(1)"))
         self.click("txtWord")
         self.type("a")
         self.expect_content("txtWord", "A")
-        self.assertTrue(self.is_enabled("lblOk(0)"))
+        self.assertTrue(self.is_enabled("lblOk(1)"))
         self.key("BackSpace")
         self.expect_content("txtWord", "")
-        self.assertFalse(self.is_enabled("lblOk(0)"))
+        self.assertFalse(self.is_enabled("lblOk(1)"))
 
     def test_pasted_characters_that_no_key_offers_are_refused(self):
         self.click("txtTheme")

@@ -41,7 +41,7 @@ class InventorInSpanish(Player):
         self.assertEqual(self.entries(), [" ÑANDÚ", " ANDÚÑ"])
         self.expect("lblCont", "02/50")
         self.picture(f"inventor-{type(self).__name__}")
-        self.click("lblSave(1)")
+        self.click("lblSave(0)")
         self.expect_dialog(self.words.ask_restart)
         written = self.get(self.topic_file("AVES Y MÁS"))
         self.assertEqual(written, self.stored(f"AVES Y MÁS{self.tag}", "ñandú", "andúñ"))

@@ -35,7 +35,7 @@ class SettingsInSpanish(Player):
 
     def test_each_click_is_written_at_once(self):
         for option, line in ((1, WIKIPEDIA), (2, HARD), (3, INFINITE), (4, CLOCK)):
-            self.click(f"lblOpts({option})")
+            self.click(f"lblCheck({option})")
             self.expect_line(line, "1")
             self.expect_tick(option, True)
         for option, line in ((1, WIKIPEDIA), (2, HARD), (3, INFINITE), (4, CLOCK)):
