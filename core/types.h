@@ -31,4 +31,10 @@ constexpr int blueOf(Color color) {
     return (color >> 16) & 0xFF;
 }
 
+/// One text in both languages.
+struct TextPair {
+    TextView spanish;
+    TextView english;
+};
+
 }  // namespace quillor

@@ -86,33 +86,6 @@ void frmInventor::onUnload() {
         program_.show(ScreenId::Menu).takePaper(imgBack.image);
 }
 
-void frmInventor::eTranslate() {
-    title = texts::kInventorTitle;
-    lblBack.caption = program_.lang(texts::kBack);
-    lblBack.toolTip = program_.lang(texts::kBackTip);
-    lblOpen.caption = program_.lang(texts::kOpen);
-    lblOpen.toolTip = program_.lang(texts::kOpenTip);
-    lblHelp.toolTip = program_.lang(texts::kInventorHelpTip);
-    lblHelp.spokenName = program_.lang(texts::kSpokenHelp);
-    lblLabel(0).caption = program_.lang(texts::kInventorHeading);
-    lblLabel(1).caption = program_.lang(texts::kTopicNameLabel);
-    lblLabel(2).caption = program_.lang(texts::kFileNameLabel);
-    lblLabel(3).caption = program_.lang(texts::kAddPhrasesLabel);
-    txtTheme.spokenName = program_.lang(texts::kSpokenTopicName);
-    txtFile.spokenName = program_.lang(texts::kSpokenFileName);
-    lblCont.toolTip = program_.lang(texts::kCounterTip);
-    txtWord.toolTip = program_.lang(texts::kPhraseToAddTip);
-    txtWord.spokenName = program_.lang(texts::kSpokenPhraseToAdd);
-    lblOk.toolTip = program_.lang(texts::kAddTip);
-    lblOk.spokenName = program_.lang(texts::kSpokenAdd);
-    lblDel.toolTip = program_.lang(texts::kDeleteTip);
-    lblDel.spokenName = program_.lang(texts::kSpokenDelete);
-    lstTopics.toolTip = program_.lang(texts::kPhrasesTip);
-    lstTopics.spokenName = program_.lang(texts::kSpokenPhrases);
-    lblSave(1).caption = program_.lang(texts::kSave);
-    lblSave(0).spokenName = replaceAll(lblSave(1).caption, u"&&", u"&");
-}
-
 void frmInventor::eRefreshButton() {
     const int phrases = static_cast<int>(lstTopics.items.size());
     lblCont.caption = twoDigits(phrases) + u"/" + twoDigits(static_cast<int>(kCounted));

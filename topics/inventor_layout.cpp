@@ -1,4 +1,5 @@
-// Where everything on the inventor stands, in twips.
+// Where everything on the inventor stands, in twips, and its words.
+#include "core/text_rules.h"
 #include "toolkit/style.h"
 #include "topics/inventor.h"
 
@@ -172,6 +173,33 @@ void frmInventor::arrangeSave(const Area& area) {
     shpSave.place(area.left, area.top, area.width, area.height);
     lblSave(0).place(area.left, area.top, area.width, area.height);
     lblSave(1).place(area.left + 240, area.top + 90, area.width - 480, area.height - 180);
+}
+
+void frmInventor::eTranslate() {
+    title = texts::kInventorTitle;
+    lblBack.caption = program_.lang(texts::kBack);
+    lblBack.toolTip = program_.lang(texts::kBackTip);
+    lblOpen.caption = program_.lang(texts::kOpen);
+    lblOpen.toolTip = program_.lang(texts::kOpenTip);
+    lblHelp.toolTip = program_.lang(texts::kInventorHelpTip);
+    lblHelp.spokenName = program_.lang(texts::kSpokenHelp);
+    lblLabel(0).caption = program_.lang(texts::kInventorHeading);
+    lblLabel(1).caption = program_.lang(texts::kTopicNameLabel);
+    lblLabel(2).caption = program_.lang(texts::kFileNameLabel);
+    lblLabel(3).caption = program_.lang(texts::kAddPhrasesLabel);
+    txtTheme.spokenName = program_.lang(texts::kSpokenTopicName);
+    txtFile.spokenName = program_.lang(texts::kSpokenFileName);
+    lblCont.toolTip = program_.lang(texts::kCounterTip);
+    txtWord.toolTip = program_.lang(texts::kPhraseToAddTip);
+    txtWord.spokenName = program_.lang(texts::kSpokenPhraseToAdd);
+    lblOk.toolTip = program_.lang(texts::kAddTip);
+    lblOk.spokenName = program_.lang(texts::kSpokenAdd);
+    lblDel.toolTip = program_.lang(texts::kDeleteTip);
+    lblDel.spokenName = program_.lang(texts::kSpokenDelete);
+    lstTopics.toolTip = program_.lang(texts::kPhrasesTip);
+    lstTopics.spokenName = program_.lang(texts::kSpokenPhrases);
+    lblSave(1).caption = program_.lang(texts::kSave);
+    lblSave(0).spokenName = replaceAll(lblSave(1).caption, u"&&", u"&");
 }
 
 }  // namespace quillor

@@ -175,7 +175,7 @@ TEST(BoundaryRules, SeeEveryFormOfInclude) {
 
 std::vector<SourceLine> textLines() {
     std::vector<SourceLine> lines = sourceLines("core");
-    std::erase_if(lines, [](const SourceLine& line) { return line.file != "core/texts.h"; });
+    std::erase_if(lines, [](const SourceLine& line) { return !line.file.filename().string().ends_with("texts.h"); });
     return lines;
 }
 
