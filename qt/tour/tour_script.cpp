@@ -176,12 +176,9 @@ class Script {
         type(words_.letters);
         pictureAtRest("game-hidden-letters");
         key(Qt::Key_O, Qt::ControlModifier);
-        key(Qt::Key_F2);
-        add(tour_.waitForBox());
+        askToLeave();
         picture("leave-question");
-        key(Qt::Key_Tab);  // from No to Yes
-        key(Qt::Key_Return);
-        add(tour_.waitFor("frmMenu"));
+        agreeToLeave();
     }
 
     void inventor() {
@@ -221,8 +218,17 @@ class Script {
         add(tour_.waitFor("frmGame"));
         type(words_.letters);
         pictureAtRest("game-" + design);
+        askToLeave();
+        agreeToLeave();
+    }
+
+    void askToLeave() {
         key(Qt::Key_F2);
         add(tour_.waitForBox());
+    }
+
+    void agreeToLeave() {
+        key(Qt::Key_Tab);  // from No to Yes
         key(Qt::Key_Return);
         add(tour_.waitFor("frmMenu"));
     }

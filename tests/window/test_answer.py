@@ -50,5 +50,5 @@ class Answer(Player):
         self.type("zyx")
         self.key("Escape")
         self.expect_no_dialog(self.words.enter_answer)
-        self.assertEqual(self.caption("lblStrike(0)"), "")
+        self.expect_hidden("lblStrike(0)")
         self.expect("lblCont", "1/10")

@@ -73,7 +73,8 @@ class Commands(Opener, Player):
         return self.get("Quillor-Config.ini").split(b"\r\n")[line]
 
     def test_right_click_on_the_background_opens_the_menu(self):
-        left, top, width, height = self.ready("imgBack(0)")
+        windows = self.desktop.windows
+        left, top, width, height = windows.place(windows.active())
         self.hands.click((left, top + height - 20, width // 4, 20), button=3)
         self.key("Down", "Return")  # back to the menu
         self.expect_title(self.words.menu_title)
