@@ -4,8 +4,10 @@ import os
 import signal
 import subprocess
 
+from harness.hands import Hands
 from harness.player import Player
 from harness.program import executable
+from harness.virtual_desktop import VirtualDesktop
 from harness.waiting import until
 
 
@@ -70,6 +72,25 @@ class SecondStart(Player):
         until(lambda: len(self.desktop.windows.ids()) == 2, "two windows")
         second.terminate()
         second.wait()
+
+    def test_asks_a_player_on_another_desktop_whether_to_share(self):
+        desktop = VirtualDesktop()
+        self.addCleanup(desktop.close)
+        with open(desktop.scratch / "second.log", "wb") as log:
+            second = desktop.start_program(
+                [str(executable()), "--folder", str(self.folder)], {}, log
+            )
+        self.addCleanup(second.kill)
+        until(desktop.windows.ids, "a question")
+        Hands(desktop).key("Return")
+        other = desktop.windows
+        until(lambda: self.words.menu_title in map(other.title, other.ids()), "the menu")
+        # Both go on, and what either of them saves is whole.
+        Hands(desktop).key("s", "4")
+        until(lambda: self.get("Quillor-Config.ini").startswith(b"3"), "the second's design")
+        self.key("s", "2")
+        until(lambda: self.get("Quillor-Config.ini").startswith(b"1"), "the first's design")
+        self.assertEqual(len(self.get("Quillor-Config.ini").split(b"\r\n")), 12)
 
 
 class UnusableFolder(Player):

@@ -1,8 +1,10 @@
 """The packed Windows program is started, played and set up as on other systems."""
 
+import shlex
 import subprocess
 
 from harness.player import QUIET, SAME_LETTERS
+from harness.waiting import until
 from test_first_start import ENGLISH_SAMPLE, FIRST_SETTINGS, SPANISH_SAMPLE, stored
 from windows_player import PATIENCE, PICTURES, WindowsPlayer
 
@@ -64,6 +66,50 @@ class Console(WindowsPlayer):
         self.assertEqual(code, 1)
         self.assertIn("bad.txt:", findings)
 
+    def console_says(self, *arguments):
+        """On a console of Windows' own, which stands in a terminal here, and in its letters."""
+        command = shlex.join(["wine", "cmd", "/c", "start", "/wait", "Quillor.exe", *arguments])
+        told = subprocess.run(
+            ["script", "--quiet", "--return", "--command", command, "/dev/null"],
+            env=self.desktop.environment, cwd=self.folder, stdin=subprocess.DEVNULL,
+            capture_output=True, timeout=PATIENCE,
+        )
+        return told.stdout.decode()
+
+    def test_console_shows_what_is_printed(self):
+        self.put("bad.txt", "UNO\n")
+        self.assertRegex(self.console_says("--version"), r"Quillor \d+\.\d+\.\d+")
+        self.assertIn("--check-topics", self.console_says("--help"))
+        self.assertIn("bad.txt:", self.console_says("--check-topics", "bad.txt"))
+
+
+class SecondStart(WindowsPlayer):
+    def setUp(self):
+        super().setUp()
+        self.put("Quillor-Config.ini", QUIET)
+        self.put("Temas/Letras.txt", "\n".join(["LETRAS", *SAME_LETTERS]) + "\n")
+        self.start_at_menu()
+        self.window = self.desktop.windows.active()
+
+    def again(self, *arguments):
+        """Starts the program once more; returns what it ends with."""
+        first = self.process
+        self.start(*arguments)
+        second, self.process = self.process, first
+        return second.wait(PATIENCE)
+
+    def test_leaves_the_first_in_front(self):
+        self.assertEqual(self.again(), 0)
+        self.assertEqual(self.desktop.windows.ids(), [self.window])
+        self.assertEqual(self.title(), self.words.menu_title)
+
+    def test_hands_its_topics_to_the_first(self):
+        self.put("NUEVO.txt", "NUEVO [español]\nuna frase\notra frase\n")
+        self.assertEqual(self.again("Z:" + str(self.folder / "NUEVO.txt")), 0)
+        until(lambda: (self.folder / "Temas/NUEVO.txt").exists(), "the topic", PATIENCE)
+        self.expect_title("Quillor")  # the question whether to load it
+        self.picture("topic-of-a-second-start")
+
 
 class Games(WindowsPlayer):
     def setUp(self):
@@ -102,11 +148,10 @@ class Settings(WindowsPlayer):
         self.put("Quillor-Config.ini", QUIET)
         self.start_at_menu()
         self.open("s", self.words.settings_title)
-        held = ["0"] * 11
+        held = ["0"] * 10 + [""]  # no topic is kept
         for key, line, value in (("w", 2, "1"), ("d", 4, "1"), ("c", 6, "1"), ("4", 0, "3")):
             self.key(key)
             held[line] = value
-            held[10] = self.get("Quillor-Config.ini").split(b"\r\n")[10].decode()
             self.expect_file("Quillor-Config.ini", lines(*held))
         self.picture("settings")
         self.open("BackSpace", self.words.menu_title)
