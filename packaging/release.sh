@@ -3,18 +3,23 @@
 # the packages, and a file of checksums. Two runs of one commit make the same files.
 #
 # release.sh [OUTPUT-FOLDER]     default: build/release
-# QUILLOR_RELEASE  which parts, of: source debian linux windows (default: all)
+# QUILLOR_RELEASE  which parts, of: source debian linux windows web (default: all)
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+# shellcheck source=packaging/version.sh
+. "$root/packaging/version.sh"
 output=${1:-$root/build/release}
 rm -rf "$output"
 mkdir -p "$output"
 output=$(cd "$output" && pwd)
-version=$(sed -n 's/^project(Quillor VERSION \([0-9.]*\).*/\1/p' "$root/CMakeLists.txt")
-released=$(sed -n 's/^## [0-9.]* (\([0-9-]*\))$/\1/p' "$root/CHANGELOG.md" | head -1)
-SOURCE_DATE_EPOCH=$(date -u -d "$released 12:00" +%s)
-export SOURCE_DATE_EPOCH
+
+# The page for the browser, as one file that any web server serves once it is unpacked.
+make_page() {
+    web/build.sh "$clone/build/page"
+    date_files "$clone/build/page"
+    (cd build/page && find . -type f | sort | zip -X -q "$output/quillor-$version-web.zip" -@)
+}
 
 # Always the same folder: its name must not tell two builds apart.
 clone=$root/build/release-clone
@@ -22,12 +27,12 @@ rm -rf "$clone"
 git clone --quiet --no-hardlinks "$root" "$clone"
 cd "$clone"
 
-for part in ${QUILLOR_RELEASE:-source debian linux windows}; do
+for part in ${QUILLOR_RELEASE:-source debian linux windows web}; do
     echo "== $part"
     case "$part" in
         source)
             # Its times are the commit's.
-            git archive --format=tar --prefix="quillor-$version/" HEAD |
+            git -c tar.umask=0022 archive --format=tar --prefix="quillor-$version/" HEAD |
                 xz -T1 -6 >"$output/quillor-$version.tar.xz"
             ;;
         debian)
@@ -36,6 +41,8 @@ for part in ${QUILLOR_RELEASE:-source debian linux windows}; do
             ;;
         linux) packaging/linux/build-portable.sh "$output" ;;
         windows) packaging/windows/build.sh "$output" ;;
+        # What it is not yet able to make is left out.
+        web) [ ! -x web/build.sh ] || make_page ;;
         *) echo "no such part: $part" >&2; exit 2 ;;
     esac
 done

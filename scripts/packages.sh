@@ -13,7 +13,7 @@
         weston orca python3 python3-gi python3-xlib hunspell hunspell-es hunspell-en-us)
     # One version of the formatter, because each formats a little differently.
     packages_check=(clang-format-14 clang-tidy-14 shellcheck desktop-file-utils appstream
-        man-db)
+        flatpak-builder man-db)
 }
 
 as_root() {

@@ -8,10 +8,11 @@ here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 root=$(cd "$here/../.." && pwd)
 # shellcheck source=scripts/packages.sh
 . "$root/scripts/packages.sh"
+# shellcheck source=packaging/version.sh
+. "$root/packaging/version.sh"
 output=${1:-$root/build/debian-packages}
 mkdir -p "$output"
 output=$(cd "$output" && pwd)
-version=$(sed -n 's/^project(Quillor VERSION \([0-9.]*\).*/\1/p' "$root/CMakeLists.txt")
 work=$root/build/debian/quillor-$version
 
 install_packages build-essential dpkg-dev debhelper fakeroot lintian cmake fonts-comic-neue \

@@ -10,8 +10,8 @@ here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 root=$(cd "$here/../.." && pwd)
 # shellcheck source=scripts/packages.sh
 . "$root/scripts/packages.sh"
-version=$(sed -n 's/^project(Quillor VERSION \([0-9.]*\).*/\1/p' "$root/CMakeLists.txt")
-released=$(sed -n 's/^## [0-9.]* (\([0-9-]*\))$/\1/p' "$root/CHANGELOG.md" | head -1)
+# shellcheck source=packaging/version.sh
+. "$root/packaging/version.sh"
 architecture=$(uname -m)
 name=Quillor-$version-linux-$architecture
 output=${1:-$root/build/linux-packages}
@@ -79,8 +79,7 @@ carry_licences() {
 }
 
 pack() {
-    find "$stage" -exec touch -h -d "$released 12:00 UTC" {} +
-    chmod -R u=rwX,go=rX "$stage"
+    date_files "$stage"
     tar --sort=name --owner=0 --group=0 --numeric-owner --format=gnu -C "$build" -cf - "$name" |
         xz -T1 -6 >"$output/$name.tar.xz"
 }

@@ -11,6 +11,11 @@ here=$(CDPATH='' cd -- "$(dirname -- "$0")" && pwd)
 # shellcheck source=SCRIPTDIR/common.sh
 . "$here/common.sh"
 
+# One at a time: a second run waits for the first, and then takes what it has made.
+mkdir -p "$(dirname "$qt")"
+exec 9>"$qt.lock"
+flock 9
+
 # What it was built by: a Qt that another recipe has made is built anew.
 recipe=$(cat "$here/build-qt.sh" "$here/mingw64.cmake" | sha256sum | cut -d' ' -f1)
 if [ -f "$qt/.complete" ] && [ "$(cat "$qt/.complete")" = "$recipe" ]; then
@@ -86,6 +91,6 @@ cmake --install build >&2
 mkdir -p "$qt/licences"
 cp source/LICENSES/LGPL-3.0-only.txt source/LICENSES/GPL-3.0-only.txt "$qt/licences/"
 cp source/debian/copyright "$qt/licences/Qt-copyright.txt"
-rm -rf "$work"
 echo "$recipe" >"$qt/.complete"
+rm -rf "$work"
 echo "$qt"

@@ -13,7 +13,6 @@ mkdir -p "${1:-$root/build/windows-packages}"
 output=$(CDPATH='' cd -- "${1:-$root/build/windows-packages}" && pwd)
 build=$root/build/windows
 stage=$build/Quillor-$version
-released=$(sed -n 's/^## [0-9.]* (\([0-9-]*\))$/\1/p' "$root/CHANGELOG.md" | head -1)
 most_zip_bytes=$((12 * 1024 * 1024))
 
 need_packages g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 cmake ninja-build nsis zip \
@@ -22,7 +21,7 @@ need_packages g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 cmake ninja-b
 
 compile() {
     cd "$root"
-    cmake --preset windows
+    cmake --preset windows "-DCMAKE_CXX_FLAGS=-ffile-prefix-map=$root=."
     cmake --build --preset windows -j "$jobs"
     no_foreign_dlls "$build/qt/Quillor.exe"
 }
@@ -39,6 +38,7 @@ fill_stage() {
     rm -rf "$stage"
     cmake --install "$build" --prefix "$stage" >/dev/null
     fill_licences
+    date_files "$stage"
 }
 
 fill_licences() {
@@ -61,8 +61,7 @@ windows_text() {
 pack_zip() {
     zip=$output/Quillor-$version-windows.zip
     rm -f "$zip"
-    (cd "$build" && find "Quillor-$version" -exec touch -d "$released 12:00 UTC" {} + &&
-        find "Quillor-$version" | sort | TZ=UTC zip -X -q "$zip" -@)
+    (cd "$build" && find "Quillor-$version" | sort | zip -X -q "$zip" -@)
     bytes=$(stat -c %s "$zip")
     [ "$bytes" -le "$most_zip_bytes" ] || { echo "$zip: $bytes bytes are too many" >&2; exit 1; }
 }

@@ -1,10 +1,12 @@
 # Shared by the Windows packaging scripts: where things are and what they need.
-# Expects $here, the folder of this file; sets $root, $version, $cache, $qt.
+# Expects $here, the folder of this file; sets $root, $version, $cache, $qt,
+# and what version.sh sets.
 # shellcheck shell=sh disable=SC2034 # the variables are for the scripts that read this file
 
 : "${here:?set it before reading this file}"
 root=$(CDPATH='' cd -- "$here/../.." && pwd)
-version=$(sed -n 's/^project(Quillor VERSION \([0-9.]*\).*/\1/p' "$root/CMakeLists.txt")
+# shellcheck source=packaging/version.sh
+. "$root/packaging/version.sh"
 cache=${XDG_CACHE_HOME:-$HOME/.cache}/quillor
 jobs=${QUILLOR_JOBS:-$(nproc)}
 
