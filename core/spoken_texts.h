@@ -69,6 +69,12 @@ inline constexpr TextPair kNoAnswer{
     u"El juego ya está abierto con esta carpeta, pero no responde. ¿Quieres abrirlo otra vez?",
     u"The game is already open with this folder, but does not answer. Do you want to open it "
     u"once more?"};
+inline constexpr TextPair kWaitingForFolder{
+    u"La carpeta del juego tarda en responder: puede que su disco sea lento o que ya no esté. El "
+    u"juego se abrirá en cuanto responda. Si prefieres no esperar, ciérralo: no se pierde nada.",
+    u"The game's folder takes long to answer: its disk may be slow, or gone. The game opens as "
+    u"soon as it answers. If you would rather not wait, close it: nothing is lost."};
+inline constexpr TextPair kStopWaiting{u"Cerrar", u"Close"};
 
 // On the terminal, in the system's language.
 inline constexpr TextPair kTerminalHelp{

@@ -4,37 +4,30 @@
 #include <QIcon>
 #include <QLocale>
 #include <QTemporaryDir>
-#include <QTimer>
+#include <chrono>
 #include <cstdlib>
 #include <exception>
+#include <optional>
 #include <stdexcept>
 
-#include "app/program.h"
 #include "core/files.h"
 #include "core/settings_file.h"
 #include "core/text_codec.h"
 #include "core/topic_library.h"
-#include "game/game_screen.h"
 #include "qt/boxes/boxes.h"
 #include "qt/command_line.h"
-#include "qt/qt_desktop.h"
+#include "qt/session.h"
 #include "qt/system/platform.h"
-#include "qt/system/program_folder.h"
-#include "qt/system/running_copy.h"
 #include "qt/system/system_disk.h"
-#include "qt/system/watched_disk.h"
 #include "qt/tour/tour.h"
-#include "qt/windows/page.h"
 #include "qt/windows/qt_values.h"
 #include "topics/topic_check.h"
-#include "topics/topics.h"
-#include "ui/progress_screen.h"
-#include "ui/settings_screen.h"
 
 namespace quillor {
 
 namespace {
 
+constexpr std::chrono::seconds kPatience{1};  // until words say what a start waits for
 constexpr int kFailedTour = 1;
 constexpr int kBadUsage = 2;
 
@@ -87,101 +80,6 @@ std::filesystem::path executableFolder() {
     return toPath(fromQt(QCoreApplication::applicationDirPath()));
 }
 
-class Session {
-  public:
-    Session(const std::filesystem::path& folder, const Installation& here)
-        : disk_(platform::systemDisk(), folder),
-          fonts_({folder / "fonts", here.executableFolder / "fonts", here.shared / "fonts"}),
-          shell_(fonts_),
-          desktop_(shell_, makeSoundPlayer()),
-          program_(desktop_, {folder, disk_}) {
-        desktop_.attach(program_);
-        disk_.onLoss = [this] { QTimer::singleShot(0, qApp, [this] { tellOfLoss(); }); };
-        addSettingsScreen(program_);
-        addProgressScreen(program_);
-        addTopicScreens(program_);
-        addGameScreens(program_);
-    }
-
-    /// Answers those who start the program once more.
-    void attend(platform::RunningCopy& copy) {
-        copy.onCall([this](const std::string& message) {
-            const QStringList lines = QString::fromStdString(message).split('\n');
-            shell_.comeToFront(lines.front().toStdString());
-            // Later: who calls waits for an answer, and topics may ask questions.
-            QTimer::singleShot(0, qApp, [this, topics = lines.mid(1)] { take(topics); });
-        });
-        desktop_.beforeRestart = [&copy] { copy.letGo(); };
-    }
-
-    int run(const QStringList& topics) {
-        for (const QString& topic : topics)
-            program_.topicsToTake.push_back(std::filesystem::absolute(toPath(fromQt(topic))));
-        shell_.memory.emplace(program_.folder / "Quillor-Window.ini");
-        followPreferences();
-        shell_.event([&] { program_.show(ScreenId::Start); });
-        return shell_.hasEnded() ? 0 : QApplication::exec();
-    }
-
-    /// Plays by itself and leaves pictures in `pictures`.
-    int runTour(const QString& pictures) {
-        QString failure;
-        Tour tour(shell_, pictures, [&](const QString& howItWent) {
-            failure = howItWent;
-            shell_.end();
-        });
-        shell_.event([&] { program_.show(ScreenId::Start); });
-        tour.start(tourScript(tour, program_.settings.gbEnglish));
-        QApplication::exec();
-        if (!failure.isEmpty())
-            complain(failure);
-        return failure.isEmpty() ? 0 : kFailedTour;
-    }
-
-  private:
-    // Now, where the screen takes topics; else when the menu opens next.
-    void take(const QStringList& topics) {
-        std::vector<std::filesystem::path> files;
-        for (const QString& topic : topics)
-            files.push_back(toPath(fromQt(topic)));
-        if (files.empty())
-            return;
-        const Page* page = shell_.front();
-        for (const ScreenId id : {ScreenId::Menu, ScreenId::Word2, ScreenId::Inventor})
-            if (Screen* screen = program_.find(id);
-                screen && page && page->screen() == screen && !shell_.isModal())
-                return shell_.event([&] { screen->dropFiles(files); });
-        program_.topicsToTake = files;
-    }
-
-    void tellOfLoss() {
-        shell_.event([this] {
-            const Text where = fromPath(program_.folder);
-            desktop_.messageBox(MessageIcon::Critical,
-                                program_.lang(texts::kNothingIsSaved) + u"\n\n" + where);
-        });
-    }
-
-    // The player may change them in another program, and comes back from there.
-    void followPreferences() {
-        const auto read = [this] {
-            platform::readPreferences([this](const Preferences& wanted) { shell_.apply(wanted); });
-        };
-        read();
-        QObject::connect(qApp, &QGuiApplication::applicationStateChanged, qApp,
-                         [read](Qt::ApplicationState state) {
-                             if (state == Qt::ApplicationActive)
-                                 read();
-                         });
-    }
-
-    platform::WatchedDisk disk_;
-    FontBook fonts_;
-    Shell shell_;
-    QtDesktop desktop_;
-    Program program_;
-};
-
 // In a folder of its own, so that the player's settings and topics stay as they
 // are; what changes the look is taken from the player's folder.
 int playTour(const QString& pictures, const std::filesystem::path& model,
@@ -191,7 +89,11 @@ int playTour(const QString& pictures, const std::filesystem::path& model,
         throw std::runtime_error("no temporary folder for the tour");
     const std::filesystem::path path = toPath(fromQt(folder.path()));
     prepareTourFolder(path, model);
-    return Session(path, here).runTour(pictures);
+    const QString failure = Session(path, here).runTour(pictures);
+    if (failure.isEmpty())
+        return 0;
+    complain(failure);
+    return kFailedTour;
 }
 
 // What one's own other copy is told: the token by which a desktop lets it come to the
@@ -212,27 +114,39 @@ bool wanted(platform::RunningCopy& copy, const std::filesystem::path& folder,
         return true;
     if (copy.other() == Other::Own && copy.call(callFor(topics)))
         return false;
-    const bool english = eFileExists(folder / "English.txt");
-    const auto text = [&](const TextPair& pair) { return onTerminal(pair, english); };
+    const auto text = [english = eFileExists(folder / "English.txt")](const TextPair& pair) {
+        return onTerminal(pair, english);
+    };
     const QString why =
         text(copy.other() == Other::Own ? texts::kNoAnswer : texts::kFolderIsShared);
     return askQuestion({}, why + "\n\n" + toQt(fromPath(folder)), text(texts::kYes),
                        text(texts::kNo));
 }
 
+// A disk that does not answer may never do so: nothing ends but the program, at once.
+Waiting::Words waitingWords(bool english) {
+    return {onTerminal(texts::kWaitingForFolder, english), onTerminal(texts::kStopWaiting, english),
+            [] { std::_Exit(0); }};
+}
+
 int play(const CommandLine& line, int argc, char** argv) {
-    // Before a display is looked for: wrong folders need none.
+    Disk& disk = platform::systemDisk();
     std::filesystem::path folder;
-    if (!line.folder.isEmpty())
-        folder = useFolder(toPath(fromQt(line.folder)));
-    if (!line.tour.isEmpty())
-        useFolder(toPath(fromQt(line.tour)));
     const auto speakAsTold = [&] {
         if (!line.language.isEmpty())
-            chooseLanguage({folder, platform::systemDisk()}, line.language == "en");
+            chooseLanguage({folder, disk}, line.language == "en");
     };
-    if (!folder.empty())
-        speakAsTold();
+    Waiting waiting(waitingWords(systemIsEnglish()), kPatience);
+    waiting.begin([&] {
+        if (!line.folder.isEmpty())
+            folder = useFolder(toPath(fromQt(line.folder)));
+        if (!line.tour.isEmpty())
+            useFolder(toPath(fromQt(line.tour)));
+        if (!folder.empty())
+            speakAsTold();
+    });
+    // Before a display is looked for: wrong folders need none.
+    waiting.forAMoment();
     qInstallMessageHandler(onlyFatal);
     QApplication application(argc, argv);
     qInstallMessageHandler(nullptr);
@@ -241,21 +155,28 @@ int play(const CommandLine& line, int argc, char** argv) {
     QApplication::setDesktopFileName("org.quillor.quillor");
     QApplication::setWindowIcon(programIcon());
     QApplication::setQuitOnLastWindowClosed(false);
+    waiting.toItsEnd();
     const Installation here = findInstallation(executableFolder(), line.portable);
-    if (!line.tour.isEmpty())
+    if (!line.tour.isEmpty()) {
+        waiting.stop();
         return playTour(line.tour, folder, here);
-    if (folder.empty()) {
-        folder = findProgramFolder(here, platform::userDataFolder(), systemIsEnglish());
-        speakAsTold();
-        layOutTopics({here.shared / "packs", platform::systemDisk()},
-                     {folder, platform::systemDisk()});
     }
-    platform::RunningCopy copy(folder);
-    if (!wanted(copy, folder, line.files))
+    std::optional<platform::RunningCopy> copy;
+    waiting.during([&, english = systemIsEnglish()] {
+        if (folder.empty()) {
+            folder = findProgramFolder(here, platform::userDataFolder(), english);
+            speakAsTold();
+            layOutTopics({here.shared / "packs", disk}, {folder, disk});
+        }
+        copy.emplace(folder);
+    });
+    if (copy->other() != platform::RunningCopy::Other::None)
+        waiting.stop();  // there is something else to say
+    if (!wanted(*copy, folder, line.files))
         return 0;
     Session session(folder, here);
-    session.attend(copy);
-    return session.run(line.files);
+    session.attend(*copy);
+    return session.run(line.files, waiting);
 }
 
 // The topics named or, where none is, the game's own in both languages.

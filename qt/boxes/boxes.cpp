@@ -61,7 +61,10 @@ class Box : public QDialog {
 
     const QAccessible::Role role;
 
-    int px(double sizes) const { return static_cast<int>(sizes * style_.font.pixelSize()); }
+    int px(double sizes) const {
+        const int wanted = style_.font.pixelSize();
+        return static_cast<int>(sizes * (wanted > 0 ? wanted : fontInfo().pixelSize()));
+    }
 
     /// Stands at the left of all texts.
     void addPicture(const QPixmap& picture) {
@@ -96,13 +99,17 @@ class Box : public QDialog {
         return button;
     }
 
-    /// Shows it, the focus on that widget, until it is answered. True: accepted.
-    bool ask(QWidget& focus) {
+    /// To be shown, the focus on that widget.
+    void prepare(QWidget& focus) {
         buttons_.layout()->setSpacing(px(kButtonGap));
         rows_->addWidget(&buttons_, row_, 0, 1, -1);
         focus.setFocus();
         layout()->activate();
         putInPlace(style_.parent);
+    }
+    /// Shows it until it is answered. True: accepted.
+    bool ask(QWidget& focus) {
+        prepare(focus);
         return exec() == Accepted;
     }
 
@@ -221,5 +228,22 @@ void showAbout(const BoxStyle& style, const QString& title, const QString& text,
     box.addText(text, style.font).setContentsMargins(0, 0, 0, box.px(1));
     box.ask(box.addButton(accept, QDialogButtonBox::AcceptRole));
 }
+
+struct Notice::Impl {
+    Impl(const BoxStyle& boxStyle, const QString& text)
+        : style(boxStyle), box(style, BoxSign::Information, text) {}
+    const BoxStyle style;  // the box goes by it as long as it stands
+    Message box;
+};
+
+Notice::Notice(const BoxStyle& style, const QString& text, const QString& button,
+               std::function<void()> refused)
+    : impl_(std::make_unique<Impl>(style, text)) {
+    impl_->box.prepare(impl_->box.addButton(button, QDialogButtonBox::RejectRole));
+    QObject::connect(&impl_->box, &QDialog::rejected, std::move(refused));
+    impl_->box.show();
+}
+
+Notice::~Notice() = default;
 
 }  // namespace quillor

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QString>
+#include <functional>
+#include <memory>
 
 #include "qt/boxes/box_style.h"
 
@@ -20,5 +22,20 @@ QString askText(const BoxStyle& style, const QString& prompt, const QString& acc
 
 void showAbout(const BoxStyle& style, const QString& title, const QString& text,
                const QString& accept);
+
+/// Words that stand, with one button, until this object goes. The button, Escape and the
+/// close button do what `refused` does.
+class Notice {
+  public:
+    Notice(const BoxStyle& style, const QString& text, const QString& button,
+           std::function<void()> refused);
+    ~Notice();
+    Notice(const Notice&) = delete;
+    Notice& operator=(const Notice&) = delete;
+
+  private:
+    struct Impl;
+    std::unique_ptr<Impl> impl_;
+};
 
 }  // namespace quillor

@@ -38,6 +38,7 @@ class Words:
     too_many_mistakes: str
     help_missing: str
     nothing_is_saved: str
+    waiting_for_folder: str
     ask_restart: str
     bad_characters: str
     file_name_help: str
@@ -81,6 +82,9 @@ SPANISH = Words(
     too_many_mistakes="Tienes muchos errores para poder abandonar la partida, continúa o reinicia el "
     "juego.",
     help_missing="El archivo de ayuda no se encuentra.",
+    waiting_for_folder="La carpeta del juego tarda en responder: puede que su disco sea lento o que "
+    "ya no esté. El juego se abrirá en cuanto responda. Si prefieres no esperar, ciérralo: no se "
+    "pierde nada.",
     nothing_is_saved="No se puede guardar nada en la carpeta del juego. Lo que cambies ahora se "
     "perderá al salir.",
     ask_restart="¿Quieres reiniciar el juego para cargar el nuevo tema?",
@@ -126,6 +130,8 @@ ENGLISH = Words(
     tour_position="[Tour {}/{}]",
     too_many_mistakes="You have many mistakes to leave the game, continue or restart the game.",
     help_missing="The help file is not found.",
+    waiting_for_folder="The game's folder takes long to answer: its disk may be slow, or gone. The "
+    "game opens as soon as it answers. If you would rather not wait, close it: nothing is lost.",
     nothing_is_saved="Nothing can be saved in the game's folder. What you change now is lost when "
     "you leave.",
     ask_restart="Do you want to restart the game to load the new topic?",
