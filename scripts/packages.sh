@@ -11,6 +11,7 @@
     packages_virtual_display=(xvfb openbox dbus)
     packages_test=(libgtest-dev libgmock-dev libbenchmark-dev xdotool imagemagick at-spi2-core
         weston orca python3 python3-gi python3-xlib hunspell hunspell-es hunspell-en-us)
+    packages_fuzz=(clang llvm libgtest-dev libgmock-dev)
     # One version of the formatter, because each formats a little differently.
     packages_check=(clang-format-14 clang-tidy-14 shellcheck desktop-file-utils appstream
         flatpak-builder man-db)

@@ -60,6 +60,7 @@ class FakeDesktop : public Desktop {
 
     /// The last shown screen that is still open; null when there is none.
     Screen* front() const { return openScreens_.empty() ? nullptr : openScreens_.back(); }
+    bool isOpen(const Screen& screen) const { return focus_.contains(&screen); }
     /// The control that has the focus in an open screen; null: none.
     Control* focusOf(const Screen& screen) const;
     /// Of an open screen. Throws std::out_of_range for any other.

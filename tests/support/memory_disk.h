@@ -26,6 +26,9 @@ class MemoryDisk : public Disk {
         files_[file] = bytes;
     }
 
+    /// Of a file that is there.
+    const std::string& content(const Path& file) const { return files_.at(file); }
+
     Found look(const Path& path) const override { return {kindOf(path), false}; }
 
     std::vector<Entry> list(const Path& folder) const override {
