@@ -20,6 +20,7 @@ output=$(cd "$output" && pwd)
 build=$root/build/portable
 stage=$build/$name
 plugins=/usr/lib/$architecture-linux-gnu/qt6/plugins
+carried=()  # the files of the system, by all the names that its packages may know them by
 
 # The C and C++ libraries are the system's own: what else it loads is made for them.
 readonly systems_own='^(ld-linux.*|libc|libm|libdl|libpthread|librt|libresolv|libstdc\+\+|libgcc_s)\.so'
@@ -42,6 +43,7 @@ carry_plugins() {
     mkdir -p "$stage/plugins/$folder"
     for plugin in "$@"; do
         cp "$plugins/$folder/$plugin.so" "$stage/plugins/$folder/"
+        carried+=("$plugins/$folder/$plugin.so")
     done
 }
 
@@ -56,6 +58,7 @@ carry_libraries() {
     mkdir -p "$stage/lib"
     while read -r library path; do
         cp -L "$path" "$stage/lib/$library"
+        carried+=("$path" "${path#/usr}" "/usr${path#/usr}")
     done < <(libraries_of "$stage/quillor" "$stage"/plugins/*/*.so)
     # Found from where they stand, wherever the folder is put.
     # shellcheck disable=SC2016 # $ORIGIN is the loader's
@@ -69,13 +72,13 @@ carry_libraries() {
 
 # The licences of everything that is carried, by the packages that it comes from.
 carry_licences() {
-    local file package
+    local package
     mkdir -p "$stage/licences"
     cp "$root/LICENSE" "$stage/licences/Quillor.txt"
-    for file in "$stage"/lib/* "$stage"/plugins/*/*.so; do
-        package=$(dpkg -S "*/$(basename "$file")" 2>/dev/null | head -1 | cut -d: -f1) || true
-        [ -z "$package" ] || cp -L "/usr/share/doc/$package/copyright" "$stage/licences/$package.txt"
-    done
+    # Most files have one of two names: it fails for the other.
+    while read -r package; do
+        cp -L "/usr/share/doc/$package/copyright" "$stage/licences/$package.txt"
+    done < <(dpkg-query --search "${carried[@]}" 2>/dev/null | sed 's/[:,].*//' | sort -u)
 }
 
 pack() {
