@@ -9,6 +9,8 @@ set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 # shellcheck source=packaging/version.sh
 . "$root/packaging/version.sh"
+# shellcheck source=scripts/packages.sh
+. "$root/scripts/packages.sh"
 output=${1:-$root/build/release}
 rm -rf "$output"
 mkdir -p "$output"
@@ -16,6 +18,7 @@ output=$(cd "$output" && pwd)
 
 # The page for the browser, as one file that any web server serves once it is unpacked.
 make_page() {
+    install_packages zip
     web/build.sh "$clone/build/page"
     date_files "$clone/build/page"
     (cd build/page && find . -type f | sort | zip -X -q "$output/quillor-$version-web.zip" -@)
