@@ -174,7 +174,7 @@ void frmMenu::layOut() {
     fit(kWideSheet.width, kWideSheet.height);
 }
 
-// Where everything stands, in twips. What is drawn on a wide page stands beside the buttons.
+// Where everything stands, in twips. What is drawn stands beside the buttons, or below them.
 void frmMenu::arrange(const Sheet& paper) {
     const bool wide = paper.layout == Layout::Wide;
     width = paper.width;
@@ -183,11 +183,14 @@ void frmMenu::arrange(const Sheet& paper) {
     const Twips buttonHeight = wide ? 930 : 1380;
     const Twips pitch = wide ? 1230 : 1800;
     const Twips left = (width - buttonWidth) / 2;
-    const Twips heading = wide ? 1080 : height / 2 - 5100;
+    const Twips heading = wide ? 1080 : 1320 + (height - kHalfSheet.height) * 0.3F;
     const Twips top = wide ? 2580 : heading + 2100;
     const Font font{Face::Display, wide ? style::kButton.size : 25.F, true};
     imgBack.place(0, 0, width, height);
-    imgBack.drawing = wide ? style::kMenuDrawing : "";
+    imgBack.drawing = style::kMenuDrawing;
+    imgBack.drawn = {};
+    if (!wide)
+        drawBelow(imgBack, style::kTallMenuDrawing, top + 3 * pitch + buttonHeight);
     placeViewOnPaper(paper);
     lblWelcome.place(left, heading, buttonWidth, 1080);
     for (int i = 0; i < kOptions; ++i) {

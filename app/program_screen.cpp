@@ -1,7 +1,9 @@
 #include "app/program_screen.h"
 
+#include <algorithm>
 #include <utility>
 
+#include "core/guard.h"
 #include "core/numbers.h"
 #include "core/settings_file.h"
 #include "toolkit/style.h"
@@ -93,7 +95,11 @@ void ProgramScreen::changeLanguage() {
     const bool english = !settings_.gbEnglish;
     if (!program.desktop.question(program.lang(texts::kAskLanguage)))
         return;
-    chooseLanguage(program.folder, english);
+    quietly("chooseLanguage", [&] { chooseLanguage(program.folder, english); });
+    if (speaksEnglish(program.folder) != english) {
+        program.desktop.messageBox(MessageIcon::Critical, program.lang(texts::kLanguageStays));
+        return;
+    }
     // What stands over the game closes with it.
     Screen* game = over ? program.find(ScreenId::Game) : nullptr;
     if (game)
@@ -112,6 +118,15 @@ void ProgramScreen::placeViewOnPaper(const Sheet& paper) {
     const bool wide = paper.layout == Layout::Wide;
     lblView.font.size = style::kBarText.size * (wide ? 1 : 1.3F);
     lblView.place(240, 240, wide ? 1020 : 1380, wide ? 540 : 660);
+}
+
+void ProgramScreen::drawBelow(Picture& page, const char* drawing, Twips top) const {
+    constexpr float kShape = 3;  // its width, in heights
+    constexpr Twips kEdge = 300;
+    const Twips room = height - top;
+    const Twips high = std::min(room - 2 * kEdge, (width - 4 * kEdge) / kShape);
+    page.drawing = drawing;
+    page.drawn = {(width - kShape * high) / 2, top + (room - high) / 2, kShape * high, high};
 }
 
 void ProgramScreen::translateView() {

@@ -36,6 +36,9 @@ class ProgramScreen : public Screen {
     void layOutView(const Area& place, Color ink, Frame* on = nullptr);
     /// In the corner of a screen without a bar.
     void placeViewOnPaper(const Sheet& paper);
+    /// Draws on a tall page, between `top` and its lower edge, what stands beside the
+    /// controls on a wide one.
+    void drawBelow(Picture& page, const char* drawing, Twips top) const;
     /// In the interface's language as it is now.
     void translateView();
     /// The keys that only this screen has, one a line.

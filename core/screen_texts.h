@@ -198,6 +198,9 @@ inline constexpr TextPair kViewLanguage{u"English", u"Español"};  // the other 
 inline constexpr TextPair kAskLanguage{
     u"El juego se reinicia en inglés; si hay una partida en curso, se pierde. ¿Quieres continuar?",
     u"The game restarts in Spanish; a game that is going on is lost. Do you want to continue?"};
+inline constexpr TextPair kLanguageStays{
+    u"No se puede cambiar el idioma, porque no se puede escribir en la carpeta del juego.",
+    u"The language cannot be changed, because the game's folder cannot be written to."};
 inline constexpr TextPair kViewKeys{u"Teclas", u"Keys"};
 inline constexpr TextPair kKeysEverywhere{
     u"Tab y flechas: de un botón a otro\r\nBarra espaciadora: presionar\r\nF10 o Alt+V: este menú"
@@ -214,11 +217,13 @@ inline constexpr TextPair kKeysGame{
     u"Letras y números: probarlos\r\nIntro: jugar, otra partida\r\n! o Ctrl+E: escribir la "
     u"respuesta\r\n?: ¿qué es eso?, al terminar\r\nF2: volver a Inicio\r\nF3: reiniciar el "
     u"juego\r\nCtrl+M, R, T, A: selección\r\nCtrl+S: sonidos\r\nCtrl+L: primera letra\r\nCtrl+O: "
-    u"letras ocultas\r\nF10 o Alt+M: menú del juego",
+    u"letras ocultas\r\nF4: leer el tablero con el lector de pantalla\r\nF10 o Alt+M: menú del "
+    u"juego",
     u"Letters and numbers: try them\r\nReturn: play, play another\r\n! or Ctrl+E: write the "
     u"answer\r\n?: what is that?, after the game\r\nF2: back to Start\r\nF3: reboot "
     u"all\r\nCtrl+M, R, T, A: selection\r\nCtrl+S: sounds\r\nCtrl+L: first letter\r\nCtrl+O: "
-    u"hidden letters\r\nF10 or Alt+M: the game's menu"};
+    u"hidden letters\r\nF4: have the screen reader read the board\r\nF10 or Alt+M: the game's "
+    u"menu"};
 inline constexpr TextPair kKeysSettings{
     u"W: Wikipedia\r\nD: puntaje difícil\r\nI: puntaje infinito\r\nC: contra reloj\r\n1, 2, 3, 4: "
     u"diseño\r\nRetroceso: regresar",

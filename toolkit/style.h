@@ -30,6 +30,8 @@ inline constexpr const char* kMenuDrawing = "menu";
 inline constexpr const char* kIdleDrawing = "idle";
 inline constexpr const char* kTallIdleDrawing = "idle-tall";
 inline constexpr const char* kSettingsDrawing = "settings";
+inline constexpr const char* kTallMenuDrawing = "menu-tall";
+inline constexpr const char* kTallSettingsDrawing = "settings-tall";
 
 inline constexpr Font kButton{Face::Display, 17, true};
 inline constexpr Font kSmallButton{Face::Display, 14, true};

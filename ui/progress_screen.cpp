@@ -12,11 +12,6 @@ namespace quillor {
 
 namespace {
 
-constexpr Twips kLeft = 1260;
-constexpr Twips kColumn = 5160;
-constexpr Twips kRight = kLeft + kColumn + 360;
-constexpr Twips kInner = 2 * kColumn + 360;
-constexpr Area kChart{kLeft, 5280, kColumn, 2400};
 constexpr Twips kChartMargin = 180;
 constexpr int kSpeakDelay = 300;  // ms
 
@@ -94,19 +89,30 @@ void frmProgress::showCounts(const Progress& progress) {
     }
 }
 
-// From the oldest at the left to the last at the right, as high as the highest.
 void frmProgress::showScores(const std::vector<int>& scores) {
-    const int steps = static_cast<int>(scores.size()) - 1;
-    const int most = scores.empty() ? 0 : std::max(1, *std::ranges::max_element(scores));
-    const auto across = [steps](int i) {
-        const Twips room = kChart.width - 2 * kChartMargin;
-        return kChart.left + kChartMargin +
+    scores_ = scores;
+    drawScores();
+    lblScores.caption = program_.lang(texts::kProgressNoScores);
+    if (!scores.empty())
+        lblScores.caption = program_.lang(texts::kProgressScores) +
+                            inDigits(static_cast<int>(scores.size())) +
+                            program_.lang(texts::kProgressFrom) + inDigits(scores.front()) +
+                            program_.lang(texts::kProgressTo) + inDigits(scores.back());
+}
+
+// From the oldest at the left to the last at the right, as high as the highest.
+void frmProgress::drawScores() {
+    const int steps = static_cast<int>(scores_.size()) - 1;
+    const int most = scores_.empty() ? 0 : std::max(1, *std::ranges::max_element(scores_));
+    const auto across = [&](int i) {
+        const Twips room = shpChart.width - 2 * kChartMargin;
+        return shpChart.left + kChartMargin +
                room * static_cast<Twips>(i) / static_cast<Twips>(steps);
     };
-    const auto down = [&scores, most](int i) {
-        const Twips room = kChart.height - 2 * kChartMargin;
-        const int score = scores[static_cast<std::size_t>(i)];
-        return kChart.bottom() - kChartMargin -
+    const auto down = [&](int i) {
+        const Twips room = shpChart.height - 2 * kChartMargin;
+        const int score = scores_[static_cast<std::size_t>(i)];
+        return shpChart.bottom() - kChartMargin -
                room * static_cast<Twips>(score) / static_cast<Twips>(most);
     };
     for (int i = 1; i <= kLastScore; ++i) {
@@ -114,12 +120,6 @@ void frmProgress::showScores(const std::vector<int>& scores) {
         if (i <= steps)
             lnScore(i).span(across(i - 1), down(i - 1), across(i), down(i));
     }
-    lblScores.caption = program_.lang(texts::kProgressNoScores);
-    if (!scores.empty())
-        lblScores.caption = program_.lang(texts::kProgressScores) +
-                            inDigits(static_cast<int>(scores.size())) +
-                            program_.lang(texts::kProgressFrom) + inDigits(scores.front()) +
-                            program_.lang(texts::kProgressTo) + inDigits(scores.back());
 }
 
 void frmProgress::showTopics(const Progress& progress) {
@@ -146,68 +146,109 @@ void frmProgress::onKeyDown(KeyEvent& event) {
     goBack();
 }
 
-// Where everything stands, in twips.
 void frmProgress::layOut() {
-    width = kWideSheet.width;
-    height = kWideSheet.height;
     imgBack.id = "imgBack";
-    add(imgBack).place(0, 0, width, height);
+    add(imgBack);
     tmrSpeak.id = "tmrSpeak";
     tmrSpeak.interval = kSpeakDelay;
     add(tmrSpeak);
     layOutHead();
-    const auto text = [this](Label& label) -> Label& {
-        label.font = style::kText;
+    const auto text = [this](Label& label) {
         label.textColor = style::kInk;
         label.align = Align::Left;
-        return add(label);
+        add(label);
     };
-    for (int i = 0; i <= kLastCount; ++i) {
-        text(lblCount(i)).place(kLeft, 1620 + 420 * static_cast<Twips>(i), kColumn, 420);
-        lblCount(i).font = style::kBarText;
-    }
+    for (Label& count : lblCount)
+        text(count);
     lblScores.id = "lblScores";
-    text(lblScores).place(kLeft, 4800, kColumn, 360);
+    text(lblScores);
     shpChart.id = "shpChart";
     shpChart.backColor = settings_.glWhite;
     shpChart.borderColor = style::kEdge;
     shpChart.borderWidth = 15;
     shpChart.radius = style::kButtonRadius;
-    add(shpChart).place(kChart.left, kChart.top, kChart.width, kChart.height);
+    add(shpChart);
     add(lnScore);
     for (Line& line : lnScore)
         line.thickness = 45;
     lblTopics.id = "lblTopics";
-    text(lblTopics).place(kRight, 1620, kColumn, 360);
+    text(lblTopics);
     lstTopics.id = "lstTopics";
-    lstTopics.font = style::kField;
-    add(lstTopics).place(kRight, 2040, kColumn, 5640);
+    add(lstTopics);
+    fit(kWideSheet.width, kWideSheet.height);
 }
 
 void frmProgress::layOutHead() {
-    const auto shape = [this](Shape& face, const char* id, const Area& place) {
-        face.id = id;
-        face.radius = style::kButtonRadius;
-        add(face).place(place.left, place.top, place.width, place.height);
-    };
-    const auto button = [this](Label& label, const char* id, const Area& place) {
-        label.id = id;
-        label.font = style::kSmallButton;
+    const auto button = [this](Shape& face, Label& label) {
+        face.radius = label.cornerRadius = style::kButtonRadius;
         label.role = LabelRole::Button;
-        label.cornerRadius = style::kButtonRadius;
-        add(label).place(place.left, place.top, place.width, place.height);
+        add(face);
+        add(label);
     };
-    constexpr Area kBackPlace{kLeft + 180, 510, 1920, 660};
-    constexpr Area kEmptyPlace{kLeft + kInner - 2100, 510, 1920, 660};
-    layOutView({240, 240, 1020, 540}, style::kFaint);
-    shape(shpHead, "shpHead", {kLeft, 360, kInner, 960});
+    layOutView({}, style::kFaint);
+    shpHead.id = "shpHead";
+    shpHead.radius = style::kButtonRadius;
+    add(shpHead);
     lblHeading.id = "lblHeading";
     lblHeading.font = {Face::Display, 26, true};
-    add(lblHeading).place(kLeft + 2400, 360, kInner - 4800, 960);
-    shape(shpBack, "shpBack", kBackPlace);
-    button(lblBack, "lblBack", kBackPlace);
-    shape(shpEmpty, "shpEmpty", kEmptyPlace);
-    button(lblEmpty, "lblEmpty", kEmptyPlace);
+    add(lblHeading);
+    shpBack.id = "shpBack";
+    lblBack.id = "lblBack";
+    button(shpBack, lblBack);
+    shpEmpty.id = "shpEmpty";
+    lblEmpty.id = "lblEmpty";
+    button(shpEmpty, lblEmpty);
+}
+
+// Where everything stands, in twips: the topics beside what was done, or below it.
+void frmProgress::arrange(const Sheet& paper) {
+    const bool wide = paper.layout == Layout::Wide;
+    const float larger = wide ? 1 : 1.3F;
+    const Twips left = wide ? 1260 : 300;
+    width = paper.width;
+    height = paper.height;
+    const Twips inner = width - 2 * left;
+    const Twips column = wide ? (inner - 360) / 2 : inner;
+    const Twips row = 420 * larger;
+    const Twips first = wide ? 1620 : 2340;
+    const Twips chart = first + static_cast<Twips>(kLastCount + 1) * row + (wide ? 720 : 660);
+    const Twips chartHeight = wide ? 2400 : 2700;
+    imgBack.place(0, 0, width, height);
+    placeViewOnPaper(paper);
+    arrangeHead({left, wide ? 360.F : 990.F, inner, 960 * larger}, larger);
+    for (int i = 0; i <= kLastCount; ++i) {
+        lblCount(i).font = style::kBarText;
+        lblCount(i).font.size *= larger;
+        lblCount(i).place(left, first + row * static_cast<Twips>(i), column, row);
+    }
+    lblScores.place(left, chart - 480 * larger, column, 360 * larger);
+    shpChart.place(left, chart, column, chartHeight);
+    drawScores();
+    const Twips beside = wide ? left + column + 360 : left;
+    const Twips topics = wide ? first : chart + chartHeight + 300;
+    lblTopics.place(beside, topics, column, 360 * larger);
+    lstTopics.place(beside, topics + 420 * larger, column,
+                    height - (wide ? 420 : 300) - topics - 420 * larger);
+    lblScores.font = lblTopics.font = style::kText;
+    lstTopics.font = style::kField;
+    for (Font* font : {&lblScores.font, &lblTopics.font, &lstTopics.font})
+        font->size *= larger;
+}
+
+void frmProgress::arrangeHead(const Area& area, float larger) {
+    const Twips inset = 150 * larger;
+    const Twips button = 1920 * larger;
+    const auto put = [&](Shape& face, Label& label, Twips x) {
+        face.place(x, area.top + inset, button, area.height - 2 * inset);
+        label.place(x, area.top + inset, button, area.height - 2 * inset);
+        label.font = style::kSmallButton;
+        label.font.size *= larger;
+    };
+    shpHead.place(area.left, area.top, area.width, area.height);
+    const Twips beside = button + inset + 180;
+    lblHeading.place(area.left + beside, area.top, area.width - 2 * beside, area.height);
+    put(shpBack, lblBack, area.left + 180);
+    put(shpEmpty, lblEmpty, area.right() - 180 - button);
 }
 
 void addProgressScreen(Program& program) {

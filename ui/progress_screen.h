@@ -32,6 +32,8 @@ class frmProgress : public ProgramScreen {
     void takePaper(const ImageRef& paper) override { imgBack.image = paper; }
 
   protected:
+    std::span<const Sheet> sheets() const override { return kLargeSheets; }
+    void arrange(const Sheet& paper) override;
     void onLoad() override;
     void onKeyDown(KeyEvent& event) override;
     TextPair ownKeys() const override { return texts::kKeysProgress; }
@@ -41,13 +43,17 @@ class frmProgress : public ProgramScreen {
   private:
     void layOut();
     void layOutHead();
+    void arrangeHead(const Area& area, float larger);
     void connect();
     void eTranslate();
     void show(const Progress& progress);
     void showCounts(const Progress& progress);
     void showScores(const std::vector<int>& scores);
+    void drawScores();
     void showTopics(const Progress& progress);
     void lblEmpty_Click();
+
+    std::vector<int> scores_;  // as drawn
 };
 
 /// Makes the page known to the program, and puts it into the menu "View" of the large

@@ -28,10 +28,9 @@ struct Measures {
 Measures measuresFor(const Sheet& paper) {
     if (paper.layout == Layout::Wide)
         return {3240, 2520, 900, 600, 900, 1080, 840, 7080, 18};
-    const Twips tilePitch = 1140;
-    const Twips first = paper.height / 2 - 3300;
-    return {paper.width / 2 - 3720, first,        1380, 840, 960, tilePitch,
-            first - 2400,           first + 7440, 24};
+    const Twips tiles = 1080 + (paper.height - kHalfSheet.height) * 0.3F;
+    const Twips first = tiles + 2160;
+    return {paper.width / 2 - 3720, first, 1200, 840, 960, 1140, tiles, first + 6360, 24};
 }
 
 }  // namespace
@@ -110,7 +109,10 @@ void frmOptions::arrange(const Sheet& paper) {
     width = paper.width;
     height = paper.height;
     imgBack.place(0, 0, width, height);
-    imgBack.drawing = wide ? style::kSettingsDrawing : "";
+    imgBack.drawing = style::kSettingsDrawing;
+    imgBack.drawn = {};
+    if (!wide)
+        drawBelow(imgBack, style::kTallSettingsDrawing, m.backTop + m.box);
     placeViewOnPaper(paper);
     const Twips tilesLeft =
         (width - static_cast<Twips>(kTiles) * m.tilePitch + m.tilePitch - m.tile) / 2;

@@ -25,7 +25,8 @@ ICON_SIZES = (16, 24, 32, 48, 64, 128, 256, 512)
 ICO_SIZES = (16, 24, 32, 48, 64, 128, 256)
 # What is drawn on the ruled page of a screen; everything else is see-through.
 PAGES = {"menu": (1980, 1215), "idle": (1980, 1215), "idle-tall": (1215, 585),
-         "settings": (1980, 1215)}
+         "settings": (1980, 1215),
+         "menu-tall": (1215, 405), "settings-tall": (1215, 405)}
 
 
 def draw(svg, size, png):

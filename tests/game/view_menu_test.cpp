@@ -66,6 +66,28 @@ TEST_F(ViewMenu, SpeaksTheOtherLanguageOnceThePlayerAgrees) {
     EXPECT_EQ(player.screen().title, texts::kMenuTitle.spanish);
 }
 
+TEST_F(ViewMenu, TellsWhereTheLanguageCannotBeKept) {
+    english = false;
+    openArcade();
+    run.disk.breakDown(FaultyDisk::Operation::Create);
+    desktop.answerQuestion(texts::kAskLanguage.spanish, true);
+    desktop.expectCritical(lang(texts::kLanguageStays));
+    desktop.chooseFromPopUp("mLanguage");
+    player.click("lblView");
+    EXPECT_FALSE(settings.gbEnglish);
+    EXPECT_EQ(front(), "frmGame");
+}
+
+TEST_F(ViewMenu, TellsWhereTheLanguageCannotBeTakenAway) {
+    start();
+    run.disk.breakDown(FaultyDisk::Operation::Remove);
+    desktop.answerQuestion(texts::kAskLanguage.english, true);
+    desktop.expectCritical(lang(texts::kLanguageStays));
+    desktop.chooseFromPopUp("mLanguage");
+    player.click("lblView");
+    EXPECT_TRUE(settings.gbEnglish);
+}
+
 TEST_F(ViewMenu, ClosesTheGameWithWhatStandsOverItForAnotherLanguage) {
     addTopic(u"A\r\nONE\r\nTWO");
     openArcade();

@@ -62,6 +62,24 @@ TEST(Manual, TellsOfEveryFileThatTheReadmeTellsOf) {
     }
 }
 
+TEST(Manual, TellsInBothLanguagesOfEveryKeyThatTheBoxesTellOf) {
+    const std::string manual = bytesOf("resources/Quillor-Manual.txt");
+    const std::size_t middle = manual.find("\nENGLISH");
+    const std::regex keys("\\b(F[0-9]+|Ctrl\\+[A-Z]|Alt\\+[A-Z][a-z]*|Escape|Supr|Delete)\\b");
+    const auto expectAll = [&](TextView box, const std::string& part) {
+        const std::string text = toUtf8(box);
+        for (std::sregex_iterator each(text.begin(), text.end(), keys), end; each != end; ++each)
+            EXPECT_NE(part.find(each->str()), std::string::npos) << each->str();
+    };
+    for (const TextPair& box :
+         {texts::kKeysEverywhere, texts::kKeysGame, texts::kKeysInventor, texts::kKeysProgress}) {
+        expectAll(box.spanish, manual.substr(0, middle));
+        expectAll(box.english, manual.substr(middle));
+    }
+    EXPECT_NE(texts::kKeysGame.spanish.find(u"F4"), TextView::npos);
+    EXPECT_NE(texts::kKeysGame.english.find(u"F4"), TextView::npos);
+}
+
 TEST(Manual, FitsItsWindow) {
     std::istringstream manual(bytesOf("resources/Quillor-Manual.txt"));
     for (std::string line; std::getline(manual, line);) {

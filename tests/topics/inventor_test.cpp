@@ -1,4 +1,5 @@
 // The inventor's fields, list and counter.
+#include "app/menu_screen.h"
 #include "tests/topics/topics_fixture.h"
 
 namespace quillor::testing {
@@ -212,8 +213,8 @@ TEST_F(Inventor, GoesBackToTheMenuWithItsPaper) {
     inventor().takePaper(paper);
     player.click("lblBack");
     EXPECT_EQ(program.find(ScreenId::Inventor), nullptr);
-    EXPECT_EQ(player.screen().name, "frmMenu");
-    EXPECT_EQ(player.screen().as<Picture>(&controlOf(player.screen().controls()[0]))->image, paper);
+    ASSERT_EQ(player.screen().name, "frmMenu");
+    EXPECT_EQ(dynamic_cast<frmMenu&>(player.screen()).imgBack.image, paper);
 }
 
 TEST_F(Inventor, GoesBackOnBackspaceAtTheStartOfTheTopicOnly) {
