@@ -14,7 +14,8 @@ void readPreferences(std::function<void(const Preferences&)> told) {
     Preferences wanted;
     const QPalette colors = QGuiApplication::palette();
     wanted.dark = colors.window().color().lightness() < colors.windowText().color().lightness();
-    const QSettings access("com.apple", "universalaccess");
+    // The toolkit turns the domain round: com.apple.universalaccess.
+    const QSettings access("apple.com", "universalaccess");
     wanted.highContrast = access.value("increaseContrast").toBool();
     wanted.reducedMotion = access.value("reduceMotion").toBool();
     wanted.textSize = std::clamp(QGuiApplication::font().pointSizeF() / kUsualSize, 0.8, 2.5);
