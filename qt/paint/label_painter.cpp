@@ -112,10 +112,8 @@ class Caption {
     void drawEdge(QPainter& painter, const QRectF& rect, const Edge& edge) const {
         constexpr int kDirections = 12;
         const double reach = std::max(1.5, font_.pixelSize() / 13.0);
-        const double density = painter.device()->devicePixelRatioF();
-        QImage layer((rect.size() * density).toSize().expandedTo(QSize(1, 1)),
+        QImage layer(rect.size().toSize().expandedTo(QSize(1, 1)),
                      QImage::Format_ARGB32_Premultiplied);
-        layer.setDevicePixelRatio(density);
         layer.fill(Qt::transparent);
         QPainter onLayer(&layer);
         onLayer.setRenderHint(QPainter::Antialiasing);
@@ -138,6 +136,21 @@ class Caption {
     QFont font_;
     QRectF place_;
 };
+
+void paintCaption(QPainter& painter, const QRectF& place, const LabelLook& look,
+                  const QFont& font) {
+    const Caption caption(place, look, font);
+    if (!look.enabled) {
+        painter.setOpacity(look.fades ? kDisabledOpacity : 1);
+        caption.draw(painter, toQt(look.textColor));
+        return;
+    }
+    const double needed = look.needed > 0 ? look.needed : contrastNeeded(look.font);
+    const Edge edge = edgeFor(look.textColor, look.grounds, needed);
+    if (edge.share > 0)
+        caption.drawEdge(painter, place, edge);
+    caption.draw(painter, toQt(look.textColor));
+}
 
 }  // namespace
 
@@ -165,17 +178,13 @@ void paintLabel(QPainter& painter, const QRectF& rect, const LabelLook& look, co
     }
     if (look.caption.empty())
         return;
-    const Caption caption(rect, look, fonts.font(look.font, pixelsPerTwip));
-    if (!look.enabled) {
-        painter.setOpacity(look.fades ? kDisabledOpacity : 1);
-        caption.draw(painter, toQt(look.textColor));
-        return;
-    }
-    const double needed = look.needed > 0 ? look.needed : contrastNeeded(look.font);
-    const Edge edge = edgeFor(look.textColor, look.grounds, needed);
-    if (edge.share > 0)
-        caption.drawEdge(painter, rect, edge);
-    caption.draw(painter, toQt(look.textColor));
+    // Sizes of fonts are whole numbers: of the display's own pixels, which are the finest.
+    const double density = painter.device()->devicePixelRatioF();
+    painter.save();
+    painter.scale(1 / density, 1 / density);
+    const QRectF place(rect.topLeft() * density, rect.size() * density);
+    paintCaption(painter, place, look, fonts.font(look.font, pixelsPerTwip * density));
+    painter.restore();
 }
 
 QFont drawnFont(const QRectF& rect, const LabelLook& look, const FontBook& fonts,

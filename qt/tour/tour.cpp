@@ -166,7 +166,8 @@ TourStep Tour::waitUntilShown(const QString& id) const {
 TourStep Tour::waitForRest(const QStringList& timers) const {
     const auto rests = [this, timers] {
         const Screen* front = screen();
-        return front != nullptr && std::ranges::none_of(front->timers(), [&](const Timer* timer) {
+        return front != nullptr && !shell_.motions.areUnderWay() &&
+               std::ranges::none_of(front->timers(), [&](const Timer* timer) {
                    return timer->enabled && timers.contains(QString::fromStdString(timer->id));
                });
     };

@@ -119,7 +119,7 @@ class Script {
         pictureAtRest("game-digits");
         type(words_.restOfIt);
         expect("lblStatus", texts::kVictory);
-        picture("classic-victory");
+        pictureAtRest("classic-victory");
         key(Qt::Key_F2);
         add(tour_.waitFor("frmMenu"));
     }

@@ -47,7 +47,7 @@ void FieldView::syncLook() {
 
 // Smaller where its text would not fit, so that all of it is seen; also while it is typed.
 QFont FieldView::fitted() const {
-    constexpr int kSmallest = 8;  // pixels
+    constexpr double kSmallest = 8;  // pixels of the display
     QFont font = link().shell().fonts.font(field_.font, pixelsPerTwip());
     const double room = width() - 2 * kPadding * pixelsPerTwip() - 2 * kInner;
     const double high = height() * 0.8;
@@ -56,7 +56,7 @@ QFont FieldView::fitted() const {
         const QFontMetricsF metrics(font);
         return metrics.horizontalAdvance(text) <= room && metrics.height() <= high;
     };
-    while (room > 0 && font.pixelSize() > kSmallest && !fits())
+    while (room > 0 && (font.pixelSize() - 1) * devicePixelRatioF() >= kSmallest && !fits())
         font.setPixelSize(font.pixelSize() - 1);
     return font;
 }

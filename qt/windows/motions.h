@@ -26,6 +26,7 @@ class Motions {
     /// call it off; what it does already ends.
     void start(const void* owner, Motion motion, std::function<void(QPointF)> shift);
     void stop(const void* owner);
+    bool areUnderWay() const { return !moving_.empty(); }
     /// By the time that has passed; the timer does it too, while events are delivered. False
     /// where nothing moved.
     bool step();

@@ -146,12 +146,24 @@ void Page::sync() {
     link_.focus().settle();
     if (!screen_)
         return;
+    ControlView* later = fieldToComeTo();
     for (ControlView* each : views_)
-        each->sync(scale_);
+        if (each != later)
+            each->sync(scale_);
     giveFocus();
+    if (later)
+        later->sync(scale_);
     for (ControlView* each : views_)
         each->withdraw();
     timers_.sync();
+}
+
+// A field that is about to get the focus. Its text may change with that, and a screen reader
+// that hears of a caret first takes it that the player has been told of the field.
+ControlView* Page::fieldToComeTo() {
+    const Control* control = entered_ && screen_->enabled ? link_.focus().control() : nullptr;
+    auto* field = control ? dynamic_cast<FieldView*>(view(*control)) : nullptr;
+    return field && field->isVisible() && !field->hasFocus() ? field : nullptr;
 }
 
 // To the page itself while no control has it: from there keys reach the screen too.

@@ -84,6 +84,7 @@ class Page : public QWidget {
   private:
     void makeViews();
     void layOut();
+    ControlView* fieldToComeTo();
     void giveFocus();
     void press(QKeyEvent& event);
     bool takeFiles(QDropEvent& event);

@@ -112,7 +112,7 @@ void PageWindow::open() {
         const QList<QRect> areas = displays();
         const std::optional<WindowState> kept = memory_ ? memory_->kept() : std::nullopt;
         if (isDialog())
-            setMinimumSize((sheet(*page_->screen()) * kSmallestDialog).toSize());
+            setMinimumSize(smallestDialog());
         else if (!areas.isEmpty())
             setMinimumSize(smallestOn(areas.front()));
         if (kept && !areas.isEmpty())
@@ -145,6 +145,13 @@ QRect PageWindow::firstPlace() const {
     QRect place(QPoint(), size);
     place.moveCenter(space.center());
     return place;
+}
+
+// No larger than on a small display, whose scale may be any.
+QSize PageWindow::smallestDialog() const {
+    const auto& owner = static_cast<const PageWindow&>(*parentWidget());
+    const double pixels = std::min(kSmallestDialog, owner.page()->scale().pixels);
+    return (sheet(*page_->screen()) * pixels).toSize();
 }
 
 // In the middle of the owner, of its shape and in its scale.

@@ -45,6 +45,7 @@ class PageWindow : public QMainWindow {
     void open();
     QRect firstPlace() const;
     QRect dialogPlace() const;
+    QSize smallestDialog() const;
     void restore(const WindowState& state);
     void noteChange();
     void keepState();

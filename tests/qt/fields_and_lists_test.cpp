@@ -51,6 +51,20 @@ TEST_F(Fields, TakeTextAndCaretFromTheScreen) {
     EXPECT_EQ(edit().selectedText(), "hola");
 }
 
+TEST_F(Fields, HaveTheFocusBeforeItsComingChangesTheirText) {
+    TextField other;
+    addField(other, "txtOther", 0, 900);
+    other.setText(u"(NONE)");
+    other.onGotFocus = [&] { other.setText(u""); };
+    open();
+    bool focusFirst = false;
+    QObject::connect(&as<QLineEdit>(other), &QLineEdit::textChanged,
+                     [&] { focusFirst = as<QLineEdit>(other).hasFocus(); });
+    press(Qt::Key_Tab);
+    EXPECT_EQ(as<QLineEdit>(other).text(), "");
+    EXPECT_TRUE(focusFirst);
+}
+
 TEST_F(Fields, LetAHandlerRewriteWhatIsTyped) {
     field.onChange = [this] {
         Text upper = field.text();
