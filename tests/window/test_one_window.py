@@ -77,7 +77,6 @@ class OneWindow(Player):
 
         self.go_round(look)
 
-
     def again(self):
         self.end_program()
         self.start_at_menu()
@@ -99,6 +98,27 @@ class OneWindow(Player):
         until(lambda: "Quillor-Window.ini" in self.files(), "a file that keeps the state")
         self.again()
         until(lambda: "FULLSCREEN" in self.desktop.windows.states(self.window), "a full screen")
+
+    def test_is_maximised_again_in_the_next_run_and_comes_back_to_its_size(self):
+        windows = self.desktop.windows
+        small = windows.place(self.window)
+        whole = {"MAXIMIZED_HORZ", "MAXIMIZED_VERT"}
+        for state in whole:
+            windows.change_state(self.window, state)
+        until(lambda: "Quillor-Window.ini" in self.files(), "a file that keeps the state")
+        self.again()
+        until(lambda: whole <= windows.states(self.window), "a maximised window")
+        for state in whole:
+            windows.change_state(self.window, state, add=False)
+        until(lambda: windows.place(self.window)[2:] == small[2:], f"the size of {small}")
+
+    def test_comes_back_from_a_display_that_is_gone(self):
+        self.end_program()
+        self.put("Quillor-Window.ini", "4000\n200\n900\n700\n0\n")
+        self.start_at_menu()
+        left, top, width, height = self.desktop.windows.place(self.desktop.windows.active())
+        self.assertEqual((width, height), (900, 700))
+        self.assertTrue(0 <= left <= 700 and 0 <= top <= 300, f"it is at {left}, {top}")
 
     def test_keeps_nothing_of_a_window_that_is_left_alone(self):
         self.go_round(lambda: None)

@@ -1,10 +1,11 @@
-"""A whole game by keyboard alone, from what the screen reader says and nothing else."""
+"""Whole games and every setting, from what the screen reader says and nothing else."""
 
 import re
 import unittest
 
 from harness import reader
 from harness.player import Player
+from harness.waiting import until
 
 # A key waits for the screen reader's leave; a loaded machine may be slow to give it.
 LATE = (r"^QSpiApplication::keyEventError",)
@@ -96,3 +97,130 @@ class ByEar(Player):
         self.key("Return")
         self.key("g")
         self.ear.expect("G: sí")
+
+
+# As often as letters are in Spanish: all that who plays by ear knows beforehand.
+BY_FREQUENCY = "eaosrnidlctumpbgvyqhfzjñxkw"
+
+
+@unittest.skipUnless(reader.is_there(), "orca is not installed: not played by ear")
+class Blindfold(Player):
+    """Knows no phrase, no place and no id: every step follows from what was heard."""
+
+    expected_noise = LATE
+
+    def setUp(self):
+        super().setUp()
+        self.ear = reader.Reader(self.desktop)
+        self.addCleanup(self.ear.close)
+        self.ear.expect("Screen reader on")
+
+    def begin(self, *phrases):
+        self.put_settings()
+        if phrases:
+            self.put_topic("A", "LETRAS", phrases)
+        self.start(environment={"QUILLOR_TEST_IDS": "0"})
+        self.ear.expect("MODO ARCADE")
+
+    def go(self, key, *words):
+        """Presses a key until those words are heard."""
+        for _ in range(60):
+            heard = self.ear.words()
+            self.key(key)
+            until(lambda: len(self.ear.words()) > len(heard), "something to be heard")
+            for said in self.ear.settled()[len(heard):]:
+                if all(word in said for word in words):
+                    self.ear.new_words()
+                    return said
+        self.fail(f"{words} was never heard; the last was {self.ear.words()[-12:]}")
+
+    def guess_until_the_end(self):
+        """Tries letter after letter until the game is over; returns how that was said."""
+        for letter in BY_FREQUENCY:
+            self.key("ntilde" if letter == "ñ" else letter)
+            said = self.ear.expect("notification")
+            if "VICTORIA" in said or "MUERTO" in said:
+                return said
+            self.assertIn(f"{letter.upper()}: ", said)
+        self.fail("the game never ended")
+
+    def test_arcade_game_is_won(self):
+        self.begin("la rosa", "las rosas")
+        self.key("space")
+        self.ear.expect("JUGAR")
+        self.key("space")
+        self.ear.expect("LETRAS")
+        self.key("Return")
+        self.ear.expect("TEMA: LETRAS", "Letras: ")
+        said = self.guess_until_the_end()
+        self.assertIn("VICTORIA", said)
+        self.assertRegex(said, "La respuesta: (LA ROSA|LAS ROSAS)")
+
+    def test_arcade_game_is_lost(self):
+        self.begin("kiwi", "kiwis")
+        self.key("space")
+        self.ear.expect("JUGAR")
+        self.key("space")
+        self.ear.expect("LETRAS")
+        self.key("Return")
+        self.ear.expect("Letras: ")
+        said = self.guess_until_the_end()
+        self.assertIn("MUERTO", said)
+        self.assertIn("La respuesta: KIWI", said)
+
+    def test_classic_game_is_set_and_played(self):
+        self.begin()
+        self.go("Down", "MODO CLÁSICO")
+        self.key("space")
+        self.ear.expect("JUGAR")
+        self.key("space")
+        self.ear.expect("Frase")
+        self.type("la rosa")
+        self.go("Tab", "Tema")
+        self.type("flores")
+        self.go("Tab", "ACEPTAR")
+        self.key("space")
+        self.ear.expect("TEMA: FLORES", "Letras: 6")
+        self.assertIn("VICTORIA", self.guess_until_the_end())
+
+    def test_topic_is_invented_and_played(self):
+        self.begin()
+        self.go("Down", "INVENTOR")
+        self.key("space")
+        self.ear.expect("Nombre del tema")
+        self.type("flores")
+        self.go("Tab", "Frase a agregar")
+        for phrase in ("la rosa", "las rosas"):
+            self.type(phrase)
+            self.key("Return")
+        self.go("Tab", "GUARDAR Y CREAR push button")
+        self.key("space")
+        self.ear.expect("reiniciar el juego")
+        self.go("Tab", "Sí push button")
+        self.key("space")
+        self.ear.expect("MODO ARCADE")
+        self.key("space")
+        self.ear.expect("JUGAR")
+        self.key("space")
+        self.ear.expect("notification")
+        self.go("Down", "FLORES")
+        self.key("Return")
+        self.ear.expect("TEMA: FLORES", "Letras: ")
+        self.assertIn("VICTORIA", self.guess_until_the_end())
+
+    def test_every_setting_is_changed(self):
+        self.begin()
+        self.go("Down", "AJUSTES")
+        self.key("space")
+        self.ear.expect("Quillor | Ajustes")
+        self.go("Tab", "USAR WIKIPEDIA")
+        for name in ("USAR WIKIPEDIA", "PUNTAJE DIFÍCIL", "PUNTAJE INFINITO", "CONTRA RELOJ"):
+            if name != "USAR WIKIPEDIA":
+                self.go("Down", name, "not checked")
+            self.go("space", "checked")
+        for key, design in (("1", "Tinta negra"), ("2", "Tinta azul"), ("3", "Fondo negro"),
+                            ("4", "Fondo azul")):
+            self.key(key)
+            self.ear.expect("Diseño: ", design)
+        self.assertEqual(self.get("Quillor-Config.ini").decode().split()[:7],
+                         ["3", "0", "1", "0", "1", "1", "1"])

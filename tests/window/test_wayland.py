@@ -1,10 +1,12 @@
-"""The program on Wayland, where nothing can place a window or make it active."""
+"""The program on Wayland, where nothing can place a window or make it active: it shows itself,
+and is played without a mouse."""
 
 import struct
 import unittest
 
 from harness import wayland
 from harness.program import executable
+from harness.whole_games import WholeGames
 
 
 def size_of(png):
@@ -13,7 +15,7 @@ def size_of(png):
 
 
 @unittest.skipUnless(wayland.is_there(), "weston is not installed: not tried on Wayland")
-class Wayland(unittest.TestCase):
+class TourOnWayland(unittest.TestCase):
     def setUp(self):
         self.desktop = wayland.WaylandDesktop()
         self.addCleanup(self.desktop.close)
@@ -32,3 +34,14 @@ class Wayland(unittest.TestCase):
         for name in ("start.png", "menu.png", "inventor.png", "settings-design-4.png",
                      "topic-selection.png", "leave-question.png", "victory.png"):
             self.assertEqual(shown[name], shown["game-idle.png"], name)
+
+
+@unittest.skipUnless(wayland.is_there(), "weston is not installed: not tried on Wayland")
+class GamesOnWayland(WholeGames):
+    desktop_kind = wayland.WaylandInAWindow
+
+
+def load_tests(loader, _tests, _pattern):
+    """Without the class that the games are written in."""
+    kinds = (TourOnWayland, GamesOnWayland)
+    return unittest.TestSuite(map(loader.loadTestsFromTestCase, kinds))

@@ -71,12 +71,23 @@ class Program:
 
     def titles(self):
         """The titles of the windows that the window manager shows, oldest first."""
+        if self.desktop.is_wayland:
+            return self._named(State.SHOWING)
         windows = self.desktop.windows
         return [windows.title(window) for window in windows.ids()]
+
+    def _named(self, state):
+        """The names of the windows in that state, as the screen reader knows them."""
+        try:
+            return [window.name for window in self.windows() if window.has(state)]
+        except Gone:
+            return []
 
     def title(self):
         """The title of the window that has the keyboard, or None."""
         self.check_alive()
+        if self.desktop.is_wayland:
+            return next(iter(self._named(State.ACTIVE)), None)
         active = self.desktop.windows.active()
         return None if active is None else self.desktop.windows.title(active)
 

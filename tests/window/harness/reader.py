@@ -6,12 +6,15 @@ file in the moment it would be heard.
 
 import re
 import shutil
+import time
 from pathlib import Path
 
 from . import processes
 from .waiting import until
 
 UTTERANCE = re.compile(r"SPEECH OUTPUT: '(.*?)' ?\{'", re.DOTALL)
+
+PAUSE = 0.4  # seconds; what belongs together is said within it
 
 # Each line of the file is to be had at once, and no speech server is waited for: what is
 # handed to speech is written down in any case.
@@ -46,6 +49,14 @@ class Reader:
         if not self._debug.exists():
             return []
         return UTTERANCE.findall(self._debug.read_text(errors="replace"))
+
+    def settled(self):
+        """Everything that was said, once nothing more is for a moment."""
+        before = []
+        while before != self.words():
+            before = self.words()
+            time.sleep(PAUSE)
+        return before
 
     def new_words(self):
         """What was said since this was asked last."""

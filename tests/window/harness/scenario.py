@@ -27,6 +27,7 @@ def pictures_folder():
 
 class Scenario(Eyes, Dialogs, unittest.TestCase):
     maxDiff = None
+    desktop_kind = VirtualDesktop
     desktop_user = None  # runs everything as that user, which only root can do
     # Lines that the program may write in this scenario; any other fails it.
     expected_noise = ()
@@ -55,7 +56,7 @@ class Scenario(Eyes, Dialogs, unittest.TestCase):
         self.program = None
         for old in pictures_folder().glob(f"{self._traces_name()}.*"):
             old.unlink()
-        self.desktop = VirtualDesktop(self.desktop_user)
+        self.desktop = self.desktop_kind(self.desktop_user)
         self.addCleanup(self.desktop.close)
         self.addCleanup(self.end_program)
         self.hands = Hands(self.desktop)

@@ -27,6 +27,8 @@ _CLIENT = (
 class VirtualDesktop:
     """Is ready once made; `close` takes all of it down, whatever has happened."""
 
+    is_wayland = False
+
     def __init__(self, user=None):
         self.user = user
         self.windows = None

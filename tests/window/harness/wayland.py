@@ -1,5 +1,4 @@
-"""A Wayland desktop in memory. It has no keyboard and no mouse, so no window on
-it is ever active."""
+"""Wayland desktops in memory."""
 
 import os
 import shutil
@@ -8,6 +7,7 @@ import tempfile
 from pathlib import Path
 
 from . import processes
+from .virtual_desktop import VirtualDesktop
 from .waiting import until
 
 SOCKET = "quillor-test"
@@ -18,7 +18,9 @@ def is_there():
 
 
 class WaylandDesktop:
-    """Is ready once made; `close` takes it down, whatever has happened."""
+    """Has no keyboard and no mouse, so no window on it is ever active.
+
+    Is ready once made; `close` takes it down, whatever has happened."""
 
     def __init__(self):
         self.scratch = Path(tempfile.mkdtemp(prefix="quillor-wayland-"))
@@ -68,3 +70,30 @@ class WaylandDesktop:
         self._server.wait()
         self._log.close()
         shutil.rmtree(self.scratch, ignore_errors=True)
+
+
+class WaylandInAWindow(VirtualDesktop):
+    """A Wayland desktop that is a window of an X desktop, and has its keyboard.
+
+    Its windows are known to the screen reader alone.
+    """
+
+    is_wayland = True
+
+    def _start(self):
+        super()._start()
+        self._start_process(
+            ["weston", "--backend=x11-backend.so", "--use-pixman", "--no-config", "--width=1400",
+             "--height=900", "--idle-time=0", f"--socket={SOCKET}"]
+        )
+        until(self._has_keyboard, "the Wayland desktop to have the keyboard", patience=60)
+
+    def _has_keyboard(self):
+        for window in self.windows.ids():
+            self.windows.activate(window)
+        return self.windows.active()
+
+    def start_program(self, command, extra_environment, log):
+        on_wayland = {"QT_QPA_PLATFORM": "wayland", "WAYLAND_DISPLAY": SOCKET,
+                      "XDG_SESSION_TYPE": "wayland"}
+        return super().start_program(command, {**extra_environment, **on_wayland}, log)
