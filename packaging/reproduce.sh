@@ -6,9 +6,9 @@
 # reproduce.sh [FOLDER]     default: build/reproduce
 # QUILLOR_RELEASE  which parts, see release.sh
 #
-# Alike are releases that the same tools have made of the same commit: the versions of the
-# compilers, of the libraries that the portable archive carries, and of Qt for Windows (one
-# that build-qt.sh has built) are those of the machine.
+# Alike are releases that the same tools have made of the same commit. What differs between
+# machines: the versions of the compilers and of the libraries that the portable archive
+# carries, and Qt for Windows, whose folder (QUILLOR_WINDOWS_QT) stands in the program.
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
