@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Builds Quillor and plays it: ./run.sh [OPTION OF THE PROGRAM...]
 # Where there is no screen it plays a scripted tour instead and leaves pictures.
+# ./run.sh --web builds the page instead, serves it on this machine and opens a browser.
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -49,6 +50,19 @@ lay_out_folder() {
     fi
 }
 
+# Until it is interrupted.
+serve_page() {
+    local address=http://localhost:8642/
+    "$root/web/build.sh"
+    if have_screen && command -v xdg-open >/dev/null; then
+        (sleep 1 && xdg-open "$address" >/dev/null 2>&1) &
+    fi
+    exec node "$root/web/serve.js" "$root/build/web" 8642
+}
+
+if [ "${1:-}" = --web ]; then
+    serve_page
+fi
 build_program
 lay_out_folder
 if have_screen; then

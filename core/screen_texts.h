@@ -202,6 +202,18 @@ inline constexpr TextPair kLanguageStays{
     u"No se puede cambiar el idioma, porque no se puede escribir en la carpeta del juego.",
     u"The language cannot be changed, because the game's folder cannot be written to."};
 inline constexpr TextPair kViewKeys{u"Teclas", u"Keys"};
+inline constexpr TextPair kViewTopics{u"Archivos de temas", u"Topic files"};
+// What a page in a browser says of its files.
+inline constexpr TextPair kTopicsBox{
+    u"Tus temas están guardados en este navegador. Descarga los que quieras llevarte.",
+    u"Your topics are kept in this browser. Download those that you want to take along."};
+inline constexpr TextPair kTopicsTake{u"Agregar temas…", u"Add topics…"};
+inline constexpr TextPair kTopicsAll{u"Descargar todos", u"Download all"};
+inline constexpr TextPair kNothingIsKept{
+    u"El navegador no deja guardar nada. Puedes jugar, pero los ajustes y los temas se perderán "
+    u"al cerrar la página.",
+    u"The browser does not let anything be saved. You can play, but settings and topics will be "
+    u"lost when the page is closed."};
 inline constexpr TextPair kKeysEverywhere{
     u"Tab y flechas: de un botón a otro\r\nBarra espaciadora: presionar\r\nF10 o Alt+V: este menú"
     u"\r\nF1: ayuda\r\nF11 o Alt+Intro: pantalla completa\r\nEscape: salir de la pantalla "

@@ -13,6 +13,10 @@
         weston orca python3 python3-gi python3-xlib hunspell hunspell-es hunspell-en-us)
     packages_fuzz=(clang llvm libgtest-dev libgmock-dev)
     # One version of the formatter, because each formats a little differently.
+    # For the page: its compiler, the fonts that it takes along, and what makes them small.
+    packages_web=(cmake ninja-build emscripten node-acorn nodejs python3 python3-fonttools
+        python3-brotli fonts-quicksand fonts-comic-neue)
+    packages_web_test=("${packages_web[@]}" chromium firefox-esr fonts-dejavu-core)
     packages_check=(clang-format-14 clang-tidy-14 shellcheck desktop-file-utils appstream
         flatpak-builder man-db)
 }

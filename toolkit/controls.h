@@ -2,6 +2,7 @@
 // and the shell shows the difference after the event.
 #pragma once
 
+#include <array>
 #include <functional>
 #include <memory>
 #include <string>
@@ -165,6 +166,8 @@ struct Line : Control {
 class Image {
   public:
     virtual ~Image() = default;
+    /// The darkest and the lightest of its colours that can be seen from a distance.
+    virtual std::array<Color, 2> range() const { return {rgb(0, 0, 0), rgb(255, 255, 255)}; }
 };
 using ImageRef = std::shared_ptr<const Image>;
 

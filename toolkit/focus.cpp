@@ -153,7 +153,7 @@ void Focus::step(int by) {
     if (stops.empty())
         return;
     const int count = static_cast<int>(stops.size());
-    const auto current = std::ranges::find_if(stops, [this](const Control* stop) {
+    const auto current = std::find_if(stops.begin(), stops.end(), [this](const Control* stop) {
         return stop == control_ || (hasArrows() && stop->group == control_->group);
     });
     int to = by > 0 ? 0 : count - 1;

@@ -30,6 +30,7 @@ bool hasNothingToErase(const TextField& field) {
 }  // namespace
 
 KeyRoute::Rest KeyRoute::press(Screen& screen, Focus& focus, const KeyPress& press) {
+    taken_ = false;
     if (!screen.enabled)
         return Rest::None;
     if (!press.autoRepeat)
@@ -41,6 +42,7 @@ KeyRoute::Rest KeyRoute::press(Screen& screen, Focus& focus, const KeyPress& pre
         !press.autoRepeat && (isTaken(screen, focus, press.key) || pressAccessKey(screen, press));
     const Rest rest = taken ? Rest::None : serve(screen, focus, press);
     visited_ = nullptr;
+    taken_ = taken;
     return rest;
 }
 

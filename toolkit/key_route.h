@@ -30,6 +30,8 @@ class KeyRoute {
     enum class Rest { None, Field, List };
 
     Rest press(Screen& screen, Focus& focus, const KeyPress& press);
+    /// Whether the latest press was a command, so that nobody else has a use for it.
+    bool wasTaken() const { return taken_; }
     void release(int id);
     /// Text of an input method, character by character, into the field that has the focus
     /// or onto the screen.
@@ -69,6 +71,7 @@ class KeyRoute {
     std::optional<Held> held_;
     std::optional<Down> down_;         // the button that Space holds down
     const Screen* visited_ = nullptr;  // whose handlers run; null once it is closed
+    bool taken_ = false;
 };
 
 }  // namespace quillor

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "toolkit/style.h"
+
 namespace quillor {
 
 namespace {
@@ -66,6 +68,46 @@ Color Scheme::edge(Color edge, Color face) const {
     if (isUsual() || high_)
         return ink(edge, face);
     return isGrey(edge) ? grey(kDarkest + 255 - lightness(edge)) : edge;
+}
+
+bool isPhoto(const Ground& ground, const Scheme& scheme) {
+    return ground.picture && ground.picture->image && !scheme.isHighContrast();
+}
+
+ColorRange shownRange(const Ground& ground, const Scheme& scheme) {
+    if (isPhoto(ground, scheme))
+        return ground.picture->image->range();
+    const Color color = scheme.ground(ground.picture ? style::kPaper : ground.color);
+    return {color, color};
+}
+
+namespace {
+
+Inked inkedOn(const Ground& ground, Color color, Color face, const Scheme& scheme) {
+    Inked shown;
+    shown.grounds = shownRange(ground, scheme);
+    shown.ink =
+        isPhoto(ground, scheme) ? color : scheme.ink(color, ground.picture ? style::kPaper : face);
+    return shown;
+}
+
+}  // namespace
+
+Inked inked(const Screen& screen, const Label& label, const Scheme& scheme) {
+    const Ground ground = groundBehind(screen, label);
+    const bool enabled = label.enabled && ground.enabled;
+    Inked shown = inkedOn(ground, enabled ? label.textColor : style::kInk,
+                          enabled ? ground.color : style::kDisabledFace, scheme);
+    shown.enabled = enabled;
+    shown.needed = scheme.needed(contrastNeeded(label.font));
+    return shown;
+}
+
+Inked inked(const Screen& screen, const Line& line, const Scheme& scheme) {
+    const Ground ground = groundBehind(screen, line);
+    Inked shown = inkedOn(ground, line.color, ground.color, scheme);
+    shown.needed = scheme.needed(kLargeTextContrast);
+    return shown;
 }
 
 }  // namespace quillor

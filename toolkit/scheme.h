@@ -37,4 +37,24 @@ class Scheme {
     bool high_ = false;
 };
 
+/// Whether it is a picture of the player's, which is shown in all schemes but high contrast.
+bool isPhoto(const Ground& ground, const Scheme& scheme);
+/// Of the ground as it is shown: of the player's picture, or of the notebook page, or its only
+/// colour.
+ColorRange shownRange(const Ground& ground, const Scheme& scheme);
+
+/// How a label's caption, or a line, is shown on what is behind it.
+struct Inked {
+    Color ink = 0;
+    bool enabled = true;   // false: by itself, or by the face that it stands on
+    ColorRange grounds{};  // behind it, as they are shown
+    double needed = 0;     // of contrast to them
+
+    /// What it takes around it to be told from them.
+    Edge edge() const { return edgeFor(ink, grounds, needed); }
+    bool operator==(const Inked&) const = default;
+};
+Inked inked(const Screen& screen, const Label& label, const Scheme& scheme);
+Inked inked(const Screen& screen, const Line& line, const Scheme& scheme);
+
 }  // namespace quillor

@@ -103,7 +103,8 @@ void frmProgress::showScores(const std::vector<int>& scores) {
 // From the oldest at the left to the last at the right, as high as the highest.
 void frmProgress::drawScores() {
     const int steps = static_cast<int>(scores_.size()) - 1;
-    const int most = scores_.empty() ? 0 : std::max(1, *std::ranges::max_element(scores_));
+    const int most =
+        scores_.empty() ? 0 : std::max(1, *std::max_element(scores_.begin(), scores_.end()));
     const auto across = [&](int i) {
         const Twips room = shpChart.width - 2 * kChartMargin;
         return shpChart.left + kChartMargin +
@@ -258,7 +259,8 @@ void addProgressScreen(Program& program) {
         screen.program().show(ScreenId::Progress).takePaper(paperOf(screen));
     };
     std::vector<ViewEntry>& entries = program.viewEntries;
-    const auto keys = std::ranges::find(entries, "mKeys", &ViewEntry::id);
+    const auto keys = std::find_if(entries.begin(), entries.end(),
+                                   [](const ViewEntry& entry) { return entry.id == "mKeys"; });
     entries.insert(keys, {"mProgress", texts::kProgress, {}, {}, open, {}, isOffered});
 }
 

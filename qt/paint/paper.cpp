@@ -71,18 +71,7 @@ ColorRange rangeOf(const QImage& image) {
 
 }  // namespace
 
-DecodedImage::DecodedImage(QImage pixels) : image(std::move(pixels)), range(rangeOf(image)) {}
-
-bool isPhoto(const Ground& ground, const Scheme& scheme) {
-    return ground.picture && ground.picture->image && !scheme.isHighContrast();
-}
-
-ColorRange shownRange(const Ground& ground, const Scheme& scheme) {
-    if (isPhoto(ground, scheme))
-        return static_cast<const DecodedImage&>(*ground.picture->image).range;
-    const Color color = scheme.ground(ground.picture ? style::kPaper : ground.color);
-    return {color, color};
-}
+DecodedImage::DecodedImage(QImage pixels) : image(std::move(pixels)), range_(rangeOf(image)) {}
 
 std::size_t qHash(const PaperCache::Wish& wish, std::size_t seed) {
     return qHashMulti(seed, wish.image.get(), QByteArray::fromStdString(wish.drawing),

@@ -19,15 +19,12 @@ namespace quillor {
 class DecodedImage : public Image {
   public:
     explicit DecodedImage(QImage pixels);
+    ColorRange range() const override { return range_; }
     const QImage image;
-    const ColorRange range;  // of what can be seen from a distance
-};
 
-/// Whether it is a picture of the player's, which is shown in all schemes but high contrast.
-bool isPhoto(const Ground& ground, const Scheme& scheme);
-/// Of the ground as it is shown: of the player's picture, or of the notebook page, or its only
-/// colour.
-ColorRange shownRange(const Ground& ground, const Scheme& scheme);
+  private:
+    const ColorRange range_;
+};
 
 /// Scaled copies of pictures. Several controls of one size share one copy.
 class PaperCache {
@@ -41,8 +38,8 @@ class PaperCache {
         QSize size;           // logical pixels
         double density = 1;
         double pixelsPerTwip = 1;
-        QRectF drawn;    // where the drawing lies, logical pixels; null: all over
-        double top = 0;  // where the page's rules begin, logical pixels
+        QRectF drawn;     // where the drawing lies, logical pixels; null: all over
+        double top = 0;   // where the page's rules begin, logical pixels
         Scheme scheme{};  // in high contrast nothing but plain paper
 
         bool operator==(const Wish&) const = default;

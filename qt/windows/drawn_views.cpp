@@ -66,11 +66,9 @@ void LineView::syncLook() {
               l.roundEnds,
               {}};
     if (const Screen* screen = link().screen(); screen && l.visible) {
-        const Ground ground = groundBehind(*screen, l);
-        if (!isPhoto(ground, scheme()))
-            look.color = scheme().ink(l.color, ground.picture ? style::kPaper : ground.color);
-        look.edge =
-            edgeFor(look.color, shownRange(ground, scheme()), scheme().needed(kLargeTextContrast));
+        const Inked shown = inked(*screen, l, scheme());
+        look.color = shown.ink;
+        look.edge = shown.edge();
     }
     if (look == shown_)
         return;

@@ -29,15 +29,12 @@ void LabelView::takeGround(LabelLook& look) const {
     look.backColor = scheme().ground(label_.backColor);
     if (!screen || !label_.visible || label_.caption.empty())
         return;
-    const Ground ground = groundBehind(*screen, label_);
-    look.enabled = look.enabled && ground.enabled;
-    look.grounds = shownRange(ground, scheme());
+    const Inked shown = inked(*screen, label_, scheme());
+    look.enabled = shown.enabled;
+    look.grounds = shown.grounds;
     look.fades = scheme().isUsual();
-    look.needed = scheme().needed(contrastNeeded(label_.font));
-    const Color face = look.enabled ? ground.color : style::kDisabledFace;
-    look.textColor = look.enabled ? label_.textColor : style::kInk;
-    if (!isPhoto(ground, scheme()))
-        look.textColor = scheme().ink(look.textColor, ground.picture ? style::kPaper : face);
+    look.needed = shown.needed;
+    look.textColor = shown.ink;
 }
 
 void LabelView::syncWords() {

@@ -54,6 +54,7 @@ const std::map<std::string, Room> kRooms{
     {"qt/system", {kShell, kAnything, true}},
     {"qt/tour", {kShell, kQt}},
     {"qt/windows", {kShell, kQt}},
+    {"web", {kRules, R"(emscripten\.h)"}},
 };
 
 // What CMake makes; anyone may ask for the version.
@@ -154,6 +155,8 @@ TEST(BoundaryRules, GiveToolkitAndSystemToTheirRoomsAlone) {
     EXPECT_TRUE(allowed("qt/windows", {true, "QWidget"}));
     EXPECT_TRUE(allowed("qt/system", {true, "unistd.h"}));
     EXPECT_TRUE(allowed("sound", {true, "SDL.h"}));
+    EXPECT_TRUE(allowed("web", {true, "emscripten.h"}));
+    EXPECT_FALSE(allowed("web", {true, "QString"}));
 }
 
 TEST(BoundaryRules, RefuseTheFoldersAbove) {
@@ -162,6 +165,8 @@ TEST(BoundaryRules, RefuseTheFoldersAbove) {
     EXPECT_FALSE(allowed("game", {false, "qt/windows/shell.h"}));
     EXPECT_FALSE(allowed("game", {false, "windows.h"}));
     EXPECT_FALSE(allowed("sound", {false, "toolkit/screen.h"}));
+    EXPECT_FALSE(allowed("web", {false, "qt/windows/shell.h"}));
+    EXPECT_FALSE(allowed("qt", {false, "web/page_shell.h"}));
     EXPECT_FALSE(allowed("game/rules", {false, "game/game_screen.h"}));
     EXPECT_TRUE(allowed("game", {false, "game/rules/scoring.h"}));
     EXPECT_TRUE(allowed("game", {false, "topics/inventor.h"}));
@@ -175,7 +180,9 @@ TEST(BoundaryRules, SeeEveryFormOfInclude) {
 
 std::vector<SourceLine> textLines() {
     std::vector<SourceLine> lines = sourceLines("core");
-    std::erase_if(lines, [](const SourceLine& line) { return !line.file.filename().string().ends_with("texts.h"); });
+    std::erase_if(lines, [](const SourceLine& line) {
+        return !line.file.filename().string().ends_with("texts.h");
+    });
     return lines;
 }
 

@@ -69,6 +69,17 @@ TEST_F(Keys, ComeToTheScreensLastResortWhenNobodyHasTakenThem) {
     EXPECT_EQ(log, "down65 unused down66 down67 ");
 }
 
+TEST_F(Keys, TellWhetherTheyWereACommand) {
+    swallowed = 'A';
+    press(letter(u'a'));
+    EXPECT_TRUE(route.wasTaken());
+    press(letter(u'b'));
+    EXPECT_FALSE(route.wasTaken());
+    press(letter(u'a'));
+    repeat(letter(u'a'));
+    EXPECT_FALSE(route.wasTaken());
+}
+
 TEST_F(Keys, ReachTheScreenAsKeyAndAsCharacter) {
     press(letter(u'a'));
     EXPECT_EQ(log, "down65 press-a ");

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/plain_screen.h"
 #include "toolkit/style.h"
 
 namespace quillor {
@@ -54,6 +55,46 @@ TEST(Scheme, KeepsWhatStandsOnPaperApartFromIt) {
     const Scheme dark({.dark = true});
     EXPECT_NE(dark.ground(rgb(230, 230, 230)), dark.ground(style::kPaper));
     EXPECT_NE(dark.edge(style::kFineEdge, style::kPaper), dark.ground(style::kPaper));
+}
+
+// On paper, and on a shape in the colour of the theme.
+struct OnAFace : ::testing::Test {
+    OnAFace() {
+        screen.add(face).place(0, 0, 900, 300);
+        face.backColor = rgb(20, 140, 220);
+        screen.addButton(label, "lbl", 0, 0);
+        label.textColor = style::kPale;
+        label.font = style::kText;
+    }
+    PlainScreen screen;
+    Shape face;
+    Label label;
+};
+
+TEST_F(OnAFace, WordsAreInkedAsTheirGroundNeedsIt) {
+    const Inked usual = inked(screen, label, Scheme());
+    EXPECT_EQ(usual.ink, style::kPale);
+    EXPECT_EQ(usual.grounds, (ColorRange{face.backColor, face.backColor}));
+    EXPECT_GT(usual.edge().share, 0);  // white on the theme is less than small print needs
+    const Inked high = inked(screen, label, Scheme({.highContrast = true}));
+    EXPECT_GE(contrast(high.ink, high.grounds[0]), kHighContrast);
+}
+
+TEST_F(OnAFace, WordsOnAFaceThatIsDisabledAreToo) {
+    face.enabled = false;
+    const Inked shown = inked(screen, label, Scheme());
+    EXPECT_FALSE(shown.enabled);
+    EXPECT_EQ(shown.ink, style::kInk);
+}
+
+TEST_F(OnAFace, LinesNeedWhatLargeTextsNeed) {
+    Line line;
+    line.span(0, 150, 900, 150);
+    line.color = face.backColor;
+    screen.add(line);
+    const Inked shown = inked(screen, line, Scheme());
+    EXPECT_EQ(shown.needed, kLargeTextContrast);
+    EXPECT_GT(shown.edge().share, 0);
 }
 
 }  // namespace

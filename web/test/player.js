@@ -1,0 +1,230 @@
+// Plays the page in a real browser, as a person does: what cannot be seen cannot be pressed.
+import { once } from "node:events";
+import { fileURLToPath } from "node:url";
+import puppeteer from "puppeteer-core";
+import { serve } from "../serve.js";
+
+export const browserName = process.env.QUILLOR_BROWSER ?? "chrome";
+const programs = { chrome: "/usr/bin/chromium", firefox: "/usr/bin/firefox-esr" };
+export const folder = fileURLToPath(new URL("../../build/web", import.meta.url));
+const patience = 15_000;
+
+/** What a letter of ours is found in: a topic of one phrase, fifty times. */
+export function topicOf(title, phrase) {
+    return [title, ...Array(50).fill(phrase)].join("\r\n") + "\r\n";
+}
+
+export class Player {
+    /** Starts a browser and a server. `options`: width, height, touch, languages, before (a
+     * function that runs in each page before its script), files (by their paths, in storage
+     * before the first start). */
+    static async start(options = {}) {
+        const player = new Player();
+        player.server = await serve(folder);
+        player.port = player.server.address().port;
+        player.address = `http://127.0.0.1:${player.port}/`;
+        const chrome = browserName === "chrome";
+        player.browser = await puppeteer.launch({
+            browser: browserName,
+            executablePath: programs[browserName],
+            headless: true,
+            args: chrome ? ["--no-sandbox", "--autoplay-policy=no-user-gesture-required"] : [],
+            extraPrefsFirefox: { "intl.accept_languages": options.languages ?? "en" },
+        });
+        player.options = options;
+        player.troubles = [];
+        await player.openTab();
+        return player;
+    }
+
+    async openTab() {
+        const { width = 1320, height = 810, touch = false, before, files, density = 1 } = this.options;
+        this.page = await this.browser.newPage();
+        this.page.on("pageerror", (error) => this.troubles.push(String(error.stack ?? error)));
+        this.page.on("console", (message) => {
+            if (message.type() === "error") this.troubles.push(message.text());
+        });
+        this.page.on("request", (request) => {
+            const url = new URL(request.url());
+            if (["http:", "https:"].includes(url.protocol) && url.host !== `127.0.0.1:${this.port}`) this.troubles.push(`asked ${url.host}`);
+        });
+        if (browserName === "chrome") {
+            await this.page.setViewport({ width, height, hasTouch: touch, deviceScaleFactor: density });
+            const languages = this.options.languages ?? "en";
+            await this.page.evaluateOnNewDocument((tag) => Object.defineProperty(navigator, "languages", { get: () => [tag] }), languages);
+        } else {
+            await this.page.setViewport({ width, height });
+        }
+        if (before) await this.page.evaluateOnNewDocument(before);
+        if (files) await this.putFiles(files);
+        await this.page.goto(this.address);
+        await this.started();
+    }
+    async started() {
+        await this.until(() => document.documentElement.dataset.started === "true");
+    }
+    async reload() {
+        await this.settled();
+        await this.page.reload();
+        await this.started();
+    }
+    /** The page's storage has taken all there was. */
+    async settled() {
+        await new Promise((resolve) => setTimeout(resolve, 300));
+    }
+    async stopServer() {
+        this.server.close();
+        this.server.closeAllConnections();
+        await once(this.server, "close");
+    }
+    /** Also says what the page had to complain of. */
+    async stop() {
+        await this.browser.close();
+        if (this.server.listening) await this.stopServer();
+        return this.troubles;
+    }
+
+    until(condition, ...values) {
+        return this.page.waitForFunction(condition, { timeout: patience, polling: 20 }, ...values);
+    }
+    /** Waits until that screen takes input. */
+    async screen(name) {
+        await this.until(
+            (wanted) =>
+                [...document.querySelectorAll(".screen")].some(
+                    (screen) => screen.dataset.name === wanted && screen.checkVisibility() && !screen.inert,
+                ),
+            name,
+        );
+    }
+    async element(id) {
+        const handle = await this.page.waitForFunction(
+            (wanted) =>
+                [...document.querySelectorAll("[data-id]")].find(
+                    (element) => element.dataset.id === wanted && element.checkVisibility() && !element.closest("[inert]"),
+                ),
+            { timeout: patience, polling: 20 },
+            id,
+        );
+        return handle.asElement();
+    }
+    async click(id) {
+        await (await this.element(id)).click();
+    }
+    async tap(id) {
+        const place = await this.placeOf(id);
+        await this.page.touchscreen.tap(place.x + place.width / 2, place.y + place.height / 2);
+    }
+    async placeOf(id) {
+        const element = await this.element(id);
+        return element.evaluate((each) => {
+            const { x, y, width, height } = each.getBoundingClientRect();
+            return { x, y, width, height };
+        });
+    }
+    async press(...keys) {
+        for (const key of keys) await this.page.keyboard.press(key);
+    }
+    type(text) {
+        return this.page.keyboard.type(text);
+    }
+    /** Waits until a control says something. */
+    says(id, words) {
+        return this.until(
+            (wanted, text) =>
+                [...document.querySelectorAll("[data-id]")].some(
+                    (element) => element.dataset.id === wanted && element.checkVisibility() && element.textContent.includes(text),
+                ),
+            id,
+            words,
+        );
+    }
+    async textOf(id) {
+        return (await this.element(id)).evaluate((element) => element.value ?? element.textContent);
+    }
+    /** Waits for a box, and answers it with its first or a further button. */
+    async answer(box, button = 1) {
+        const selector = `dialog[data-box="${box}"] [data-answer="${button}"]`;
+        await (await this.page.waitForSelector(selector, { visible: true, timeout: patience })).click();
+        await this.page.waitForSelector(selector, { hidden: true, timeout: patience });
+    }
+    /** The letters of the keyboard on the screen, as they are on show. */
+    async guess(text, how = "press") {
+        for (const letter of text) {
+            if (how === "press") await this.press(letter);
+            else await this[how](`lblKey(${await this.keyOf(letter)})`);
+        }
+    }
+    keyOf(letter) {
+        return this.page.evaluate((wanted) => {
+            const keys = [...document.querySelectorAll("[data-id^='lblKey(']")];
+            const key = keys.find((each) => each.textContent === wanted && each.checkVisibility());
+            return key.dataset.id.slice("lblKey(".length, -1);
+        }, letter.toUpperCase());
+    }
+
+    // Files, in the browser's storage, by a page of ours that runs no script.
+    async onQuietPage(work, value) {
+        const quiet = await this.browser.newPage();
+        await quiet.goto(`${this.address}LICENSE.txt`);
+        const result = await quiet.evaluate(work, value);
+        await quiet.close();
+        return result;
+    }
+    putFiles(files) {
+        return this.onQuietPage(async (all) => {
+            const request = indexedDB.open("quillor", 1);
+            request.onupgradeneeded = () => request.result.createObjectStore("files");
+            await new Promise((resolve, reject) => {
+                request.onsuccess = resolve;
+                request.onerror = reject;
+            });
+            const transaction = request.result.transaction("files", "readwrite");
+            for (const [path, text] of Object.entries(all)) transaction.objectStore("files").put(new TextEncoder().encode(text), path);
+            await new Promise((resolve, reject) => {
+                transaction.oncomplete = resolve;
+                transaction.onabort = reject;
+            });
+            request.result.close();
+        }, files);
+    }
+    getFiles() {
+        return this.onQuietPage(async () => {
+            const request = indexedDB.open("quillor", 1);
+            await new Promise((resolve) => {
+                request.onsuccess = resolve;
+            });
+            const store = request.result.transaction("files").objectStore("files");
+            const paths = store.getAllKeys();
+            const all = store.getAll();
+            await new Promise((resolve) => {
+                all.onsuccess = resolve;
+            });
+            request.result.close();
+            return Object.fromEntries(paths.result.map((path, i) => [path, new TextDecoder("latin1").decode(all.result[i])]));
+        });
+    }
+}
+
+/** A folder in which English is spoken and the first topic has one phrase. */
+export const englishFiles = {
+    "English.txt": "",
+    "Topics/": "",
+    "Topics/Aardvark.txt": topicOf("AARDVARK", "cat nap"),
+};
+
+/** Runs a test's body with a player of its own, and fails on whatever the page complains of. */
+export async function played(options, body) {
+    const player = await Player.start(options);
+    let result;
+    try {
+        result = await body(player);
+    } catch (error) {
+        error.message += `\n${player.troubles.join("\n")}`;
+        throw error;
+    } finally {
+        await player.stop();
+    }
+    if (player.troubles.length > 0) throw new Error(player.troubles.join("\n"));
+    return result;
+}
