@@ -57,7 +57,6 @@ void frmStart::onLoad() {
     readColorFile();
     loadPicture();
     colourScreen();
-    settings_.giTourStart = 0;
     chooseLanguage();
     checkFont();
     repairTopicFolder();
@@ -136,9 +135,6 @@ void frmStart::writeFirstSettings() {
     const Place file = settingsFile(program_.folder);
     if (file.disk().look(file).kind != Disk::Kind::Nothing)
         return;
-    settings_.giDesign = 0;
-    settings_.giTopicIndex = 0;
-    settings_.giSavedTopic = 0;
     settings_.gbUseSounds = true;
     settings_.gbFirstLetter = true;
     settings_.gbSettingsLoaded = true;

@@ -25,7 +25,7 @@ struct ViewEntry {
     std::function<bool(const ProgramScreen&)> isOffered;
 };
 
-/// Full screen, keys, help and closing.
+/// Full screen, the language, keys, help and closing.
 std::vector<ViewEntry> commonViewEntries();
 
 }  // namespace quillor

@@ -13,6 +13,7 @@ namespace quillor {
 /// Line 0 is a topic's title, lines 1..50 its phrases; all in capitals, a line
 /// that the topic file does not have is empty.
 inline constexpr int kTopicLines = 51;
+inline constexpr int kTopicPhrases = kTopicLines - 1;
 using Topic = std::array<Text, kTopicLines>;
 using TopicLibrary = std::vector<Topic>;
 
@@ -61,7 +62,7 @@ struct GameSettings {
     bool gbAutoChoice = false;        // the game itself picks the topic; survives the reset
     std::int16_t giTopicIndex = 0;    // the current topic, by its place in gaTopicLines
     std::int16_t giTourStart = 0;     // the topic that the tour comes back to
-    std::int16_t giLettersFound = 0;  // written by a good guess only, carried over between games
+    std::int16_t giLettersFound = 0;  // as of the last good guess or hint, also of an earlier game
     std::int16_t giGamesPlayed = 0;   // arcade games ended since the start
     std::int16_t giScore = 0;         // as shown, 0..32767
     std::int16_t giScoreKept = 0;     // while the game screen is closed

@@ -36,6 +36,8 @@ struct Played {
     Text topic;                // its title, and the phrase; of arcade games alone
     Text phrase;
 };
+/// Adds it to the numbers: a run grows with each victory and ends with a death, and of the
+/// scores the last kMostScores stay.
 void count(Progress& progress, const Played& played);
 
 /// How many of the phrases that can be dealt of the topic have been solved.

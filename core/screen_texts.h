@@ -47,8 +47,6 @@ inline constexpr std::array<MenuOption, 4> kMenuOptions{{
 }};
 
 // Game screen: what stands on it.
-inline constexpr TextPair kGreeting{u"¡Hola, jugador! ¡Bienvenido a Quillor!",
-                                    u"Hey, player! Welcome to Quillor!"};
 inline constexpr std::array<TextPair, 6> kMistakeTips{{
     {u" Primer error ", u" First mistake "},
     {u" Segundo error ", u" Second mistake "},
@@ -66,6 +64,7 @@ inline constexpr TextPair kNoTopicShown{u"(TEMA)", u"(TOPIC)"};
 inline constexpr TextPair kNewGame{u"NUEVA PARTIDA", u"NEW GAME"};
 inline constexpr TextPair kStatusTip{u" Estado actual ", u" Actual status "};
 inline constexpr TextPair kTopicTip{u" Tema ", u" Topic "};
+inline constexpr TextPair kBoardTip{u" Flechas: casilla por casilla ", u" Arrows: cell by cell "};
 inline constexpr TextPair kTimeTip{u" Tiempo ", u" Time "};
 inline constexpr TextPair kPlay{u"JUGAR", u"PLAY"};
 inline constexpr TextPair kPlayAnother{u"OTRA PARTIDA", u"PLAY ANOTHER"};
@@ -162,6 +161,26 @@ inline constexpr TextPair kTourCompleted{u"¡Completaste el viaje!", u"You've co
 inline constexpr TextPair kHelpMissing{u"El archivo de ayuda no se encuentra.",
                                        u"The help file is not found."};
 
+// Of the folder that the game keeps its files in, whose name follows.
+inline constexpr TextPair kNothingIsSaved{
+    u"No se puede guardar nada en la carpeta del juego. Lo que cambies ahora se perderá al salir.",
+    u"Nothing can be saved in the game's folder. What you change now is lost when you leave."};
+inline constexpr TextPair kFolderIsShared{
+    u"Alguien más está jugando con esta carpeta. Los ajustes serán los de quien los cambie por "
+    u"último. ¿Quieres jugar también?",
+    u"Somebody else is playing with this folder. The settings will be those of whoever changes "
+    u"them last. Do you want to play too?"};
+inline constexpr TextPair kNoAnswer{
+    u"El juego ya está abierto con esta carpeta, pero no responde. ¿Quieres abrirlo otra vez?",
+    u"The game is already open with this folder, but does not answer. Do you want to open it "
+    u"once more?"};
+inline constexpr TextPair kWaitingForFolder{
+    u"La carpeta del juego tarda en responder: puede que su disco sea lento o que ya no esté. El "
+    u"juego se abrirá en cuanto responda. Si prefieres no esperar, ciérralo: no se pierde nada.",
+    u"The game's folder takes long to answer: its disk may be slow, or gone. The game opens as "
+    u"soon as it answers. If you would rather not wait, close it: nothing is lost."};
+inline constexpr TextPair kStopWaiting{u"Cerrar", u"Close"};
+
 // Settings screen.
 inline constexpr TextPair kSettingsTitle{u"Quillor | Ajustes", u"Quillor | Setting"};
 inline constexpr TextPair kSettingsTiles{u"AJUSTES", u"SETTING"};
@@ -201,6 +220,7 @@ inline constexpr TextPair kAskLanguage{
 inline constexpr TextPair kLanguageStays{
     u"No se puede cambiar el idioma, porque no se puede escribir en la carpeta del juego.",
     u"The language cannot be changed, because the game's folder cannot be written to."};
+inline constexpr TextPair kReadBoard{u"Leer el tablero", u"Read the board"};
 inline constexpr TextPair kViewKeys{u"Teclas", u"Keys"};
 inline constexpr TextPair kViewTopics{u"Archivos de temas", u"Topic files"};
 // What a page in a browser says of its files.

@@ -49,32 +49,10 @@ inline constexpr TextPair kSpokenNoKey{
     u"and numbers."};
 inline constexpr TextPair kSpokenDesign{u"Diseño: ", u"Design: "};
 inline constexpr TextPair kBoardName{u"Tablero: ", u"Board: "};
-inline constexpr TextPair kBoardTip{u" Flechas: casilla por casilla ", u" Arrows: cell by cell "};
-inline constexpr TextPair kReadBoard{u"Leer el tablero", u"Read the board"};
 inline constexpr TextPair kCell{u"Casilla ", u"Cell "};
 inline constexpr TextPair kCellBlank{u"espacio", u"blank"};
 inline constexpr TextPair kCellHidden{u"por descubrir", u"to be found"};
 inline constexpr TextPair kCellCovered{u"descubierta, oculta", u"found, hidden"};
-
-// Of the folder that the game keeps its files in, which follows.
-inline constexpr TextPair kNothingIsSaved{
-    u"No se puede guardar nada en la carpeta del juego. Lo que cambies ahora se perderá al salir.",
-    u"Nothing can be saved in the game's folder. What you change now is lost when you leave."};
-inline constexpr TextPair kFolderIsShared{
-    u"Alguien más está jugando con esta carpeta. Los ajustes serán los de quien los cambie por "
-    u"último. ¿Quieres jugar también?",
-    u"Somebody else is playing with this folder. The settings will be those of whoever changes "
-    u"them last. Do you want to play too?"};
-inline constexpr TextPair kNoAnswer{
-    u"El juego ya está abierto con esta carpeta, pero no responde. ¿Quieres abrirlo otra vez?",
-    u"The game is already open with this folder, but does not answer. Do you want to open it "
-    u"once more?"};
-inline constexpr TextPair kWaitingForFolder{
-    u"La carpeta del juego tarda en responder: puede que su disco sea lento o que ya no esté. El "
-    u"juego se abrirá en cuanto responda. Si prefieres no esperar, ciérralo: no se pierde nada.",
-    u"The game's folder takes long to answer: its disk may be slow, or gone. The game opens as "
-    u"soon as it answers. If you would rather not wait, close it: nothing is lost."};
-inline constexpr TextPair kStopWaiting{u"Cerrar", u"Close"};
 
 // On the terminal, in the system's language.
 inline constexpr TextPair kTerminalHelp{

@@ -41,6 +41,8 @@ struct WrappedPhrase {
     Text shown;
     bool cut = false;  // it needed a fourth row, which was dropped
 };
+/// A word that does not fit into what is left of a row begins the next one; one that is
+/// longer than a row overruns it. A phrase of one word stays as it is, however long.
 WrappedPhrase wrapPhrase(TextView phrase);
 
 /// Lays `gsPhrase` out for the board (`gsShownPhrase`, `gsCutPhrase`) and folds

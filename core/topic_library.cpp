@@ -17,19 +17,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Lines divided by full stops.
-constexpr TextPair kDemoTopic{
-    u"FRASES DE MUESTRA [español].danza.lobo.naruto.saturno.cromosoma.violeta.pollo frito.tacos."
-    u"sushi.maestro.aladino.béisbol.iguanodon.ozono.dinero.lavadora.aluminio.kelloggs.jalisco."
-    u"newton.jazmín.antofobia.mango.jazz.melodrama.sismo.adverbio.harina.grillo.piano.buscador."
-    u"brújula.póquer.cine.coseno.morse.tren.tsunami.hígado.austria.despacho.teclado.espalda."
-    u"cactus.turismo.disolución.zapato.cinética.programa.berro",
-    u"SAMPLE PHRASES.dance.wolf.naruto.saturn.chromosome.violet.fried chicken.tacos.sushi.teacher."
-    u"aladdin.baseball.iguanodon.ozone.Money.washing machine.aluminum.kelloggs.nevada.newton."
-    u"jasmine.antophobia.mango.jazz.melodrama.earthquake.adverb.flour.cricket.piano.finder."
-    u"compass.poker.cinema.coseno.morse.train.tsunami.liver.austria.dispatch.keyboard.back."
-    u"cactus.tourism.dissolution.shoe.kinetics.program.watercress"};
-
 std::vector<Text> splitAtStops(TextView text) {
     std::vector<Text> parts;
     for (;;) {
@@ -75,14 +62,13 @@ std::vector<Place> topicFiles(const Place& folder) {
 void eWriteDemoTopic(const GameSettings& settings, const Place& programFolder) {
     quietly("eWriteDemoTopic", [&] {
         writeNewLines(topicFolder(settings, programFolder) / "DEMO.txt",
-                      splitAtStops(eLang(settings, kDemoTopic)));
+                      splitAtStops(eLang(settings, texts::kDemoTopic)));
     });
 }
 
 namespace {
 
 constexpr const char* kLaidOut = "Quillor-Packs.txt";  // the topics' names, one a line
-constexpr std::size_t kMostPackBytes = 1'000'000;
 
 // Adds the names of those that are there now to `known`.
 void layOutFolder(const Place& from, const Place& to, std::vector<Text>& known) {
@@ -96,7 +82,7 @@ void layOutFolder(const Place& from, const Place& to, std::vector<Text>& known) 
         if (std::find(known.begin(), known.end(), line) != known.end())
             continue;
         quietly("lay out a topic", [&] {
-            if (const auto bytes = readFile(pack, kMostPackBytes)) {
+            if (const auto bytes = readFile(pack, kMostTopicBytes)) {
                 writeNewFile(to / name, *bytes);
                 known.push_back(line);
             }

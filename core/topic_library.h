@@ -2,6 +2,7 @@
 // loading them all.
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 #include <vector>
 
@@ -10,6 +11,9 @@
 #include "core/types.h"
 
 namespace quillor {
+
+/// More bytes than any topic file has that the program takes in or lays out.
+inline constexpr std::size_t kMostTopicBytes = 1'000'000;
 
 /// The topic folder of the record's language inside the program folder.
 Place topicFolder(const GameSettings& settings, const Place& programFolder);
@@ -47,6 +51,9 @@ void eLoadWords(GameSettings& settings, const Place& programFolder);
 
 /// The title as the player reads it: without the tag of Spanish topics.
 Text topicTitle(const Topic& topic);
+
+/// With fewer phrases than these no topic can be played.
+inline constexpr int kFewestPhrases = 2;
 
 /// How many phrases can be dealt: those from the first slot on, up to the first gap.
 int countPhrases(const Topic& topic);

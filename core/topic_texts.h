@@ -66,6 +66,19 @@ inline constexpr TextPair kBackHelp{
 inline constexpr TextPair kAskRestart{u"¿Quieres reiniciar el juego para cargar el nuevo tema?",
                                       u"Do you want to restart the game to load the new topic?"};
 
+// The sample topic: lines divided by full stops.
+inline constexpr TextPair kDemoTopic{
+    u"FRASES DE MUESTRA [español].danza.lobo.naruto.saturno.cromosoma.violeta.pollo frito.tacos."
+    u"sushi.maestro.aladino.béisbol.iguanodon.ozono.dinero.lavadora.aluminio.kelloggs.jalisco."
+    u"newton.jazmín.antofobia.mango.jazz.melodrama.sismo.adverbio.harina.grillo.piano.buscador."
+    u"brújula.póquer.cine.coseno.morse.tren.tsunami.hígado.austria.despacho.teclado.espalda."
+    u"cactus.turismo.disolución.zapato.cinética.programa.berro",
+    u"SAMPLE PHRASES.dance.wolf.naruto.saturn.chromosome.violet.fried chicken.tacos.sushi.teacher."
+    u"aladdin.baseball.iguanodon.ozone.Money.washing machine.aluminum.kelloggs.nevada.newton."
+    u"jasmine.antophobia.mango.jazz.melodrama.earthquake.adverb.flour.cricket.piano.finder."
+    u"compass.poker.cinema.coseno.morse.train.tsunami.liver.austria.dispatch.keyboard.back."
+    u"cactus.tourism.dissolution.shoe.kinetics.program.watercress"};
+
 // Progress.
 inline constexpr TextPair kProgress{u"Progreso", u"Progress"};
 inline constexpr TextPair kProgressTitle{u"Quillor | Progreso", u"Quillor | Progress"};
@@ -81,6 +94,8 @@ inline constexpr std::array<TextPair, 7> kProgressCounts{{
 }};
 inline constexpr TextPair kProgressNoScores{u"Aquí verás los puntos de tus partidas arcade.",
                                             u"The score of your arcade games will be here."};
+inline constexpr TextPair kProgressOneScore{u"Puntos, una partida arcade: ",
+                                            u"Score, one arcade game: "};
 inline constexpr TextPair kProgressScores{u"Puntos, partidas arcade: ", u"Score, arcade games: "};
 inline constexpr TextPair kProgressFrom{u", de ", u", from "};
 inline constexpr TextPair kProgressTo{u" a ", u" to "};

@@ -23,36 +23,6 @@ const TextPair& wordsFor(Happened happened) {
 
 }  // namespace
 
-Text spelled(const Round& round) {
-    Text text;
-    for (const Cell& cell : round.cells) {
-        if (!cell.isLetter())
-            continue;
-        if (cell.startsWord && !text.empty())
-            text += u", ";
-        if (!cell.isFound())
-            text += u"_ ";
-        else
-            text +=
-                Text(1, round.hiddenLetters && cell.state == CellState::Found ? u'?'
-                                                                              : cell.character) +
-                u" ";
-    }
-    return text;
-}
-
-Text answerOf(const Round& round) {
-    Text text;
-    for (const Cell& cell : round.cells) {
-        if (!cell.isLetter())
-            continue;
-        if (cell.startsWord && !text.empty())
-            text += u' ';
-        text += cell.character;
-    }
-    return text;
-}
-
 Text switchText(const Program& program, const TextPair& caption, bool on) {
     return program.lang(caption) + program.lang(on ? texts::kSpokenOn : texts::kSpokenOff);
 }

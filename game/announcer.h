@@ -13,7 +13,10 @@ class Announcer {
     using Speak = std::function<void(Text)>;
     Announcer(Program& program, Speak speak);
 
+    /// The topic, how many letters there are to find, and the board.
     void sayNewGame(const Round& round);
+    /// The key (a capital or a digit), whether it was in the phrase, the mistakes so far, and
+    /// the board. `happened` is Found, Repeated or Mistake.
     void sayGuess(char16_t key, Happened happened, const Round& round);
     /// Won or lost, the answer with its accents, and what it was worth.
     void sayEnding(const Round& round);
@@ -31,10 +34,5 @@ class Announcer {
 
 /// "Sounds: on", in the interface's language.
 Text switchText(const Program& program, const TextPair& caption, bool on);
-
-/// The phrase spelled as the board shows it, with its gaps.
-Text spelled(const Round& round);
-/// The answer as the board has it at last, with its accents, one blank between words.
-Text answerOf(const Round& round);
 
 }  // namespace quillor

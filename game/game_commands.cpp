@@ -1,10 +1,21 @@
 // What the menu and its keys do beside playing: leaving, restarting, switches.
+#include <array>
+
 #include "app/program.h"
 #include "core/settings_file.h"
 #include "game/game_screen.h"
 #include "game/rules/ways.h"
 
 namespace quillor {
+
+namespace {
+
+// By `giWay`.
+constexpr std::array<TextPair, 5> kWayNames{texts::kMenuManual, texts::kMenuRepeat,
+                                            texts::kMenuTour, texts::kMenuAnyTopic,
+                                            texts::kMenuHidden};
+
+}  // namespace
 
 // False, whatever was answered, when the game ended while the question stood.
 bool frmGame::confirmsLeaving() {
@@ -84,11 +95,9 @@ void frmGame::mColor_Click() {
     tell(switchText(program_, texts::kMenuColors, settings_.gbColorTransition));
 }
 
-// As the menu has it checked.
 void frmGame::tellWay() {
-    for (const MenuItem* item : menu.mAuto.children)
-        if (item->radio && item->checked)
-            tell(program_.lang(texts::kSpokenWay) + item->caption);
+    const auto way = static_cast<std::size_t>(settings_.giWay);
+    tell(program_.lang(texts::kSpokenWay) + program_.lang(kWayNames.at(way)));
 }
 
 void frmGame::saveSwitches() {

@@ -1,5 +1,5 @@
-// What everything on the game screen looks like at rest, and the figure and the board inside
-// their frames. Later controls stand in front of earlier ones.
+// What everything on the game screen looks like at rest, and the board inside its frame.
+// Later controls stand in front of earlier ones.
 #include "game/game_screen.h"
 #include "toolkit/style.h"
 
@@ -7,9 +7,8 @@ namespace quillor {
 
 namespace {
 
-constexpr Color kInk = rgb(40, 40, 40);
-constexpr Color kPale = rgb(250, 250, 250);
-constexpr Color kEdge = rgb(200, 204, 208);
+using style::kInk;
+using style::kPale;
 
 constexpr Twips kKeyRadius = 120;
 
@@ -42,7 +41,7 @@ void frmGame::layOutBar() {
     add(describe(lblMenu, "lblMenu", style::kBarText, kPale, Align::Center));
     lblMenu.role = LabelRole::Button;
     lblMenu.cornerRadius = style::kButtonRadius;
-    layOutView({1320, 90, 780, 540}, kPale);
+    layOutView({}, kPale);
     add(describe(lblMode, "lblMode", style::kBarText, kPale, Align::Left));
     add(describe(status.lblStatus, "lblStatus", big, kPale, Align::Center));
     add(describe(score.lblScore, "lblScore", big, kPale, Align::Right));
@@ -57,58 +56,17 @@ void frmGame::layOutBar() {
 }
 
 void frmGame::layOutFigure() {
-    constexpr Twips kStroke = 75;
-    constexpr Twips kWood = 120;
-    figure.frmeMan.id = "frmeMan";
-    add(figure.frmeMan);
     Frame* man = &figure.frmeMan;
+    add(*man);
     add(imgBack(1), man);
-
-    const auto line = [&](Line& control, const char* id, Color color, Twips thickness) -> Line& {
-        control.id = id;
-        control.color = color;
-        control.thickness = thickness;
-        return add(control, man);
-    };
-    const Color wood = rgb(120, 84, 52);
-    line(figure.lnStick1, "lnStick1", wood, kWood).span(360, 4020, 2760, 4020);
-    line(figure.lnStick2, "lnStick2", wood, kWood).span(2340, 180, 2340, 4020);
-    line(figure.lnStick3, "lnStick3", wood, kWood).span(900, 180, 2340, 180);
-    line(figure.lnRope, "lnRope", rgb(170, 130, 80), 60).span(1200, 180, 1200, 960);
-
-    figure.shpPrt7.id = "shpPrt7";
-    figure.shpPrt7.backColor = wood;
-    figure.shpPrt7.radius = 60;
-    add(figure.shpPrt7, man).place(660, 3360, 1080, 150);
-    line(figure.shpPrt5, "shpPrt5", kInk, kStroke).x1 = 1110;
-    line(figure.shpPrt6, "shpPrt6", kInk, kStroke).x1 = 1290;
-    line(figure.shpPrt3, "shpPrt3", kInk, kStroke).x1 = 1080;
-    line(figure.shpPrt4, "shpPrt4", kInk, kStroke).x1 = 1320;
-    const auto shape = [&](Shape& control, const char* id, ShapeKind kind) -> Shape& {
-        control.id = id;
-        control.kind = kind;
-        control.backColor = rgb(255, 255, 255);
-        control.borderColor = kInk;
-        control.borderWidth = kStroke;
-        return add(control, man);
-    };
-    figure.shpPrt2.radius = 180;
-    shape(figure.shpPrt2, "shpPrt2", ShapeKind::RoundedRectangle).place(1020, 1440, 360, 960);
-    shape(figure.shpPrt1, "shpPrt1", ShapeKind::Oval).place(900, 840, 600, 600);
-    line(figure.lnNeck, "lnNeck", kInk, kStroke).span(1110, 1440, 1290, 1440);
-    add(describe(figure.shpPrt0, "shpPrt0", {Face::Comic, 16, true}, kInk, Align::Center), man)
-        .place(900, 940, 600, 400);
-    for (Control* piece : std::initializer_list<Control*>{
-             &figure.lnNeck, &figure.shpPrt0, &figure.shpPrt1, &figure.shpPrt2, &figure.shpPrt3,
-             &figure.shpPrt4, &figure.shpPrt5})
-        piece->visible = false;
-    figure.eResetHangman();
+    for (const ControlRef& piece : figure.pieces())
+        std::visit([this, man](auto* control) { add(*control, man); }, piece);
 }
 
 void frmGame::layOutStrikes() {
     strikes.shpStrikes.id = "shpStrikes";
     strikes.shpStrikes.backColor = rgb(255, 255, 255);
-    strikes.shpStrikes.borderColor = kEdge;
+    strikes.shpStrikes.borderColor = style::kFineEdge;
     strikes.shpStrikes.borderWidth = 15;
     strikes.shpStrikes.radius = 60;
     add(strikes.shpStrikes);
@@ -162,11 +120,11 @@ void frmGame::layOutControls() {
     add(score.frmePoints);
     add(describe(score.lblPoints, "lblPoints", {Face::Display, 24, true}, kInk, Align::Right),
         &score.frmePoints)
-        .place(0, 660, 0, 540);
+        .place(0, ScoreLine::kPointsTop, 0, 540);
     score.frmeBonus.id = "frmeBonus";
     add(score.frmeBonus);
     add(describe(score.lblBonus, "lblBonus", style::kText, kInk, Align::Right), &score.frmeBonus)
-        .place(0, 660, 0, 360);
+        .place(0, ScoreLine::kPointsTop, 0, 360);
     score.lblBonus.visible = score.lblPoints.visible = false;
 }
 
@@ -222,7 +180,7 @@ void frmGame::layOutKeyboard() {
 
     const auto put = [&](int key, Frame& frame) {
         Shape& face = keyboard.shpKey(key);
-        face.borderColor = kEdge;
+        face.borderColor = style::kFineEdge;
         face.borderWidth = 15;
         face.radius = kKeyRadius;
         add(face, &frame);

@@ -6,6 +6,7 @@
 #include "core/text_rules.h"
 #include "core/topic_library.h"
 #include "game/game_screen.h"
+#include "game/rules/clock.h"
 #include "game/rules/guess.h"
 #include "game/rules/scoring.h"
 #include "game/rules/ways.h"
@@ -67,10 +68,7 @@ void frmGame::dealNextPhrase() {
         program_.showOver(ScreenId::Word2, *this, imgBack(0).image, play);
         return;
     }
-    drawTopic(settings_, [this] {
-        program_.desktop.seedRandom();
-        return program_.desktop.random();
-    });
+    drawTopic(settings_, [this] { return program_.desktop.draw(); });
     settings_.gbAutoChoice = true;
     if (eChoiceTopic(program_, settings_.giTopicIndex, settings_.giWay))
         play();
@@ -132,7 +130,7 @@ void frmGame::takeHint() {
 void frmGame::guess(char16_t key) {
     const std::size_t mistakes = round.mistakes.size();
     const Happened happened = eEnterKey(settings_, round, key);
-    // Also the sixth one; the ending names its own sound before this one plays.
+    // Also the last one; the ending names its own sound before this one plays.
     if (round.mistakes.size() > mistakes)
         sounds.request(sound::kMistake);
     if (happened != Happened::Nothing)
@@ -153,8 +151,8 @@ void frmGame::eEnterWord() {
     show(happened);
 }
 
-void frmGame::passSecond() {
-    const Happened happened = quillor::passSecond(settings_, round);
+void frmGame::onSecond() {
+    const Happened happened = passSecond(settings_, round);
     clock.show(round);
     if (happened == Happened::Nothing && settings_.giGameState == kPlaying)
         announcer.sayTime(round);
@@ -194,7 +192,7 @@ void frmGame::endGame(Happened how) {
     webSearch.offer(true);
     score.showPoints();
     announcer.sayEnding(round);
-    // Named at once: the sixth mistake's own sound must not play under the box.
+    // Named at once: the last mistake's own sound must not play under the box.
     sounds.name(dead ? sound::kDeath : sound::kVictory);
     if (tourCompleted)
         say(texts::kTourCompleted);

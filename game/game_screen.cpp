@@ -25,7 +25,7 @@ frmGame::frmGame(Program& program)
       keyboard(program, {[this](char16_t key) { guess(key); }, [this] { eEnterWord(); },
                          [this] { playButton.leave(); }}),
       score(program),
-      clock(program, [this] { passSecond(); }),
+      clock(program, [this] { onSecond(); }),
       status(program),
       playButton(program, [this] { keyboard.leaveKeys(); }),
       announcer(program, [this](Text words) { speak(std::move(words)); }),
@@ -131,16 +131,12 @@ void frmGame::onKeyDown(KeyEvent& event) {
 }
 
 void frmGame::onKeyPress(char16_t character) {
-    const bool letter = (character >= u'A' && character <= u'Z') ||
-                        (character >= u'a' && character <= u'z') || character == u'Ñ' ||
-                        character == u'ñ';
-    const bool digit = character >= u'0' && character <= u'9';
     const bool playing = settings_.giGameState == kPlaying;
-    if (letter || digit)
+    if (isGuessKey(character))
         guess(character);
     else if (character == u'!')
         eEnterWord();
-    else if (character == u'?' && webSearch.lblFinder(0).visible)
+    else if (character == u'?' && isOver(settings_))
         webSearch.lblFinder_Click();
     else if (playing && character > u' ' && character != u'?')
         announcer.sayNoKey(character);
@@ -193,8 +189,7 @@ void frmGame::onLoad() {
     showIdlePage(true);
     showState();
     score.showOnOpening();
-    lblMode.caption =
-        program_.lang(settings_.gbClassicMode ? texts::kClassicMode : texts::kArcadeMode);
+    lblMode.caption = program_.lang(modeName());
     eChangeTitle();
     ePutSomeLucky();
 }
@@ -224,12 +219,14 @@ void frmGame::eTranslate() {
     status.lblStatus.toolTip = program_.lang(texts::kStatusTip);
 }
 
+TextPair frmGame::modeName() const {
+    return settings_.gbClassicMode ? texts::kClassicMode : texts::kArcadeMode;
+}
+
 void frmGame::eChangeTitle() {
     const bool arcade = !settings_.gbClassicMode;
-    title = texts::kTitleStart;
-    title += lblMode.caption.substr(0, 1);
-    if (!lblMode.caption.empty())
-        title += lowerCase(TextView(lblMode.caption).substr(1));
+    const Text mode = program_.lang(modeName());
+    title = Text(texts::kTitleStart) + mode.substr(0, 1) + lowerCase(TextView(mode).substr(1));
     if (arcade && settings_.giGamesPlayed > 0)
         title += u" [" + inDigits(settings_.giGamesPlayed) + u"]";
     if (settings_.gbHardScore)
@@ -241,8 +238,7 @@ void frmGame::eChangeTitle() {
 }
 
 void frmGame::ePutSomeLucky() {
-    program_.desktop.seedRandom();
-    const auto tip = static_cast<std::size_t>(program_.desktop.random() *
+    const auto tip = static_cast<std::size_t>(program_.desktop.draw() *
                                               static_cast<double>(texts::kTips.size()));
     tip_ = program_.lang(texts::kTips.at(tip));
     showTip();

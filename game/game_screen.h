@@ -27,7 +27,7 @@ class frmGame : public ProgramScreen {
     Label lblBluebar;
     Label lblMenu;  // opens the menu
     Label lblMode;
-    Label lblHey;  // the greeting, then tips
+    Label lblHey;  // a tip; for a moment, what has just been changed
     GameMenu menu;
     Sounds sounds;
     WebSearch webSearch;
@@ -95,10 +95,11 @@ class frmGame : public ProgramScreen {
     void eContinueToPlay();
     void dealNextPhrase();
     void eResetGame();
+    void say(const TextPair& text);  // in a box
     void takeHint();
     void guess(char16_t key);
     void eEnterWord();
-    void passSecond();
+    void onSecond();
     void show(Happened happened);
     void endGame(Happened how);
     void showRound();  // what a guess changes
@@ -119,14 +120,15 @@ class frmGame : public ProgramScreen {
     void mHide_Click();
     void mColor_Click();
     void saveSwitches();
-    void tell(Text what);
     void tellWay();
+
+    // game_screen.cpp: the tip line and the title.
+    void tell(Text what);
     void showTip();
+    TextPair modeName() const;
 
-    void say(const TextPair& text);
-
-    bool idlePage_ = false;  // nothing is played, and something is drawn in its place
-    Text tip_;
+    bool idlePage_ = false;    // nothing is played, and something is drawn in its place
+    Text tip_;                 // that the tip line goes back to
     bool topicDealt_ = false;  // Repeat and Tour have a topic to start from
     Played typed_;             // what was typed since progress was noted
 };

@@ -8,18 +8,26 @@ namespace {
 
 static_assert(kGuessKeys.size() == Keyboard::kLastGuessKey);
 
-bool isVowelKey(int key) {
-    return key == 1 || key == 5 || key == 9 || key == 16 || key == 22;
+// Of a key that can be guessed.
+char16_t characterOf(int key) {
+    return kGuessKeys.at(static_cast<std::size_t>(key - 1));
 }
+
 bool isCommandKey(int key) {
     return key >= Keyboard::kNumbersKey;
+}
+
+// The row of digits gets such a key, too, to begin with.
+bool leadsTheEye(int key) {
+    constexpr TextView kLeading = u"AEIOU1";
+    return isCommandKey(key) || kLeading.find(characterOf(key)) != TextView::npos;
 }
 
 }  // namespace
 
 Keyboard::Keyboard(Program& program, Told told) : program_(program), told_(std::move(told)) {
     for (int key = 1; key <= kLastGuessKey; ++key)
-        lblKey(key).caption = Text(1, kGuessKeys.at(static_cast<std::size_t>(key - 1)));
+        lblKey(key).caption = Text(1, characterOf(key));
     lblKey(kNumbersKey).caption = u"123";
     lblKey(kHideNumbersKey).caption = u"(x)";
     for (int key = 1; key <= kWriteKey; ++key) {
@@ -99,7 +107,7 @@ void Keyboard::lblKey_Click(int index) {
     else if (index == kNumbersKey || index == kHideNumbersKey)
         frmeNumbers.visible = index == kNumbersKey;
     else
-        told_.guess(lblKey(index).caption.front());
+        told_.guess(characterOf(index));
 }
 
 void Keyboard::show(const GameSettings& settings, const Round& round) {
@@ -113,10 +121,10 @@ void Keyboard::show(const GameSettings& settings, const Round& round) {
 
 void Keyboard::eLoadKeysColors() {
     const GameSettings& settings = program_.settings;
-    for (int key = 0; key <= kWriteKey; ++key) {
+    for (int key = 1; key <= kWriteKey; ++key) {
         KeyColors& colors = colors_.at(static_cast<std::size_t>(key));
         colors = {settings.glWhite, settings.glTheme};
-        if (key == kFirstDigit || isVowelKey(key) || isCommandKey(key)) {
+        if (leadsTheEye(key)) {
             colors.face = rgb(30, 30, 30) + settings.glGrey;
             colors.accent = isCommandKey(key) ? settings.glTheme : settings.glRed;
         }

@@ -7,7 +7,6 @@
 
 #include "core/numbers.h"
 #include "core/texts.h"
-#include "game/announcer.h"
 #include "ui/colors.h"
 
 namespace quillor {
@@ -74,7 +73,7 @@ void PhraseBoard::ePutDesign(GameSettings& settings) {
         return;
     for (int cell = 1; cell <= kBoardCells; ++cell)
         paintLetter(lblLetter(cell), lnLetter(cell), settings.giDesign, settings);
-    settings.glDesignColor = lblLetter(1).textColor;
+    settings.glDesignColor = letterColor(settings.giDesign, settings);
 }
 
 void PhraseBoard::layOut(const GameSettings& settings, const Round& round) {
@@ -113,9 +112,10 @@ void PhraseBoard::show(const GameSettings& settings, const Round& round) {
         const int number = static_cast<int>(i) + 1;
         Label& label = lblLetter(number);
         const bool missed = cell.state == CellState::Missed;
-        if (cell.isFound() && !label.visible && !missed)
+        if (cell.isFound() && !shown_.test(i) && !missed)
             label.move(Motion::Appear);
         label.visible = cell.isFound();
+        shown_.set(i, cell.isFound());
         label.caption = captionOf(cell, round);
         label.textColor = missed ? settings.glRed : settings.glDesignColor;
         if (missed)
@@ -171,6 +171,7 @@ void PhraseBoard::clear(const GameSettings& settings) {
             lnLetter(cell).thickness = plainLine_->thickness;
         }
     }
+    shown_.reset();
     lblCont.visible = lblBoard.visible = false;
     lblTopic.caption = eLang(settings, texts::kNoTopicShown);
 }

@@ -2,6 +2,7 @@
 // one that is to be guessed, the topic above and the counter below.
 #pragma once
 
+#include <bitset>
 #include <optional>
 
 #include "core/text_rules.h"
@@ -32,6 +33,7 @@ class PhraseBoard {
     void layOut(const GameSettings& settings, const Round& round);
     /// What has been found so far, and the counter while the game goes on.
     void show(const GameSettings& settings, const Round& round);
+    /// Puts the frame, as large as its phrase, into the area available for the board.
     void ePutAllCenter();
     /// The area available for the board, in twips; the board moves into it.
     void arrange(const Area& area);
@@ -46,8 +48,9 @@ class PhraseBoard {
 
     Picture& paper_;
     Twips widestCell_ = 0;
-    std::optional<Line> plainLine_;  // under the letters, as the design has it
-    std::size_t cursor_ = 0;         // the cell that was read last
+    std::optional<Line> plainLine_;   // under the letters, as the design has it
+    std::bitset<kBoardCells> shown_;  // the cells whose character is seen
+    std::size_t cursor_ = 0;          // the cell that was read last
 };
 
 /// The picture in a frame lines up with the one behind the frame.

@@ -7,7 +7,6 @@ namespace quillor {
 
 namespace {
 
-constexpr Twips kPointsTop = 660;
 constexpr Twips kRiseEnd = 180;
 constexpr Twips kRiseStep = 30;
 constexpr int kRiseTick = 30;      // ms, less what each step takes off
@@ -68,24 +67,26 @@ void ScoreLine::showPoints() {
     lblBonus.visible = settings_.gbAnswerWritten && !settings_.gbClassicMode;
     if (!settings_.gbUseSounds || isStill())
         tmrUp.interval = kSilentHold;
-    tmrUp.enabled = true;
+    enter(Phase::Rising);
 }
 
 bool ScoreLine::isStill() const {
     return program_.desktop.preferences().reducedMotion;
 }
 
-void ScoreLine::hidePoints() {
-    lblBonus.visible = lblPoints.visible = false;
-    tmrUp.enabled = false;
+void ScoreLine::enter(Phase phase) {
+    phase_ = phase;
+    tmrUp.enabled = phase == Phase::Rising;
+    tmrScore.enabled = phase == Phase::Counting;
+    if (phase != Phase::Rising)
+        lblBonus.visible = lblPoints.visible = false;
 }
 
 void ScoreLine::tmrUp_Timer() {
     if (lblPoints.top <= kRiseEnd || isStill()) {
         tmrUp.interval = kRiseTick;
-        hidePoints();
         // Where no score is kept there is nothing to count.
-        tmrScore.enabled = keepsScore(settings_);
+        enter(keepsScore(settings_) ? Phase::Counting : Phase::Rest);
         return;
     }
     lblPoints.top -= kRiseStep;
@@ -97,15 +98,15 @@ void ScoreLine::tmrUp_Timer() {
 void ScoreLine::tmrScore_Timer() {
     if (isStill())
         settleScore(settings_);
-    tmrScore.enabled = !isStill() && !countScore(settings_);
+    if (isStill() || countScore(settings_))
+        enter(Phase::Rest);
     showScore();
 }
 
 void ScoreLine::settle() {
-    if (!tmrScore.enabled && !tmrUp.enabled)
+    if (phase_ == Phase::Rest)
         return;
-    hidePoints();
-    tmrScore.enabled = false;
+    enter(Phase::Rest);
     settleScore(settings_);
     showScore();
 }

@@ -11,6 +11,9 @@ class ScoreLine {
     /// At this score and below it the score line pulses.
     static constexpr std::int16_t kLowScore = 500;
 
+    /// Where the points stand in their frame before they rise, in twips.
+    static constexpr Twips kPointsTop = 660;
+
     explicit ScoreLine(Program& program);
 
     Frame frmePoints;
@@ -29,7 +32,7 @@ class ScoreLine {
     /// sound to wait for they stand a moment first, so that they can be read.
     void showPoints();
     /// Whether the score is counting to its new value.
-    bool isCounting() const { return tmrScore.enabled; }
+    bool isCounting() const { return phase_ == Phase::Counting; }
     /// Brings the score to its new value at once, when the player goes on while
     /// the points are still rising or counting.
     void settle();
@@ -37,8 +40,10 @@ class ScoreLine {
     void keepScore();
 
   private:
+    enum class Phase { Rest, Rising, Counting };  // of the points, then of the score
+
+    void enter(Phase phase);
     void showScore();
-    void hidePoints();
     bool isStill() const;  // nothing is to move
     void tmrUp_Timer();
     void tmrScore_Timer();
@@ -46,6 +51,7 @@ class ScoreLine {
 
     Program& program_;
     GameSettings& settings_;
+    Phase phase_ = Phase::Rest;
     bool bloodRising_ = true;
 };
 

@@ -90,8 +90,8 @@ void ClockLine::stop() {
     tmrTime.enabled = false;
 }
 
-// The time left follows the wall clock: however the timer is served, one step
-// for each change of the time of day.
+// The time left follows the wall clock, not the timer: one step whenever the time of day
+// has changed since the last look, be it by a second, or by more after a pause or a jump.
 void ClockLine::tmrTime_Timer() {
     const TimeOfDay now = program_.desktop.timeOfDay();
     if (now == lastSecond_)

@@ -49,14 +49,15 @@ class PlayButton {
 
 class ClockLine {
   public:
-    /// `onSecond` runs each time the time of day has moved on by a second while
-    /// the clock runs.
+    /// `onSecond` runs whenever another second of the day has begun while the clock runs.
     ClockLine(Program& program, std::function<void()> onSecond);
 
     Label lblTime;
     Timer tmrTime;
 
+    /// The clock appears and runs.
     void start(const Round& round);
+    /// The time left, as minutes and seconds.
     void show(const Round& round);
     /// The clock stops and is gone.
     void stop();

@@ -114,9 +114,8 @@ bool wanted(platform::RunningCopy& copy, const std::filesystem::path& folder,
         return true;
     if (copy.other() == Other::Own && copy.call(callFor(topics)))
         return false;
-    const auto text = [english = eFileExists(folder / "English.txt")](const TextPair& pair) {
-        return onTerminal(pair, english);
-    };
+    const bool english = speaksEnglish({folder, platform::systemDisk()});
+    const auto text = [english](const TextPair& pair) { return onTerminal(pair, english); };
     const QString why =
         text(copy.other() == Other::Own ? texts::kNoAnswer : texts::kFolderIsShared);
     return askQuestion({}, why + "\n\n" + toQt(fromPath(folder)), text(texts::kYes),

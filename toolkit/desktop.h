@@ -67,6 +67,11 @@ class Desktop {
     virtual double random() = 0;
     /// Seeds the generator from the clock.
     virtual void seedRandom() = 0;
+    /// A draw of its own, freshly seeded; in [0, 1).
+    double draw() {
+        seedRandom();
+        return random();
+    }
 
     /// Shows a loaded screen; the screen stays with its owner.
     virtual void show(Screen& screen) = 0;

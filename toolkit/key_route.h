@@ -29,9 +29,12 @@ class KeyRoute {
     /// selection.
     enum class Rest { None, Field, List };
 
+    /// A key goes down on the screen in front: its way from one to the next until one of
+    /// them takes it. Returns whose native control is to have it; None: nothing is left to do.
     Rest press(Screen& screen, Focus& focus, const KeyPress& press);
     /// Whether the latest press was a command, so that nobody else has a use for it.
     bool wasTaken() const { return taken_; }
+    /// That key has been let go: a button that Space held down is clicked now.
     void release(int id);
     /// Text of an input method, character by character, into the field that has the focus
     /// or onto the screen.

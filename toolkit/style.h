@@ -20,7 +20,6 @@ inline constexpr Color kQuietFace = rgb(244, 243, 239);  // of buttons in boxes
 inline constexpr Color kSelection = rgb(16, 112, 176);   // of text in fields
 inline constexpr Color kHoveredRow = rgb(230, 236, 244);
 inline constexpr Color kDisabledFace = rgb(214, 214, 214);
-inline constexpr Color kQuietField = rgb(224, 224, 224);
 inline constexpr Color kBoxHover = rgb(22, 136, 22);  // white text on it has 4.5:1
 inline constexpr Color kBoxPressed = rgb(14, 104, 14);
 inline constexpr Color kAlarm = rgb(225, 35, 35);

@@ -1,4 +1,4 @@
-// Looks, wiring and texts of what both screens have.
+// Looks, wiring and texts of what such screens have.
 #include "topics/entry_screen.h"
 
 #include "toolkit/style.h"

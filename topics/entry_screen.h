@@ -1,6 +1,5 @@
-// What the two screens have in common that stand over the game and choose a
-// phrase for it: the panel they are on, the accept button, and the game held
-// still behind them.
+// What the screens have in common that stand over another one and choose something for it:
+// the panel they are on, and the accept button.
 #pragma once
 
 #include <functional>
@@ -25,7 +24,7 @@ class EntryScreen : public ProgramScreen {
     static constexpr Twips kWidth = 7200;
     static constexpr Twips kEdge = 480;  // from the screen's edge to what stands on the panel
     static constexpr Twips kInner = kWidth - 2 * kEdge;
-    static constexpr Color kPale = rgb(250, 250, 250);
+    static constexpr Color kPale = style::kPale;
 
     /// Of those that show a list.
     static constexpr std::array kListSheets{Sheet{Layout::Wide, kWidth, 6720},

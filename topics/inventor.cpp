@@ -18,7 +18,6 @@ namespace quillor {
 
 namespace {
 
-constexpr std::size_t kCounted = 50;
 constexpr std::size_t kMostLines = 10'000;  // of a topic that is opened
 
 // As it is derived from a topic's name.
@@ -88,7 +87,7 @@ void frmInventor::onUnload() {
 
 void frmInventor::eRefreshButton() {
     const int phrases = static_cast<int>(lstTopics.items.size());
-    lblCont.caption = twoDigits(phrases) + u"/" + twoDigits(static_cast<int>(kCounted));
+    lblCont.caption = twoDigits(phrases) + u"/" + twoDigits(kTopicPhrases);
     lblSave(0).enabled = shpSave.enabled = phrases > 0 && !txtFile.text().empty();
     showHint();
 }
@@ -126,9 +125,10 @@ Text frmInventor::hintOfTopic() const {
     const auto add = [&hint](const Text& text) { hint += (hint.empty() ? u"" : u" ") + text; };
     if (!txtFile.text().empty() && eFileExists(itsFile()))
         add(program_.lang(texts::kHintReplaces));
-    if (lstTopics.items.size() < 2 && !(txtTheme.text().empty() && lstTopics.items.empty()))
+    const auto phrases = static_cast<int>(lstTopics.items.size());
+    if (phrases < kFewestPhrases && !(txtTheme.text().empty() && lstTopics.items.empty()))
         add(program_.lang(texts::kHintTwoPhrases));
-    if (lstTopics.items.size() > kCounted)
+    if (phrases > kTopicPhrases)
         add(program_.lang(texts::kHintTooMany));
     return hint;
 }

@@ -49,7 +49,7 @@ class frmInventor : public ProgramScreen {
     void onCloseRequest() override { program_.close(*this); }
 
   private:
-    void layOut();  // inventor_layout.cpp, as are the next six
+    void layOut();  // inventor_layout.cpp, as are the next five and eTranslate
     void setFonts(float larger);
     void arrangeHead(Twips left, Twips inner, const Area& back);  // its button's top and size
     void arrangeField(Label& words, TextField& field, const Area& area);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <map>
+#include <set>
 #include <utility>
 
 #include "core/files.h"
@@ -17,7 +18,6 @@ namespace quillor {
 
 namespace {
 
-constexpr int kFewestPhrases = 2;
 constexpr TextView kHexDigits = u"0123456789ABCDEF";
 
 // The text in the language, with the detail in place of its "%".
@@ -37,7 +37,7 @@ Text numberOf(char16_t sign) {
 }
 
 bool hasKey(char16_t folded) {
-    return folded == u' ' || kGuessKeys.find(folded) != TextView::npos;
+    return folded == u' ' || isGuessKey(folded);
 }
 
 // Each sign once, in the order of the phrase.
@@ -204,11 +204,9 @@ std::optional<bool> languageOf(const Place& file) {
 // What folders hold takes their place; each file once.
 std::vector<Place> allFiles(const std::vector<Place>& given, std::vector<Text>& unread) {
     std::vector<Place> files;
-    const auto add = [&files](const Place& file) {
-        const bool known = std::any_of(files.begin(), files.end(), [&file](const Place& other) {
-            return other.path().lexically_normal() == file.path().lexically_normal();
-        });
-        if (!known)
+    std::set<std::filesystem::path> known;
+    const auto add = [&](const Place& file) {
+        if (known.insert(file.path().lexically_normal()).second)
             files.push_back(file);
     };
     for (const Place& place : given) {

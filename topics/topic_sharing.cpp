@@ -15,7 +15,6 @@ namespace quillor {
 
 namespace {
 
-constexpr std::size_t kMostBytes = 1'000'000;
 constexpr std::size_t kMostTold = 3;  // findings, so that the box stays readable
 
 class Sharing {
@@ -49,7 +48,7 @@ class Sharing {
 
     static std::optional<std::string> read(const Place& file) {
         try {
-            return readFile(file, kMostBytes);
+            return readFile(file, kMostTopicBytes);
         } catch (const std::runtime_error&) {
             return std::nullopt;
         }

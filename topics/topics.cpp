@@ -31,10 +31,8 @@ void takeWay(Program& program, std::int16_t way) {
 bool eChoiceTopic(Program& program, std::int16_t topicIndex, std::int16_t way) {
     Deal deal = Deal::TooFewPhrases;
     const bool done = quietly("eChoiceTopic", [&] {
-        deal = dealFrom(program.settings, topicIndex, [&program] {
-            program.desktop.seedRandom();
-            return program.desktop.random();
-        });
+        deal =
+            dealFrom(program.settings, topicIndex, [&program] { return program.desktop.draw(); });
         if (deal == Deal::TooFewPhrases)
             say(program, texts::kTooFewPhrases);
         if (deal == Deal::DealtAndCut)

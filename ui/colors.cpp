@@ -16,21 +16,30 @@ constexpr int kDriftHigh = 240;
 // White text needs 3; the rest is room for a channel that must leave its floor.
 constexpr double kDriftContrast = 3.1;
 
-}  // namespace
+constexpr Twips kPenShare = 11;  // letters are this often as high as their line is thick
 
 // An odd design inks in colour; from 2 on, the ink fills the cell.
-namespace {
-constexpr Twips kPenShare = 11;  // letters are this often as high as their line is thick
+bool isFilled(int design) {
+    return design >= 2;
+}
+Color inkOf(int design, const GameSettings& settings) {
+    return design % 2 == 1 ? settings.glTheme : settings.glBlack;
+}
+
+}  // namespace
+
+Color letterColor(int design, const GameSettings& settings) {
+    return isFilled(design) ? settings.glWhite : inkOf(design, settings);
 }
 
 void paintLetter(Label& letter, Line& underline, int design, const GameSettings& settings) {
-    const bool filled = design >= 2;
-    const Color ink = design % 2 == 1 ? settings.glTheme : settings.glBlack;
+    const bool filled = isFilled(design);
+    const Color ink = inkOf(design, settings);
     const Twips below = letter.bottom() - underline.y1;
     underline.color = ink;
     underline.thickness = filled ? 2 * below : letter.height / kPenShare;
     underline.roundEnds = !filled;
-    letter.textColor = filled ? settings.glWhite : ink;
+    letter.textColor = letterColor(design, settings);
     letter.backColor = ink;
     letter.opaque = filled;
 }
@@ -100,8 +109,7 @@ bool Accent::mayRise(const Channel& channel) const {
 void Accent::tmrSmooth_Timer() {
     if (!settings_.gbColorTransition || program_.desktop.preferences().reducedMotion)
         return;
-    program_.desktop.seedRandom();
-    Channel& channel = channels_.at(static_cast<std::size_t>(3 * program_.desktop.random()));
+    Channel& channel = channels_.at(static_cast<std::size_t>(3 * program_.desktop.draw()));
     if (channel.value + kDriftStep > kDriftHigh || !mayRise(channel))
         channel.rising = false;
     if (channel.value - kDriftStep < kDriftLow)

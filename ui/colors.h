@@ -11,6 +11,8 @@ namespace quillor {
 
 inline constexpr int kDesigns = 4;
 
+/// The colour of the letters themselves in one of the designs, 0..3.
+Color letterColor(int design, const GameSettings& settings);
 /// Paints a letter and the line under it in one of the designs: 0 black ink,
 /// 1 ink of the theme's colour, 2 white on black, 3 white on the theme's colour.
 void paintLetter(Label& letter, Line& underline, int design, const GameSettings& settings);

@@ -1,9 +1,11 @@
-// The pieces' places at rest, and the one drop away from them.
+// The pieces in one table: when they show, their places at rest, and the one drop away.
 #include "ui/figure.h"
 
 #include <algorithm>
+#include <array>
 
 #include "core/texts.h"
+#include "toolkit/style.h"
 
 namespace quillor {
 
@@ -27,76 +29,161 @@ void StrikeBoxes::eTranslate(const GameSettings& settings) {
 
 void StrikeBoxes::show(const Round& round) {
     for (int i = 0; i < kMostMistakes; ++i) {
-        const Text mistake =
-            round.mistakes.substr(std::min(static_cast<std::size_t>(i), round.mistakes.size()), 1);
-        if (lblStrike(i).caption.empty() && !mistake.empty())
+        const auto place = static_cast<std::size_t>(i);
+        const bool filled = place < round.mistakes.size();
+        if (filled && place >= shown_)
             for (Control* part :
                  std::initializer_list<Control*>{&lblStrike(i), &lnStrike(i), &lnStrike(i + 1)})
                 part->move(Motion::Shake);
-        lblStrike(i).caption = mistake;
+        lblStrike(i).caption = filled ? Text(1, round.mistakes[place]) : Text();
+    }
+    shown_ = round.mistakes.size();
+}
+
+namespace {
+
+constexpr Twips kStroke = 75;
+constexpr Color kWood = rgb(120, 84, 52);
+
+using Member = std::variant<Line Figure::*, Shape Figure::*, Label Figure::*>;
+
+struct Piece {
+    Member member;
+    const char* id;
+    int mistake;       // that brings it; 0: it is there from the beginning
+    Area rest;         // in the figure's frame; of a line from its first point to its second
+    Twips drop;        // by how much it falls at death
+    Twips inward = 0;  // and how far a limb's free end comes in from the left
+};
+
+// From back to front. A mistake more is a piece more, here and in the header.
+constexpr std::array<Piece, 9> kPieces{{
+    {&Figure::shpPrt7, "shpPrt7", 0, {660, 3360, 1080, 150}, 360},
+    {&Figure::shpPrt5, "shpPrt5", 5, {1110, 2340, -30, 1020}, 60, 60},
+    {&Figure::shpPrt6, "shpPrt6", 6, {1290, 2340, 30, 1020}, 60, -60},
+    {&Figure::shpPrt3, "shpPrt3", 3, {1080, 1560, -240, 960}, 60, 240},
+    {&Figure::shpPrt4, "shpPrt4", 4, {1320, 1560, 240, 960}, 60, -240},
+    {&Figure::shpPrt2, "shpPrt2", 2, {1020, 1440, 360, 960}, 60},
+    {&Figure::shpPrt1, "shpPrt1", 1, {900, 840, 600, 600}, 60},
+    {&Figure::lnNeck, "lnNeck", 1, {1110, 1440, 180, 0}, 60},
+    {&Figure::shpPrt0, "shpPrt0", 1, {900, 940, 600, 400}, 90},
+}};
+
+constexpr bool eachMistakeHasItsPiece() {
+    for (int mistake = 1; mistake <= kMostMistakes; ++mistake)
+        if (std::none_of(kPieces.begin(), kPieces.end(),
+                         [mistake](const Piece& piece) { return piece.mistake == mistake; }))
+            return false;
+    return true;
+}
+static_assert(eachMistakeHasItsPiece());
+
+ControlRef refTo(Figure& figure, const Piece& piece) {
+    return std::visit([&figure](auto member) -> ControlRef { return &(figure.*member); },
+                      piece.member);
+}
+
+Control& controlOf(Figure& figure, const Piece& piece) {
+    return controlOf(refTo(figure, piece));
+}
+
+void putToRest(Figure& figure, const Piece& piece) {
+    const Area& rest = piece.rest;
+    if (const auto* line = std::get_if<Line Figure::*>(&piece.member))
+        (figure.**line).span(rest.left, rest.top, rest.right(), rest.bottom());
+    else
+        controlOf(figure, piece).place(rest.left, rest.top, rest.width, rest.height);
+}
+
+void drop(Figure& figure, const Piece& piece) {
+    controlOf(figure, piece).visible = true;
+    if (const auto* member = std::get_if<Line Figure::*>(&piece.member)) {
+        Line& line = figure.**member;
+        line.span(line.x1, line.y1 + piece.drop, line.x2 + piece.inward, line.y2 + piece.drop);
+    } else {
+        controlOf(figure, piece).top += piece.drop;
     }
 }
 
+}  // namespace
+
 Figure::Figure() {
+    frmeMan.id = "frmeMan";
+    layOutGallows();
+    layOutMan();
     tmrDead.id = "tmrDead";
     tmrDead.interval = 100;
     tmrDead.onTick = [this] { tmrDead_Timer(); };
+    eResetHangman();
+    ePutItHangman(0);
+}
+
+void Figure::layOutGallows() {
+    const auto beam = [](Line& line, const char* id) -> Line& {
+        line.id = id;
+        line.color = kWood;
+        line.thickness = 120;
+        return line;
+    };
+    beam(lnStick1, "lnStick1").span(360, 4020, 2760, 4020);
+    beam(lnStick2, "lnStick2").span(2340, 180, 2340, 4020);
+    beam(lnStick3, "lnStick3").span(900, 180, 2340, 180);
+    lnRope.id = "lnRope";
+    lnRope.color = rgb(170, 130, 80);
+    lnRope.thickness = 60;
+    lnRope.span(1200, 180, 1200, 960);
+}
+
+void Figure::layOutMan() {
+    for (const Piece& piece : kPieces)
+        controlOf(*this, piece).id = piece.id;
+    for (Line* line : {&lnNeck, &shpPrt3, &shpPrt4, &shpPrt5, &shpPrt6}) {
+        line->color = style::kInk;
+        line->thickness = kStroke;
+    }
+    for (Shape* shape : {&shpPrt1, &shpPrt2}) {
+        shape->backColor = rgb(255, 255, 255);
+        shape->borderColor = style::kInk;
+        shape->borderWidth = kStroke;
+    }
+    shpPrt1.kind = ShapeKind::Oval;
+    shpPrt2.radius = 180;
+    shpPrt7.backColor = kWood;
+    shpPrt7.radius = 60;
+    shpPrt0.textColor = style::kInk;
+}
+
+std::vector<ControlRef> Figure::pieces() {
+    std::vector<ControlRef> all{&lnStick1, &lnStick2, &lnStick3, &lnRope};
+    for (const Piece& piece : kPieces)
+        all.push_back(refTo(*this, piece));
+    return all;
 }
 
 void Figure::ePutItHangman(int mistakes) {
-    static_assert(kMostMistakes == 6, "each mistake brings a piece, the last one the second leg");
-    shpPrt0.visible = shpPrt1.visible = lnNeck.visible = mistakes >= 1;
-    shpPrt2.visible = mistakes >= 2;
-    shpPrt3.visible = mistakes >= 3;
-    shpPrt4.visible = mistakes >= 4;
-    shpPrt5.visible = mistakes >= 5;
-    if (mistakes >= kMostMistakes)
-        shpPrt6.visible = true;
+    for (const Piece& piece : kPieces)
+        if (mistakes >= piece.mistake || piece.mistake < kMostMistakes)
+            controlOf(*this, piece).visible = mistakes >= piece.mistake;
 }
 
 void Figure::eResetHangman() {
     tmrDead.enabled = false;
-    lnNeck.y1 = lnNeck.y2 = 1440;
+    for (const Piece& piece : kPieces) {
+        putToRest(*this, piece);
+        if (piece.mistake == kMostMistakes)
+            controlOf(*this, piece).visible = false;
+    }
     shpPrt0.caption = u"- -";
-    shpPrt0.font.size = 16;
-    shpPrt0.top = 940;
-    shpPrt1.top = 840;
-    shpPrt2.top = 1440;
-    const auto rest = [](Line& limb, Twips y1, Twips y2, Twips x2) {
-        limb.y1 = y1;
-        limb.y2 = y2;
-        limb.x2 = x2;
-    };
-    rest(shpPrt3, 1560, 2520, 840);
-    rest(shpPrt4, 1560, 2520, 1560);
-    rest(shpPrt5, 2340, 3360, 1080);
-    rest(shpPrt6, 2340, 3360, 1320);
-    shpPrt7.top = 3360;
-    shpPrt6.visible = false;
+    shpPrt0.font = {Face::Comic, 16, true};
 }
 
 // All moves are relative: the drop runs once between two resets.
 void Figure::tmrDead_Timer() {
-    constexpr Twips kSag = 60;
-    const auto sag = [](Line& line, Twips inward) {
-        line.y1 += kSag;
-        line.y2 += kSag;
-        line.x2 += inward;
-        line.visible = true;
-    };
-    shpPrt7.top += 360;
-    sag(lnNeck, 0);
+    tmrDead.enabled = false;
+    for (const Piece& piece : kPieces)
+        drop(*this, piece);
     shpPrt0.caption = u"x x";
     shpPrt0.font.size = 14;
-    shpPrt0.top += 90;
-    shpPrt1.top += kSag;
-    shpPrt2.top += kSag;
-    shpPrt0.visible = shpPrt1.visible = shpPrt2.visible = true;
-    sag(shpPrt3, 240);
-    sag(shpPrt4, -240);
-    sag(shpPrt5, 60);
-    sag(shpPrt6, -60);
-    tmrDead.enabled = false;
 }
 
 }  // namespace quillor

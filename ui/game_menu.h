@@ -12,7 +12,7 @@ namespace quillor {
 
 class GameMenu {
   public:
-    /// What the entries do; those that are switches have been turned by then.
+    /// What the entries do. A switch is turned by its command; the menu only shows it.
     struct Commands {
         std::function<void()> mBack_Click;
         std::function<void()> mReboot_Click;
@@ -45,9 +45,9 @@ class GameMenu {
     /// Enables and checks the entries by the record. Repeat and Tour need a
     /// topic to start from: the first deal brings it.
     void show(bool topicDealt);
-    /// Checks the entry of the saved way.
+    /// Checks the entry of the way that is in the record.
     void eActivateAuto();
-    /// Checks the help switches as they are saved.
+    /// Checks the helps, first letter and hidden letters, as the record has them.
     void eCheckOthers();
     /// Runs the entry whose shortcut the key is, if it is enabled; the first
     /// press of a held key only. Returns whether it is any entry's key.
@@ -80,6 +80,7 @@ class WebSearch {
     ControlArray<Label, 0, 1> lblFinder{"lblFinder"};  // 0 the caption, 1 the face around it
     Shape shpFinder;
 
+    /// Shows or hides the button.
     void offer(bool shown);
     /// The button in that area of the screen, in twips.
     void arrange(const Area& area);

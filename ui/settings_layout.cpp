@@ -6,8 +6,9 @@ namespace quillor {
 
 namespace {
 
-constexpr Color kInk = rgb(40, 40, 40);
-constexpr Color kPale = rgb(250, 250, 250);
+using style::kInk;
+using style::kPale;
+
 constexpr Twips kBlank = 90;     // that the options' captions begin with
 constexpr Twips kTileLine = 60;  // below a tile of the title
 constexpr int kTiles = frmOptions::kLastTile + 1;

@@ -9,7 +9,8 @@
 
 namespace quillor {
 
-/// Values of `SoundToPlay`: the carried sound 100 + value.
+/// Values of `SoundToPlay`: the carried sound 100 + value. Of the seven that are carried,
+/// 101 and 107 are never asked for.
 namespace sound {
 inline constexpr int kNone = 0;
 inline constexpr int kNewGame = 2;
@@ -27,7 +28,7 @@ class Sounds {
     Shape shpWave;
     Timer tmrSound;
 
-    /// Takes the seven carried sounds into memory.
+    /// Asks the machine for the carried sounds, 101..107.
     void load();
     /// Names the sound to play next; it plays 20 ms later if sounds are on.
     /// A request made before that replaces it.

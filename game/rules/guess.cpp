@@ -24,7 +24,7 @@ bool isInPhrase(const Round& round, char16_t key) {
 }
 
 // `as` says who found the letters: the player or the hint.
-Happened uncover(GameSettings& settings, Round& round, char16_t key, CellState as) {
+Happened uncoverKey(GameSettings& settings, Round& round, char16_t key, CellState as) {
     Happened happened = Happened::Repeated;
     for (std::size_t i = 0; i < round.cells.size(); ++i) {
         Cell& cell = round.cells[i];
@@ -36,6 +36,15 @@ Happened uncover(GameSettings& settings, Round& round, char16_t key, CellState a
     const int found = round.found();
     settings.giLettersFound = static_cast<std::int16_t>(found);
     return found == round.letters() ? Happened::Won : happened;
+}
+
+// Records a mistake; the kMostMistakes-th is a death, one that was made before is Repeated.
+Happened ePutStrikes(GameSettings& settings, Round& round, char16_t key) {
+    if (round.mistakes.find(key) != Text::npos)
+        return Happened::Repeated;
+    round.mistakes.push_back(key);
+    settings.giStrikes = static_cast<std::int16_t>(round.mistakes.size());
+    return settings.giStrikes == kMostMistakes ? Happened::Died : Happened::Mistake;
 }
 
 // Only the five acute vowels: an answer typed with a grave accent or a Ü never
@@ -57,16 +66,8 @@ Happened eEnterKey(GameSettings& settings, Round& round, char16_t key) {
         return Happened::Nothing;
     key = upperCase(key);
     takeOffKeyboard(round, key);
-    return isInPhrase(round, key) ? uncover(settings, round, key, CellState::Found)
+    return isInPhrase(round, key) ? uncoverKey(settings, round, key, CellState::Found)
                                   : ePutStrikes(settings, round, key);
-}
-
-Happened ePutStrikes(GameSettings& settings, Round& round, char16_t key) {
-    if (round.mistakes.find(key) != Text::npos)
-        return Happened::Repeated;
-    round.mistakes.push_back(key);
-    settings.giStrikes = static_cast<std::int16_t>(round.mistakes.size());
-    return settings.giStrikes == kMostMistakes ? Happened::Died : Happened::Mistake;
 }
 
 Hint eHelpLetter(GameSettings& settings, Round& round) {
@@ -79,7 +80,7 @@ Hint eHelpLetter(GameSettings& settings, Round& round) {
     if (once == letters.end())
         return Hint::NoSingleLetter;
     takeOffKeyboard(round, *once);
-    if (uncover(settings, round, *once, CellState::Given) == Happened::Won)
+    if (uncoverKey(settings, round, *once, CellState::Given) == Happened::Won)
         return Hint::Won;  // a hint that ends the game is not counted against it
     settings.gbHintUsed = true;
     return Hint::Given;

@@ -10,16 +10,19 @@ namespace quillor {
 /// happens while no game is being played.
 Happened eEnterKey(GameSettings& settings, Round& round, char16_t key);
 
-/// Records a mistake; the kMostMistakes-th is a death, one that was made before is Repeated.
-Happened ePutStrikes(GameSettings& settings, Round& round, char16_t key);
+enum class Hint {
+    PhraseTooShort,  // nothing has changed: fewer than three characters
+    NoSingleLetter,  // nothing has changed: each character occurs more than once
+    Given,           // one cell shows its character; the hint has its price
+    Won,             // it was the last one to find, and costs nothing
+};
 
-enum class Hint { PhraseTooShort, NoSingleLetter, Given, Won };
-
-/// Uncovers the first character that occurs once in the phrase.
+/// Uncovers the first character that occurs once in the phrase, at the start of a game.
 Hint eHelpLetter(GameSettings& settings, Round& round);
 
 /// Judges a typed answer: right wins, anything else kills. Blank input is no
-/// attempt, and nothing happens while no game is being played.
+/// attempt, and nothing happens while no game is being played. `gbAnswerWritten`, which
+/// pays half as much again, says of a right one whether less than half was found.
 Happened judgeAnswer(GameSettings& settings, const Round& round, TextView typed);
 
 /// Closes the game that was just Won, or in which the player just Died: sets its

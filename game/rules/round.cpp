@@ -37,7 +37,7 @@ void layOut(const GameSettings& settings, Round& round) {
     markWords(settings, round.cells);
 }
 
-void uncover(Round& round, bool dead) {
+void uncoverRest(Round& round, bool dead) {
     round.hiddenLetters = false;
     for (Cell& cell : round.cells)
         if (cell.state == CellState::Hidden)
@@ -45,6 +45,10 @@ void uncover(Round& round, bool dead) {
 }
 
 }  // namespace
+
+bool isGuessKey(char16_t sign) {
+    return kGuessKeys.find(upperCase(sign)) != TextView::npos;
+}
 
 int Round::letters() const {
     return static_cast<int>(std::count_if(cells.begin(), cells.end(),
@@ -60,7 +64,7 @@ void ePutMagicWord(const GameSettings& settings, Round& round) {
     if (settings.giGameState == kPlaying)
         layOut(settings, round);
     else
-        uncover(round, settings.giGameState == kDead);
+        uncoverRest(round, settings.giGameState == kDead);
 }
 
 void startRound(GameSettings& settings, Round& round) {
@@ -74,6 +78,40 @@ void clearRound(GameSettings& settings, Round& round) {
     settings.gbAnswerWritten = false;
     settings.gbHintUsed = false;
     round = {};
+}
+
+bool isOver(const GameSettings& settings) {
+    return settings.giGameState == kDead || settings.giGameState == kWon;
+}
+
+Text spelled(const Round& round) {
+    Text text;
+    for (const Cell& cell : round.cells) {
+        if (!cell.isLetter())
+            continue;
+        if (cell.startsWord && !text.empty())
+            text += u", ";
+        if (!cell.isFound())
+            text += u"_ ";
+        else
+            text +=
+                Text(1, round.hiddenLetters && cell.state == CellState::Found ? u'?'
+                                                                              : cell.character) +
+                u" ";
+    }
+    return text;
+}
+
+Text answerOf(const Round& round) {
+    Text text;
+    for (const Cell& cell : round.cells) {
+        if (!cell.isLetter())
+            continue;
+        if (cell.startsWord && !text.empty())
+            text += u' ';
+        text += cell.character;
+    }
+    return text;
 }
 
 }  // namespace quillor

@@ -40,9 +40,11 @@ struct Cell {
 
 /// The keys that can be guessed, in the order of the on-screen keyboard.
 inline constexpr TextView kGuessKeys = u"ABCDEFGHIJKLMNÑOPQRSTUVWXYZ1234567890";
+/// Whether a sign is one of them; small letters count as capitals.
+bool isGuessKey(char16_t sign);
 
-/// The mistake that ends a game. Where a number of their own belongs to each, as the
-/// pieces of the figure and the tips of the boxes, the compiler asks for one more.
+/// The mistake that ends a game. Where something belongs to each, as a piece of the figure
+/// and the tip of a box, the compiler asks for one more.
 inline constexpr int kMostMistakes = 6;
 /// From this many mistakes on, a player may not run from a game to another one
 /// or to the main menu.
@@ -67,9 +69,17 @@ struct Round {
 /// hidden are Missed.
 void ePutMagicWord(const GameSettings& settings, Round& round);
 
-/// Starts the phrase that is in the record; the clock only where one is wished.
+/// Starts the phrase that is in the record, without the clock (`ePutSomeTime`).
 void startRound(GameSettings& settings, Round& round);
 /// Back to idle: no phrase, no mistakes, no time.
 void clearRound(GameSettings& settings, Round& round);
+
+/// A game has ended, and its phrase is still there to be seen.
+bool isOver(const GameSettings& settings);
+
+/// The phrase spelled as the board shows it, with its gaps.
+Text spelled(const Round& round);
+/// The answer as the board has it at last, with its accents, one blank between words.
+Text answerOf(const Round& round);
 
 }  // namespace quillor

@@ -29,6 +29,12 @@ GameResult resultOf(const GameSettings& settings, const Round& round) {
     return game;
 }
 
+// Divided by the whole length, and only then less the blanks: with many blanks the hint
+// raises the reward.
+int hintPrice(const GameResult& game, double reward) {
+    return game.hintUsed ? toInteger(reward / game.length - game.blanks) : 0;
+}
+
 }  // namespace
 
 std::int16_t deathPoints(const GameResult& game) {
@@ -43,11 +49,8 @@ std::int16_t deathPoints(const GameResult& game) {
 std::int16_t victoryPoints(const GameResult& game) {
     // A long phrase is worth less than a short one, on purpose.
     const double raw = (900.0 - 20 * game.found) / ((game.hard ? 2 : 1) * (1 + game.strikes));
-    // The hint's price: divided by the whole length, and only then less the blanks:
-    // with many blanks it raises the reward.
-    const int penalty = game.hintUsed ? toInteger(raw / game.length - game.blanks) : 0;
     const int timeBonus = game.secondsLeft / 2;
-    const std::int16_t points = toInteger(timeBonus + std::floor(raw - penalty));
+    const std::int16_t points = toInteger(timeBonus + std::floor(raw - hintPrice(game, raw)));
     return game.answerWritten ? toInteger(std::floor(points * 1.5)) : points;
 }
 
@@ -73,22 +76,6 @@ bool countScore(GameSettings& settings) {
 
 void settleScore(GameSettings& settings) {
     settings.giScore = keepsScore(settings) ? settings.giScoreShown : kFirstScore;
-}
-
-int secondsAllowed(int letters, bool hiddenLetters) {
-    const int counted = std::max(letters, 1);
-    const int seconds = static_cast<int>(std::floor((360.0 / counted + 2.0 * counted) * 1.4));
-    return hiddenLetters ? seconds * 3 : seconds;
-}
-
-void ePutSomeTime(Round& round, int letters) {
-    round.secondsLeft = secondsAllowed(letters, round.hiddenLetters);
-}
-
-Happened passSecond(const GameSettings& settings, Round& round) {
-    if (settings.giGameState != kPlaying || round.secondsLeft == 0)
-        return Happened::Nothing;
-    return --round.secondsLeft == 0 ? Happened::Died : Happened::Nothing;
 }
 
 }  // namespace quillor

@@ -1,4 +1,4 @@
-// What a game is worth, the score that counts to its new value, and the clock.
+// What a game is worth, and the score that counts to its new value.
 #pragma once
 
 #include <cstdint>
@@ -10,10 +10,10 @@ namespace quillor {
 /// What a game's worth depends on.
 struct GameResult {
     int letters = 0;      // to find, blanks not counted
-    int found = 0;        // of them
+    int found = 0;        // of them, or of an earlier game's (`giLettersFound`)
     int blanks = 0;       // of the laid-out phrase
     int length = 0;       // of the laid-out phrase, blanks included
-    int strikes = 0;      // 0..6
+    int strikes = 0;      // 0..kMostMistakes
     int secondsLeft = 0;  // 0 without the clock
     bool hard = false;
     bool hintUsed = false;
@@ -25,8 +25,11 @@ std::int16_t victoryPoints(const GameResult& game);
 /// Points lost by a death, 0 or less. Throws as above.
 std::int16_t deathPoints(const GameResult& game);
 
-/// Settles the score of the game that just ended: `giScoreStep` is what it was
-/// worth, `giScoreShown` (0..32767) where the score is to count. Throws as above.
+/// Settles the score of the game that just ended: by what was found as `giLettersFound` has
+/// it, which only a good guess or a hint writes. A game that ends without any is settled by
+/// what was found in the one before, and the first game of a run by nothing. `giScoreStep`
+/// is what the game was worth, `giScoreShown` (0..32767) where the score is to count.
+/// Throws as above.
 void eScoreUpDown(GameSettings& settings, const Round& round);
 
 /// Classic games and those with infinite score leave the score alone.
@@ -35,14 +38,5 @@ bool keepsScore(const GameSettings& settings);
 bool countScore(GameSettings& settings);
 /// The score as it is after the count, at once.
 void settleScore(GameSettings& settings);
-
-/// Seconds allowed for a phrase of that length, blanks included; an empty one
-/// counts as 1. Very short phrases get much time, long ones get time for their length.
-int secondsAllowed(int letters, bool hiddenLetters);
-/// Starts the count-down for a phrase of that length.
-void ePutSomeTime(Round& round, int letters);
-/// A second of the time of day is over. Dies with the last one allowed; nothing
-/// happens without the clock or while no game is being played.
-Happened passSecond(const GameSettings& settings, Round& round);
 
 }  // namespace quillor

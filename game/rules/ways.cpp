@@ -31,12 +31,12 @@ bool isAcceptable(const Text& phrase, const Text& last) {
     return !trimmed(phrase).empty() && phrase != last;
 }
 
-// At least two phrases, and one of them can be dealt: otherwise dealing would
-// never end.
+// One of them can be dealt, too: otherwise dealing would never end.
 bool hasEnoughPhrases(const Topic& topic, const Text& last) {
-    if (topic[1].empty() || topic[2].empty())
+    const int phrases = countPhrases(topic);
+    if (phrases < kFewestPhrases)
         return false;
-    return std::any_of(topic.begin() + 1, topic.begin() + 1 + countPhrases(topic),
+    return std::any_of(topic.begin() + 1, topic.begin() + 1 + phrases,
                        [&last](const Text& phrase) { return isAcceptable(phrase, last); });
 }
 

@@ -11,25 +11,26 @@ namespace quillor {
 
 namespace {
 
+// By numbers those that no screen asks for.
 constexpr std::pair<int, int> kNamedKeys[] = {
     {Qt::Key_Backspace, key::kBackspace},
-    {Qt::Key_Tab, 9},
-    {Qt::Key_Backtab, 9},
+    {Qt::Key_Tab, key::kTab},
+    {Qt::Key_Backtab, key::kTab},
     {Qt::Key_Return, key::kReturn},
     {Qt::Key_Enter, key::kReturn},
     {Qt::Key_Shift, 16},
     {Qt::Key_Control, 17},
     {Qt::Key_Alt, 18},
     {Qt::Key_Escape, key::kEscape},
-    {Qt::Key_Space, 32},
+    {Qt::Key_Space, key::kSpace},
     {Qt::Key_PageUp, 33},
     {Qt::Key_PageDown, 34},
-    {Qt::Key_End, 35},
-    {Qt::Key_Home, 36},
+    {Qt::Key_End, key::kEnd},
+    {Qt::Key_Home, key::kHome},
     {Qt::Key_Left, key::kLeft},
-    {Qt::Key_Up, 38},
+    {Qt::Key_Up, key::kUp},
     {Qt::Key_Right, key::kRight},
-    {Qt::Key_Down, 40},
+    {Qt::Key_Down, key::kDown},
     {Qt::Key_Insert, 45},
     {Qt::Key_Delete, key::kDelete},
     {Qt::Key_Menu, key::kContextMenu},
@@ -51,7 +52,7 @@ int virtualKeyCode(const QKeyEvent& event) {
     if (key >= Qt::Key_A && key <= Qt::Key_Z)
         return 'A' + key - Qt::Key_A;
     if (key >= Qt::Key_F1 && key <= Qt::Key_F24)
-        return key::kF2 - 1 + key - Qt::Key_F1;
+        return key::kF1 + key - Qt::Key_F1;
     for (const auto& [qtKey, code] : kNamedKeys)
         if (key == qtKey)
             return code;

@@ -20,7 +20,9 @@ int keyId(const QKeyEvent& event);
 /// as of a release and a press at the same moment, which may come one by one.
 class RepeatFinder {
   public:
+    /// Remembers which key was let go, and when.
     void release(const QKeyEvent& event);
+    /// Whether this press is one of a key that is held.
     bool isRepeat(const QKeyEvent& press) const;
 
   private:

@@ -139,7 +139,7 @@ TEST_F(EndOfGameTest, PaintsTheScreenGreenAfterAVictory) {
 
 TEST_F(EndOfGameTest, PaintsTheScreenRedAfterADeath) {
     play(u"BEE");
-    player.type(u"xyzvwt");
+    loseGame();
     EXPECT_EQ(game().accent.color(), settings.glRed);
     desktop.advance(10'000);
     EXPECT_EQ(game().accent.color(), settings.glRed);

@@ -120,7 +120,8 @@ TEST_F(LifeCycleTest, HoldsAPlayerWithFourMistakes) {
 
 TEST_F(LifeCycleTest, MovesOnAfterADeathWithoutAsking) {
     play(u"WORLD");
-    player.type(u"wxyzabc");
+    player.type(u"w");
+    loseGame();
     waitForScore();
     player.press(key::kReturn);
     EXPECT_EQ(player.screen().name, "frmWord2");

@@ -85,7 +85,7 @@ TEST_F(OddPhrasesTest, WhoseLettersLieBeyondTheBoardEndLikeOthers) {
     expectBox(texts::kPhraseCut);
     play(Text(60, u' ') + u"A");
     EXPECT_EQ(game().board.lblCont.caption, u"0/0");
-    player.type(u"bcdefg");
+    loseGame();
     EXPECT_EQ(settings.giGameState, kDead);
     EXPECT_TRUE(Player::sees(game().webSearch.lblFinder(0)));
     EXPECT_FALSE(game().menu.mWrite.enabled);

@@ -1,4 +1,6 @@
-// Whole games, with what the score line and the points show afterwards.
+// What a game is worth, as a formula, and in whole games with what the score line and the
+// points show afterwards.
+#include "game/rules/scoring.h"
 
 #include "tests/support/game_test.h"
 
@@ -9,22 +11,7 @@ class ScoringTest : public GameTest {
   protected:
     Text score() { return game().score.lblScore.caption; }
     Text points() { return game().score.lblPoints.caption; }
-    static constexpr int kLong = 20'000;  // ms; more than any rise or count takes
     bool counts() { return game().score.tmrScore.enabled; }
-    // Lets the points rise to their end, where the counting starts.
-    void waitForRise() {
-        for (int waited = 0; !counts() && waited < kLong; ++waited)
-            desktop.advance(1);
-    }
-    std::vector<int> scoresWhileCounting() {
-        std::vector<int> seen{settings.giScore};
-        for (int waited = 0; counts() && waited < kLong; ++waited) {
-            desktop.advance(1);
-            if (settings.giScore != seen.back())
-                seen.push_back(settings.giScore);
-        }
-        return seen;
-    }
 };
 
 TEST_F(ScoringTest, PaysForFiveLetters) {
@@ -123,51 +110,6 @@ TEST_F(ScoringTest, OfADeathIsNeverAGain) {
     EXPECT_FALSE(game().score.tmrScore.enabled);
 }
 
-TEST_F(ScoringTest, CountsInTensAndThenInOnes) {
-    play(u"WORLD");
-    player.type(u"world");
-    waitForRise();
-    const std::vector<int> seen = scoresWhileCounting();
-    EXPECT_EQ(std::vector<int>(seen.begin(), seen.begin() + 3),
-              (std::vector<int>{1000, 1010, 1020}));
-    EXPECT_EQ(std::vector<int>(seen.begin() + 74, seen.begin() + 78),
-              (std::vector<int>{1740, 1750, 1751, 1752}));
-    EXPECT_EQ(seen.size(), 1U + 75 + 50);
-    EXPECT_EQ(seen.back(), 1800);
-}
-
-TEST_F(ScoringTest, CountsDownInTensAndThenInOnes) {
-    play(u"A BEE");
-    player.type(u"e");
-    answer(u"x");
-    waitForRise();
-    const std::vector<int> seen = scoresWhileCounting();
-    EXPECT_EQ(std::vector<int>(seen.begin() + 44, seen.begin() + 48),
-              (std::vector<int>{560, 550, 549, 548}));
-    EXPECT_EQ(seen.back(), 500);
-}
-
-TEST_F(ScoringTest, KeepsThePlayButtonWaitingWhileItCounts) {
-    play(u"WORLD");
-    player.type(u"world");
-    waitForRise();
-    player.press(key::kReturn);
-    EXPECT_EQ(player.screen().name, "frmGame");
-    EXPECT_EQ(settings.giGameState, kWon);
-}
-
-TEST_F(ScoringTest, IsSettledWhenThePlayerGoesOnWhilePointsRise) {
-    play(u"WORLD");
-    player.type(u"world");
-    desktop.advance(100);
-    deal();
-    EXPECT_EQ(settings.giScore, 1800);
-    EXPECT_EQ(score(), u"SCORE/ 1800");
-    EXPECT_FALSE(Player::sees(game().score.lblPoints));
-    waitForScore();
-    EXPECT_EQ(settings.giScore, 1800);
-}
-
 TEST_F(ScoringTest, SettledToZeroBlocksTheNextArcadeGame) {
     play(u"WORLD");
     answer(u"x");
@@ -177,26 +119,6 @@ TEST_F(ScoringTest, SettledToZeroBlocksTheNextArcadeGame) {
     EXPECT_EQ(settings.giScore, 0);
     EXPECT_EQ(score(), u"ZERO SCORE/ 0");
     EXPECT_EQ(settings.giGameState, kDead);
-}
-
-TEST_F(ScoringTest, IsSettledWhenThePlayerLeavesWhilePointsRise) {
-    play(u"WORLD");
-    player.type(u"world");
-    player.press(key::kF2);
-    EXPECT_EQ(settings.giScoreKept, 1800);
-    player.click("lblOption(0)");
-    EXPECT_EQ(score(), u"SCORE/ 1800");
-}
-
-TEST_F(ScoringTest, IsSettledWhenThePlayerLeavesWhileItCounts) {
-    play(u"A BEE");
-    player.type(u"e");
-    answer(u"x");
-    waitForRise();
-    desktop.advance(50);
-    EXPECT_GT(settings.giScore, 500);
-    player.press(key::kF2);
-    EXPECT_EQ(settings.giScoreKept, 500);
 }
 
 TEST_F(ScoringTest, StartsAnewWithAReboot) {
@@ -312,6 +234,79 @@ TEST_F(ScoringTest, SpeaksSpanishWhenInfinite) {
     EXPECT_EQ(score(), u"PUNTOS INFINITOS");
     EXPECT_EQ(game().score.lblBonus.caption, u"BONO DEL 50% CONSEGUIDO");
 }
+
+struct Worth {
+    const char* what;
+    GameResult game;
+    int points;
+};
+std::ostream& operator<<(std::ostream& out, const Worth& worth) {
+    return out << worth.what;
+}
+
+class DeathPoints : public ::testing::TestWithParam<Worth> {};
+class VictoryPoints : public ::testing::TestWithParam<Worth> {};
+
+TEST_P(DeathPoints, AreTheShareOfLettersNotFound) {
+    EXPECT_EQ(deathPoints(GetParam().game), GetParam().points);
+}
+TEST_P(VictoryPoints, FollowTheRule) {
+    EXPECT_EQ(victoryPoints(GetParam().game), GetParam().points);
+}
+
+GameResult lost(int found, int letters, bool hard = false) {
+    GameResult game;
+    game.found = found;
+    game.letters = game.length = letters;
+    game.hard = hard;
+    return game;
+}
+
+GameResult won(int found, int strikes = 0, bool hard = false) {
+    GameResult game = lost(found, found, hard);
+    game.strikes = strikes;
+    return game;
+}
+
+GameResult hinted(int found, int length, int blanks) {
+    GameResult game = won(found);
+    game.length = length;
+    game.blanks = blanks;
+    game.hintUsed = true;
+    return game;
+}
+
+GameResult timed(int found, int seconds, bool written = false) {
+    GameResult game = won(found);
+    game.secondsLeft = seconds;
+    game.answerWritten = written;
+    return game;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Games, DeathPoints,
+    ::testing::Values(Worth{"nothing found of 8", lost(0, 8), -1000},
+                      Worth{"nothing found, hard", lost(0, 8, true), -3000},
+                      Worth{"6 of 8", lost(6, 8), -250},
+                      Worth{"6 of 8, hard", lost(6, 8, true), -750},
+                      Worth{"1 of 3 goes to the lower number", lost(1, 3), -667},
+                      Worth{"2 of 3", lost(2, 3), -334}, Worth{"41 of 42", lost(41, 42), -24},
+                      Worth{"4 of 10", lost(4, 10), -600}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Games, VictoryPoints,
+    ::testing::Values(
+        Worth{"5 letters", won(5), 800}, Worth{"5 letters, 3 mistakes", won(5, 3), 200},
+        Worth{"5 letters, 3 mistakes, hard", won(5, 3, true), 100},
+        Worth{"a long phrase is worth less", won(42), 60}, Worth{"1 letter", won(1), 880},
+        Worth{"5 mistakes", won(5, 5), 133}, Worth{"SOL with the hint", hinted(3, 3, 0), 560},
+        Worth{"a hint with many blanks raises it", hinted(4, 42, 38), 838},
+        Worth{"penalty with half to the even neighbour, down", hinted(5, 320, 0), 798},
+        Worth{"penalty with half to the even neighbour, up", hinted(3, 560, 0), 838},
+        Worth{"half a point a second", timed(5, 78), 839},
+        Worth{"an odd second is not paid", timed(5, 79), 839},
+        Worth{"a typed answer pays half as much again", timed(2, 0, true), 1290},
+        Worth{"also for the time", timed(2, 3, true), 1291}));
 
 }  // namespace
 }  // namespace quillor::testing

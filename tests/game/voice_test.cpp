@@ -39,7 +39,7 @@ TEST_F(Voice, SaysTheAnswerWithItsAccentsAndWhatItWasWorth) {
 
 TEST_F(Voice, SaysPointsLostAndTheNewScore) {
     play(u"WORLD");
-    player.type(u"abcfgh");
+    loseGame();
     EXPECT_TRUE(heard(u"DEAD! The answer: WORLD. Points of this game: -1000. Score: 0"));
 }
 

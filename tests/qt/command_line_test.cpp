@@ -8,6 +8,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "config/version.h"
 #include "qt/qt_desktop.h"
 #include "qt/system/program_folder.h"
 #include "tests/support/temp_folder.h"
@@ -35,7 +36,7 @@ TEST(CommandLine, TakesFoldersBehindABlankOrAnEqualsSign) {
 TEST(CommandLine, AnswersForVersionAndHelp) {
     EXPECT_EQ(parseCommandLine({"--version"}, true).action, Action::Version);
     EXPECT_EQ(parseCommandLine({"--folder", "x", "--help"}, true).action, Action::Help);
-    EXPECT_EQ(versionLine(), "Quillor 6.0.35");
+    EXPECT_EQ(versionLine(), "Quillor " QUILLOR_VERSION);
     EXPECT_TRUE(helpText(true).contains("--folder DIR"));
 }
 
@@ -86,7 +87,7 @@ TEST(CommandLine, TakesOneOfTwoLanguages) {
 
 TEST(CommandLine, SpeaksSpanishToo) {
     EXPECT_TRUE(helpText(false).contains("--folder CARPETA"));
-    EXPECT_TRUE(helpText(false).startsWith("Quillor 6.0.35\nEl ahorcado"));
+    EXPECT_TRUE(helpText(false).startsWith("Quillor " QUILLOR_VERSION "\nEl ahorcado"));
     EXPECT_EQ(parseCommandLine({"--tour"}, false).error,
               QStringLiteral("falta la carpeta de la opción: --tour (prueba --help)"));
 }

@@ -108,6 +108,13 @@ class GameTest : public ::testing::Test {
         player.type(u"!");
     }
 
+    /// Types letters that the phrase does not have until it is one too many.
+    void loseGame() {
+        for (const char16_t key : kGuessKeys)
+            if (settings.giGameState == kPlaying && game().round.folded.find(key) == Text::npos)
+                player.type(Text(1, key));
+    }
+
     /// A box of information, also one that comes before the language is known.
     void expectBox(const TextPair& text) { desktop.expectMessage(lang(text)); }
     Text lang(const TextPair& text) const { return Text(english ? text.english : text.spanish); }

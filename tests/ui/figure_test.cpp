@@ -77,9 +77,9 @@ TEST_F(FigureTest, GainsAPieceWithEachMistake) {
     expectAtRest();
 }
 
-TEST_F(FigureTest, IsHangedByTheSixth) {
+TEST_F(FigureTest, IsHangedByTheLastMistake) {
     play(u"WORLD");
-    player.type(u"xyzabc");
+    loseGame();
     EXPECT_EQ(groups(), 6);
     EXPECT_EQ(settings.giGameState, kDead);
     EXPECT_EQ(figure().shpPrt0.caption, u"- -");
@@ -87,7 +87,7 @@ TEST_F(FigureTest, IsHangedByTheSixth) {
 
 TEST_F(FigureTest, DropsATenthOfASecondLater) {
     play(u"WORLD");
-    player.type(u"xyzabc");
+    loseGame();
     desktop.advance(99);
     EXPECT_EQ(figure().shpPrt7.top, 3360);
     desktop.advance(1);
@@ -96,7 +96,7 @@ TEST_F(FigureTest, DropsATenthOfASecondLater) {
 
 TEST_F(FigureTest, DropsOnlyOnce) {
     play(u"WORLD");
-    player.type(u"xyzabc");
+    loseGame();
     desktop.advance(10'000);
     expectDropped();
 }
@@ -112,7 +112,8 @@ TEST_F(FigureTest, IsDrawnWholeAfterAWrongAnswer) {
 
 TEST_F(FigureTest, RestsAgainInTheNextGame) {
     play(u"WORLD");
-    player.type(u"worxyzabc");
+    player.type(u"wor");
+    loseGame();
     waitForScore();
     deal();
     expectAtRest();

@@ -1,6 +1,7 @@
 // The game's menu: its entries and the commands that leave or restart; the offer to look
 // the answer up.
 #include "app/menu_screen.h"
+#include "config/version.h"
 #include "tests/support/game_test.h"
 
 namespace quillor::testing {
@@ -97,7 +98,7 @@ TEST_F(GameMenuTest, RefusesToGoBackWithFourMistakes) {
 
 TEST_F(GameMenuTest, GoesBackAtOnceAfterTheEnd) {
     play(u"WORLD");
-    player.type(u"xyzabc");
+    loseGame();
     player.chooseMenu("mBack");
     EXPECT_EQ(player.screen().name, "frmMenu");
     EXPECT_EQ(settings.giGameState, kIdle);
@@ -140,14 +141,14 @@ TEST_F(GameMenuTest, SpeaksSpanishWhenItRefuses) {
 
 TEST_F(GameMenuTest, TellsAboutTheProgram) {
     openArcade();
-    desktop.expectAbout(u"Quillor", u"Quillor developers\r\nQuillor: Version 6.0.35");
+    desktop.expectAbout(u"Quillor", u"Quillor developers\r\nQuillor: Version " QUILLOR_VERSION);
     player.chooseMenu("mAbout");
 }
 
 TEST_F(GameMenuTest, TellsAboutTheProgramInSpanish) {
     english = false;
     openArcade();
-    desktop.expectAbout(u"Quillor", u"Quillor developers\r\nQuillor: Versión 6.0.35");
+    desktop.expectAbout(u"Quillor", u"Quillor developers\r\nQuillor: Versión " QUILLOR_VERSION);
     player.chooseMenu("mAbout");
 }
 

@@ -50,7 +50,7 @@ TEST_F(SoundsTest, PassOverRepeatedLetters) {
 TEST_F(SoundsTest, TellDeathAndVictory) {
     saved.gbInfiniteScore = true;
     play(u"WORLD");
-    player.type(u"xyzabc");
+    loseGame();
     EXPECT_EQ(heard(), (Ids{103}));
     deal();
     heard();

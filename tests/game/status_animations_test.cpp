@@ -1,4 +1,4 @@
-// The dots of the status line, the rising points, the pulse of a low score.
+// The dots of the status line, the rising points, the counting score and its pulse.
 #include "tests/support/game_test.h"
 
 namespace quillor::testing {
@@ -8,7 +8,24 @@ class StatusAnimationsTest : public GameTest {
   protected:
     Text status() { return game().status.lblStatus.caption; }
     Twips height() { return game().score.lblPoints.top; }
+    Text score() { return game().score.lblScore.caption; }
     Color scoreInk() { return game().score.lblScore.textColor; }
+    static constexpr int kLong = 20'000;  // ms; more than any rise or count takes
+    bool counts() { return game().score.tmrScore.enabled; }
+    // Lets the points rise to their end, where the counting starts.
+    void waitForRise() {
+        for (int waited = 0; !counts() && waited < kLong; ++waited)
+            desktop.advance(1);
+    }
+    std::vector<int> scoresWhileCounting() {
+        std::vector<int> seen{settings.giScore};
+        for (int waited = 0; counts() && waited < kLong; ++waited) {
+            desktop.advance(1);
+            if (settings.giScore != seen.back())
+                seen.push_back(settings.giScore);
+        }
+        return seen;
+    }
 };
 
 TEST_F(StatusAnimationsTest, PutDotsAroundTheStatusWhilePlaying) {
@@ -98,6 +115,71 @@ TEST_F(StatusAnimationsTest, HideThePointsAtTheTopAndStartTheCount) {
     EXPECT_FALSE(Player::sees(game().score.lblBonus));
     EXPECT_FALSE(game().score.tmrUp.enabled);
     EXPECT_TRUE(game().score.tmrScore.enabled);
+}
+
+TEST_F(StatusAnimationsTest, CountInTensAndThenInOnes) {
+    play(u"WORLD");
+    player.type(u"world");
+    waitForRise();
+    const std::vector<int> seen = scoresWhileCounting();
+    EXPECT_EQ(std::vector<int>(seen.begin(), seen.begin() + 3),
+              (std::vector<int>{1000, 1010, 1020}));
+    EXPECT_EQ(std::vector<int>(seen.begin() + 74, seen.begin() + 78),
+              (std::vector<int>{1740, 1750, 1751, 1752}));
+    EXPECT_EQ(seen.size(), 1U + 75 + 50);
+    EXPECT_EQ(seen.back(), 1800);
+}
+
+TEST_F(StatusAnimationsTest, CountDownInTensAndThenInOnes) {
+    play(u"A BEE");
+    player.type(u"e");
+    answer(u"x");
+    waitForRise();
+    const std::vector<int> seen = scoresWhileCounting();
+    EXPECT_EQ(std::vector<int>(seen.begin() + 44, seen.begin() + 48),
+              (std::vector<int>{560, 550, 549, 548}));
+    EXPECT_EQ(seen.back(), 500);
+}
+
+TEST_F(StatusAnimationsTest, KeepThePlayButtonWaitingWhileTheScoreCounts) {
+    play(u"WORLD");
+    player.type(u"world");
+    waitForRise();
+    player.press(key::kReturn);
+    EXPECT_EQ(player.screen().name, "frmGame");
+    EXPECT_EQ(settings.giGameState, kWon);
+}
+
+TEST_F(StatusAnimationsTest, AreSettledWhenThePlayerGoesOnWhilePointsRise) {
+    play(u"WORLD");
+    player.type(u"world");
+    desktop.advance(100);
+    deal();
+    EXPECT_EQ(settings.giScore, 1800);
+    EXPECT_EQ(score(), u"SCORE/ 1800");
+    EXPECT_FALSE(Player::sees(game().score.lblPoints));
+    waitForScore();
+    EXPECT_EQ(settings.giScore, 1800);
+}
+
+TEST_F(StatusAnimationsTest, AreSettledWhenThePlayerLeavesWhilePointsRise) {
+    play(u"WORLD");
+    player.type(u"world");
+    player.press(key::kF2);
+    EXPECT_EQ(settings.giScoreKept, 1800);
+    player.click("lblOption(0)");
+    EXPECT_EQ(score(), u"SCORE/ 1800");
+}
+
+TEST_F(StatusAnimationsTest, AreSettledWhenThePlayerLeavesWhileTheScoreCounts) {
+    play(u"A BEE");
+    player.type(u"e");
+    answer(u"x");
+    waitForRise();
+    desktop.advance(50);
+    EXPECT_GT(settings.giScore, 500);
+    player.press(key::kF2);
+    EXPECT_EQ(settings.giScoreKept, 500);
 }
 
 TEST_F(StatusAnimationsTest, PulseALowScoreInAllThreeComponents) {
