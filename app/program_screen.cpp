@@ -85,7 +85,7 @@ void ProgramScreen::makeEntries() {
         item.shortcut = shortcutText(entry.key);
         item.checkable = entry.isOn != nullptr;
         if (entry.run)
-            item.onClick = [this, run = entry.run] { run(*this); };
+            item.onClick = [this, &entry] { runEntry(entry); };
         mView.children.push_back(&item);
     }
 }
@@ -146,6 +146,12 @@ void ProgramScreen::showEntries() {
     }
 }
 
+// A screen reader chooses entries also while the menu is not open, as they were shown last.
+void ProgramScreen::runEntry(const ViewEntry& entry) {
+    if (!entry.isOffered || entry.isOffered(*this))
+        entry.run(*this);
+}
+
 void ProgramScreen::popUpView() {
     showEntries();
     program_.desktop.popUp(*this, mView, &lblView);
@@ -187,11 +193,8 @@ void ProgramScreen::onKeyUnused(KeyEvent& event) {
     if (Shortcut{key::kF10}.isPressed(event) && isUsable(lblView))
         return popUpView();
     for (const ViewEntry& entry : program_.viewEntries)
-        if (entry.key.isPressed(event) || entry.otherKey.isPressed(event)) {
-            if (!entry.isOffered || entry.isOffered(*this))
-                entry.run(*this);
-            return;
-        }
+        if (entry.key.isPressed(event) || entry.otherKey.isPressed(event))
+            return runEntry(entry);
     event.handled = false;
 }
 

@@ -55,6 +55,7 @@ class ProgramScreen : public Screen {
   private:
     void makeEntries();
     void showEntries();
+    void runEntry(const ViewEntry& entry);
     void popUpView();
     void leave();
 

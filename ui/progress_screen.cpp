@@ -13,6 +13,7 @@ namespace quillor {
 namespace {
 
 constexpr Twips kChartMargin = 180;
+constexpr Twips kDot = 30;        // that a single score is drawn as
 constexpr int kSpeakDelay = 300;  // ms
 
 // The picture behind a screen, to be handed on.
@@ -23,9 +24,11 @@ ImageRef paperOf(const Screen& screen) {
     return nullptr;
 }
 
-// Not over a dialog, whose window has to be answered first.
+// Not over a dialog, whose window has to be answered first, nor over a game that is being
+// played: it would go on behind the page, with its clock.
 bool isOffered(const ProgramScreen& screen) {
-    return screen.over == nullptr && screen.name != "frmStart" && screen.name != "frmProgress";
+    return screen.over == nullptr && screen.name != "frmStart" && screen.name != "frmProgress" &&
+           screen.program().settings.giGameState != kPlaying;
 }
 
 }  // namespace
@@ -92,17 +95,14 @@ void frmProgress::showCounts(const Progress& progress) {
 void frmProgress::showScores(const std::vector<int>& scores) {
     scores_ = scores;
     drawScores();
-    lblScores.caption = program_.lang(texts::kProgressNoScores);
-    if (!scores.empty())
-        lblScores.caption = program_.lang(texts::kProgressScores) +
-                            inDigits(static_cast<int>(scores.size())) +
-                            program_.lang(texts::kProgressFrom) + inDigits(scores.front()) +
-                            program_.lang(texts::kProgressTo) + inDigits(scores.back());
+    tellScores();
 }
 
-// From the oldest at the left to the last at the right, as high as the highest.
+// From the oldest at the left to the last at the right, as high as the highest. A single
+// one is a dot.
 void frmProgress::drawScores() {
-    const int steps = static_cast<int>(scores_.size()) - 1;
+    const int count = static_cast<int>(scores_.size());
+    const int steps = std::max(count, 2) - 1;
     const int most =
         scores_.empty() ? 0 : std::max(1, *std::max_element(scores_.begin(), scores_.end()));
     const auto across = [&](int i) {
@@ -117,10 +117,26 @@ void frmProgress::drawScores() {
                room * static_cast<Twips>(score) / static_cast<Twips>(most);
     };
     for (int i = 1; i <= kLastScore; ++i) {
-        lnScore(i).visible = i <= steps;
-        if (i <= steps)
+        lnScore(i).visible = i < count;
+        if (i < count)
             lnScore(i).span(across(i - 1), down(i - 1), across(i), down(i));
     }
+    if (count == 1) {
+        lnScore(1).visible = true;
+        lnScore(1).span(across(0), down(0), across(0) + kDot, down(0));
+    }
+}
+
+void frmProgress::tellScores() {
+    if (scores_.empty())
+        lblScores.caption = program_.lang(texts::kProgressNoScores);
+    else if (scores_.size() == 1)
+        lblScores.caption = program_.lang(texts::kProgressOneScore) + inDigits(scores_.front());
+    else
+        lblScores.caption = program_.lang(texts::kProgressScores) +
+                            inDigits(static_cast<int>(scores_.size())) +
+                            program_.lang(texts::kProgressFrom) + inDigits(scores_.front()) +
+                            program_.lang(texts::kProgressTo) + inDigits(scores_.back());
 }
 
 void frmProgress::showTopics(const Progress& progress) {

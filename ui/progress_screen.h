@@ -57,7 +57,7 @@ class frmProgress : public ProgramScreen {
 };
 
 /// Makes the page known to the program, and puts it into the menu "View" of the large
-/// screens. To be called before the first screen is made.
+/// screens, for when no game is being played. To be called before the first screen is made.
 void addProgressScreen(Program& program);
 
 }  // namespace quillor

@@ -13,6 +13,10 @@ class ProgressTest : public GameTest {
         desktop.chooseFromPopUp("mProgress");
         player.click("lblView");
     }
+    static MenuItem& entry(const ProgramScreen& screen) {
+        const auto& entries = screen.mView.children;
+        return **std::ranges::find(entries, "mProgress", &MenuItem::id);
+    }
     Progress kept() { return readProgress(run.folder.path()).value(); }
     std::string settingsBytes() { return run.folder.read("Quillor-Config.ini"); }
     int linesSeen() {
@@ -130,16 +134,26 @@ TEST_F(ProgressTest, DrawsALineThroughTheScores) {
                     line->y1 >= page().shpChart.top && line->y2 <= page().shpChart.bottom());
 }
 
-TEST_F(ProgressTest, DrawsFiftyScoresAndNoneOfOne) {
+TEST_F(ProgressTest, DrawsFiftyScores) {
     start();
-    addToProgress(run.folder.path(), {true, 0, 0, 0, {}, {}});
-    openPage();
-    EXPECT_EQ(linesSeen(), 0);
-    player.press(key::kEscape);
     for (int i = 0; i < 60; ++i)
         addToProgress(run.folder.path(), {true, 0, 0, 0, {}, {}});
     openPage();
     EXPECT_EQ(linesSeen(), 49);
+}
+
+TEST_F(ProgressTest, TellsOfASingleScoreByItselfAndDrawsADot) {
+    start();
+    openPage();
+    EXPECT_EQ(linesSeen(), 0);
+    player.press(key::kEscape);
+    addToProgress(run.folder.path(), {true, 0, 0, 1840, {}, {}});
+    openPage();
+    EXPECT_EQ(page().lblScores.caption, u"Score, one arcade game: 1840");
+    EXPECT_EQ(linesSeen(), 1);
+    const Line& dot = page().lnScore(1);
+    EXPECT_LT(dot.x2 - dot.x1, dot.thickness);
+    EXPECT_EQ(dot.y1, dot.y2);
 }
 
 TEST_F(ProgressTest, IsEmptiedAfterAQuestion) {
@@ -158,14 +172,28 @@ TEST_F(ProgressTest, IsEmptiedAfterAQuestion) {
 
 TEST_F(ProgressTest, LeadsBackToWhereItWasCalledFrom) {
     play(u"WORLD");
-    player.type(u"WO");
+    win(u"WORLD");
     openPage();
     player.press(key::kEscape);
     EXPECT_FALSE(isOpen());
     EXPECT_EQ(player.screen().name, "frmGame");
-    EXPECT_EQ(settings.giGameState, kPlaying);
-    player.type(u"RLD");
     EXPECT_EQ(settings.giGameState, kWon);
+}
+
+TEST_F(ProgressTest, IsNotOfferedWhileAGameIsBeingPlayed) {
+    play(u"WORLD");
+    player.click("lblView");
+    EXPECT_FALSE(entry(game()).enabled);
+    player.type(u"WORLD");
+    player.click("lblView");
+    EXPECT_TRUE(entry(game()).enabled);
+}
+
+TEST_F(ProgressTest, IsNotOpenedDuringAGameByAnEntryThatWasShownBeforeIt) {
+    play(u"WORLD");
+    ASSERT_TRUE(entry(game()).enabled);
+    desktop.deliver([this] { game().choose(entry(game())); });
+    EXPECT_FALSE(isOpen());
 }
 
 TEST_F(ProgressTest, IsLeftByBackspaceAndItsButton) {
@@ -206,10 +234,7 @@ TEST_F(ProgressTest, IsOfferedOnLargeScreensOnly) {
     openArcade();
     player.press(key::kReturn);
     player.click("lblView");
-    const auto& entries = run.as<frmWord2>(ScreenId::Word2).mView.children;
-    const auto entry = std::ranges::find(entries, "mProgress", &MenuItem::id);
-    ASSERT_NE(entry, entries.end());
-    EXPECT_FALSE((*entry)->enabled);
+    EXPECT_FALSE(entry(run.as<frmWord2>(ScreenId::Word2)).enabled);
 }
 
 TEST_F(ProgressTest, StandsOnThePaperOfTheScreenBelow) {

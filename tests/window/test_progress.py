@@ -1,6 +1,7 @@
 """The page of what the player has done, reached from the menu of every large screen."""
 
 from harness.player import Player
+from harness.tree import State
 from harness.waiting import until
 
 
@@ -41,6 +42,18 @@ class Progress(Player):
         self.key("Escape")
         self.expect_title(f"{self.words.arcade_title} [1]")
         self.expect("lblStatus", self.words.won)
+
+    def is_offered(self):
+        """Whether the entry can be chosen, as the menu had it when it was opened."""
+        self.click("lblView")
+        self.key("Escape")
+        entries = {node.name: node for node in self.program.shown("lblView").below()}
+        return entries["Progreso"].has(State.ENABLED)
+
+    def test_page_waits_for_the_end_of_the_game(self):
+        self.assertFalse(self.is_offered())
+        self.win(1840)
+        self.assertTrue(self.is_offered())
 
     def test_page_is_emptied_after_a_question(self):
         self.win(1840)
