@@ -1,8 +1,10 @@
 #include <array>
+#include <string_view>
 #include <system_error>
 
 #include "core/files.h"
 #include "core/settings_file.h"
+#include "game/rules/round.h"
 #include "qt/tour/tour.h"
 #include "qt/windows/qt_values.h"
 
@@ -17,7 +19,7 @@ struct Words {
     const char* phrase;    // of the classic game: several Rs, and digits
     const char* restOfIt;  // its other letters
     const char* topic;     // of the classic game
-    const char* answer;    // of the arcade games; has an L, but none of XYZWVK
+    const char* answer;    // of the arcade games; has an L, but no kWrongLetters
     const char* letters;   // two of the answer's
     const char* ownTopic;
     std::array<const char*, 3> ownPhrases;
@@ -36,7 +38,10 @@ constexpr Words kEnglishWords{"route 66 tour",
                               "lm",
                               "fruits",
                               {"pear", "green grape", "peach"}};
+constexpr std::string_view kWrongLetters = "xyzwvk";
+static_assert(kWrongLetters.size() >= kMostMistakes, "a game is to be lost");
 constexpr Twips kHalfOfStart = 3860;  // where the start screen's line ends then
+constexpr int kProgressEntry = 4;     // of the menu "View", from 1 on
 constexpr int kDesignWithClock = 3;   // from this one on the games are against the clock
 
 /// Adds steps to a list, one part of the tour at a time.
@@ -50,6 +55,7 @@ class Script {
         classicGame();
         lostGame();
         wonGame();
+        progress();
         hiddenLetters();
         inventor();
         settings();
@@ -139,14 +145,15 @@ class Script {
         picture("topic-selection");
         key(Qt::Key_Return);
         add(tour_.waitFor("frmGame"));
-        type("lxyz");
+        const QString wrong = QString::fromLatin1(kWrongLetters.data(), kMostMistakes);
+        type("l" + wrong.left(3));
         pictureAtRest("game-three-mistakes");
         key(Qt::Key_Menu);
         add(tour_.waitForBox());
         picture("game-menu");
         key(Qt::Key_Escape);
         add(tour_.waitFor("frmGame"));
-        type("wvk");
+        type(wrong.mid(3));
         expect("lblStatus", texts::kDead);
         add(tour_.waitUntilShown("lblPoints"));
         picture("dead");
@@ -168,6 +175,19 @@ class Script {
         pictureAtRest("victory");
     }
 
+    void progress() {
+        click("lblView");
+        add(tour_.waitForBox());
+        picture("view-menu");
+        for (int entry = 0; entry < kProgressEntry; ++entry)
+            key(Qt::Key_Down);
+        key(Qt::Key_Return);
+        add(tour_.waitFor("frmProgress"));
+        picture("progress");
+        key(Qt::Key_Escape);
+        add(tour_.waitFor("frmGame"));
+    }
+
     void hiddenLetters() {
         key(Qt::Key_O, Qt::ControlModifier);
         startArcadeGame();
@@ -184,6 +204,12 @@ class Script {
     void inventor() {
         key(Qt::Key_I);
         add(tour_.waitFor("frmInventor"));
+        click("lblOpen");
+        add(tour_.waitFor("frmOpen"));
+        picture("open-topic");
+        key(Qt::Key_Escape);
+        add(tour_.waitFor("frmInventor"));
+        click("txtTheme");
         type(words_.ownTopic);
         key(Qt::Key_Return);
         for (const char* phrase : words_.ownPhrases) {
