@@ -50,6 +50,7 @@ class frmProgress : public ProgramScreen {
     void showCounts(const Progress& progress);
     void showScores(const std::vector<int>& scores);
     void drawScores();
+    void tellScores();
     void showTopics(const Progress& progress);
     void lblEmpty_Click();
 

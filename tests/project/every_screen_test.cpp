@@ -53,9 +53,7 @@ class EveryScreen : public ::testing::TestWithParam<Place>, public OpenProgram {
     }
     std::vector<Label*> buttons() {
         std::vector<Label*> found = all<Label>();
-        std::erase_if(found, [](const Label* label) {
-            return !isButton(*label);
-        });
+        std::erase_if(found, [](const Label* label) { return !isButton(*label); });
         return found;
     }
 
