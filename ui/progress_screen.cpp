@@ -228,7 +228,7 @@ void frmProgress::arrange(const Sheet& paper) {
     const Twips column = wide ? (inner - 360) / 2 : inner;
     const Twips row = 420 * larger;
     const Twips first = wide ? 1620 : 2340;
-    const Twips chart = first + static_cast<Twips>(kLastCount + 1) * row + (wide ? 720 : 660);
+    const Twips chart = first + static_cast<Twips>(kLastCount + 1) * row + (wide ? 720 : 840);
     const Twips chartHeight = wide ? 2400 : 2700;
     imgBack.place(0, 0, width, height);
     placeViewOnPaper(paper);

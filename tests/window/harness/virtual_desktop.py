@@ -54,9 +54,12 @@ class VirtualDesktop:
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
         with self._as_its_user():
             self.accessibility = self._accessibility_bus(address)
-        self._start_process(["openbox"])
         self.windows = Windows(self.environment["DISPLAY"])
-        # Without a window manager no window is active and focus is lost after a dialog.
+        self._start_manager()
+
+    def _start_manager(self):
+        """Without one no window is active and focus is lost after a dialog."""
+        self._start_process(["openbox"])
         until(self.windows.are_managed, "the window manager")
 
     def _make_environment(self):
