@@ -27,10 +27,13 @@ Color grey(int light) {
     return rgb(light, light, light);
 }
 
-// The ink, further from the ground until they have that contrast.
+// The ink, further from the ground until they have that contrast. A light one stays light where
+// white is enough: the captions of one menu are not of two inks.
 Color farEnough(Color ink, Color ground, double needed) {
     constexpr double kStep = 1.0 / 32;
-    const Color end = farthestFrom(ground);
+    const bool staysLight =
+        luminance(ink) > luminance(ground) && contrast(kWhite, ground) >= needed;
+    const Color end = staysLight ? kWhite : farthestFrom(ground);
     Color found = ink;
     for (double share = kStep; share <= 1 && contrast(found, ground) < needed; share += kStep)
         found = mixed(ink, end, share);

@@ -51,6 +51,12 @@ TEST(Scheme, TurnsPaperDarkAndKeepsColors) {
     EXPECT_GT(blueOf(theme), redOf(theme) + 80);
 }
 
+TEST(Scheme, KeepsTheCaptionsOfColoredButtonsLight) {
+    const Scheme dark({.dark = true});
+    for (const Color face : {rgb(20, 140, 220), rgb(250, 30, 30), rgb(30, 180, 30)})
+        EXPECT_GT(luminance(dark.ink(style::kPale, face)), luminance(dark.ground(face)));
+}
+
 TEST(Scheme, KeepsWhatStandsOnPaperApartFromIt) {
     const Scheme dark({.dark = true});
     EXPECT_NE(dark.ground(rgb(230, 230, 230)), dark.ground(style::kPaper));
