@@ -162,7 +162,7 @@ void frmGame::tell(Text what) {
 void addGameScreens(Program& program) {
     const auto reads = [](const ProgramScreen& screen) {
         const auto* game = dynamic_cast<const frmGame*>(&screen);
-        return game && game->board.lblBoard.visible;
+        return game != nullptr && game->board.lblBoard.visible;
     };
     const auto read = [](ProgramScreen& screen) { dynamic_cast<frmGame&>(screen).readBoard(); };
     program.viewEntries.insert(program.viewEntries.begin() + 1,

@@ -38,7 +38,7 @@ class Focus {
     /// another key.
     bool moveInGroup(int keyCode);
     /// Whether arrow keys move the focus.
-    bool hasArrows() const { return control_ && control_->group != 0; }
+    bool hasArrows() const { return control_ != nullptr && control_->group != 0; }
 
   private:
     void moveTo(Control* control);

@@ -14,6 +14,7 @@
 #include <QScreen>
 #include <QStyleOption>
 #include <algorithm>
+#include <utility>
 
 #include "core/text_rules.h"
 #include "core/texts.h"
@@ -230,8 +231,8 @@ void showAbout(const BoxStyle& style, const QString& title, const QString& text,
 }
 
 struct Notice::Impl {
-    Impl(const BoxStyle& boxStyle, const QString& text)
-        : style(boxStyle), box(style, BoxSign::Information, text) {}
+    Impl(BoxStyle boxStyle, const QString& text)
+        : style(std::move(boxStyle)), box(style, BoxSign::Information, text) {}
     const BoxStyle style;  // the box goes by it as long as it stands
     Message box;
 };

@@ -222,8 +222,9 @@ class AccessiblePage : public QAccessibleWidget {
     }
     int indexOfChild(const QAccessibleInterface* child) const override {
         const std::vector<ControlView*> views = told();
-        const auto found = std::ranges::find_if(
-            views, [&](ControlView* view) { return child && &view->widget() == child->object(); });
+        const auto found = std::ranges::find_if(views, [&](ControlView* view) {
+            return child != nullptr && &view->widget() == child->object();
+        });
         return found == views.end() ? -1 : static_cast<int>(found - views.begin());
     }
 

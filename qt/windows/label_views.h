@@ -16,7 +16,7 @@ class LabelView : public ControlView {
   public:
     Label& label() const { return label_; }
     /// Whether another screen stands over its own.
-    bool isCovered() const { return link().screen() && !link().screen()->enabled; }
+    bool isCovered() const { return link().screen() != nullptr && !link().screen()->enabled; }
 
   protected:
     LabelView(Label& label, ScreenLink& link) : ControlView(&label, link), label_(label) {}
