@@ -38,7 +38,7 @@ test("the language can be changed, and stays", () =>
     played({ files: englishFiles }, async (player) => {
         await player.screen("frmMenu");
         await player.click("lblView");
-        await player.page.click("[data-entry='mLanguage']");
+        await player.choose("mLanguage");
         await player.answer("question");
         await player.says("lblOption(0)", "MODO ARCADE");
         await player.reload();
@@ -100,7 +100,7 @@ test("what one tab saves the other one has", () =>
         player.page = first;
         await player.page.bringToFront();
         await player.click("lblView");
-        await player.page.click("[data-entry='mTopics']");
+        await player.choose("mTopics");
         await player.until(() => [...document.querySelectorAll(".files button")].some((row) => row.textContent === "AAA MINE.txt"));
     }));
 
@@ -160,7 +160,7 @@ test("all topics go out as one archive that holds their bytes", () =>
     } }, async (player) => {
         await player.screen("frmMenu");
         await player.click("lblView");
-        await player.page.click("[data-entry='mTopics']");
+        await player.choose("mTopics");
         await (await player.page.waitForSelector("[data-act='all']")).click();
         const [name, start, text] = await player.page.evaluate(async () => {
             const text = await window.downloaded.text();

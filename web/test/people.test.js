@@ -64,12 +64,12 @@ test("nothing is found during a game, its menus and its boxes", () =>
         await expectNothing(player, "answer");
         await player.answer("input", 2);
         await player.click("lblView");
-        await player.page.click("[data-entry='mKeys']");
+        await player.choose("mKeys");
         await player.page.waitForSelector("dialog[data-box='information']");
         await expectNothing(player, "keys");
         await player.answer("information");
         await player.click("lblView");
-        await player.page.click("[data-entry='mTopics']");
+        await player.choose("mTopics");
         await player.page.waitForSelector("dialog[data-box='topics']");
         await expectNothing(player, "topic files");
     }));

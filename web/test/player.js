@@ -142,6 +142,11 @@ export class Player {
     async textOf(id) {
         return (await this.element(id)).evaluate((element) => element.value ?? element.textContent);
     }
+    /** Chooses an entry of the menu that opens, if need be once a sound is over. */
+    async choose(entry) {
+        const selector = `dialog.menu-room [data-entry="${entry}"]`;
+        await (await this.page.waitForSelector(selector, { visible: true, timeout: patience })).click();
+    }
     /** Waits for a box, and answers it with its first or a further button. */
     async answer(box, button = 1) {
         const selector = `dialog[data-box="${box}"] [data-answer="${button}"]`;
