@@ -113,8 +113,10 @@ QPalette notebookColors(Color accent, Color ground, const Scheme& scheme) {
     colors.setColor(QPalette::AlternateBase, toQt(scheme.ground(style::kQuietFace)));
     colors.setColor(QPalette::Mid, toQt(scheme.edge(style::kEdge, ground)));
     colors.setColor(QPalette::Midlight, toQt(scheme.edge(style::kFineEdge, ground)));
-    colors.setColor(QPalette::Highlight,
-                    toQt(darkEnoughForWhite(accent, scheme.needed(kSmallTextContrast))));
+    const double needed = scheme.needed(kSmallTextContrast);
+    colors.setColor(QPalette::Highlight, toQt(darkEnoughForWhite(accent, needed)));
+    colors.setColor(QPalette::Light, toQt(darkEnoughForWhite(style::kBoxHover, needed)));
+    colors.setColor(QPalette::Dark, toQt(darkEnoughForWhite(style::kBoxPressed, needed)));
     colors.setColor(QPalette::HighlightedText, Qt::white);
     return colors;
 }
@@ -129,8 +131,8 @@ void NotebookStyle::paintButton(QPainter& painter, const QStyleOptionButton& but
     const bool enabled = button.state.testFlag(State_Enabled);
     const bool pressed = enabled && button.state.testFlag(State_Sunken);
     const bool hovered = enabled && button.state.testFlag(State_MouseOver);
-    const QColor face = pressed   ? toQt(style::kBoxPressed)
-                        : hovered ? toQt(style::kBoxHover)
+    const QColor face = pressed   ? button.palette.dark().color()
+                        : hovered ? button.palette.light().color()
                                   : button.palette.button().color();
     const bool colored = face != button.palette.alternateBase().color();
     const QRectF whole(button.rect);

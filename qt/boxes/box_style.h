@@ -30,8 +30,9 @@ struct BoxStyle {
     bool ringShown = false;  // the focus is shown from the start, not only after the first Tab
 };
 
-/// The colours of a box or menu: `Highlight` is the accent, dark enough for the
-/// white `HighlightedText`.
+/// The colours of a box or menu: `Highlight` is the accent, dark enough for the white
+/// `HighlightedText`; so are `Light` and `Dark`, of a button under the mouse and of one
+/// that is pressed.
 QPalette notebookColors(Color accent, Color ground, const Scheme& scheme = {});
 
 /// The application's style. It paints buttons, fields and menus in the colours of

@@ -18,6 +18,7 @@
 #include "tests/qt/shell_fixture.h"
 #include "tests/support/temp_folder.h"
 #include "toolkit/contrast.h"
+#include "toolkit/style.h"
 
 namespace quillor {
 namespace {
@@ -161,6 +162,31 @@ class PopUp : public ShellTest {
     MenuItem way;
     bool opened = false;
 };
+
+TEST(NotebookColors, CanBeReadAsThePlayerHasAskedTheSystemForIt) {
+    const Preferences usual;
+    Preferences dark;
+    Preferences high;
+    Preferences both;
+    dark.dark = high.highContrast = both.dark = both.highContrast = true;
+    for (const Preferences& asked : {usual, dark, high, both})
+        for (const Color ground : {style::kPaper, rgb(255, 255, 255)}) {
+            const QPalette colors = notebookColors(kAccent, ground, Scheme(asked));
+            const auto colorOf = [&](QPalette::ColorRole role) {
+                const QColor color = colors.color(role);
+                return rgb(color.red(), color.green(), color.blue());
+            };
+            const auto expectRead = [&](QPalette::ColorRole ink, QPalette::ColorRole behind) {
+                EXPECT_GE(contrast(colorOf(ink), colorOf(behind)), asked.highContrast ? 7 : 4.5)
+                    << ink << " on " << behind << ", dark: " << asked.dark;
+            };
+            expectRead(QPalette::WindowText, QPalette::Window);
+            expectRead(QPalette::Text, QPalette::Base);
+            expectRead(QPalette::ButtonText, QPalette::Button);
+            for (const auto face : {QPalette::Highlight, QPalette::Light, QPalette::Dark})
+                expectRead(QPalette::HighlightedText, face);
+        }
+}
 
 TEST_F(PopUp, OpensBelowTheControlThatItIsAskedFor) {
     Label button;
