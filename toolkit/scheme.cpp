@@ -74,13 +74,14 @@ Color Scheme::edge(Color edge, Color face) const {
 }
 
 bool isPhoto(const Ground& ground, const Scheme& scheme) {
-    return ground.picture && ground.picture->image && !scheme.isHighContrast();
+    return ground.picture != nullptr && ground.picture->image != nullptr &&
+           !scheme.isHighContrast();
 }
 
 ColorRange shownRange(const Ground& ground, const Scheme& scheme) {
     if (isPhoto(ground, scheme))
         return ground.picture->image->range();
-    const Color color = scheme.ground(ground.picture ? style::kPaper : ground.color);
+    const Color color = scheme.ground(ground.picture != nullptr ? style::kPaper : ground.color);
     return {color, color};
 }
 

@@ -23,9 +23,9 @@ class Scheme {
     Color ground(Color face) const;
     /// Of a text or a line on a ground, both as the screen has them. What cannot be told from
     /// it well enough is made lighter or darker.
-    Color ink(Color ink, Color ground) const;
+    Color ink(Color ink, Color face) const;
     /// Of an edge around something: seen well in high contrast, and faint otherwise.
-    Color edge(Color edge, Color ground) const;
+    Color edge(Color edge, Color face) const;
 
     /// What a text needs that usually needs so much.
     double needed(double usual) const;

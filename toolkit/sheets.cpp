@@ -18,7 +18,7 @@ Sheet sheetFor(std::span<const Sheet> sheets, double roomWidth, double roomHeigh
         bestScale = scale;
     }
     if (wanted == Layout::Tall && bestScale > 0) {
-        const double least = static_cast<double>(best.height);
+        const auto least = static_cast<double>(best.height);
         best.height =
             static_cast<Twips>(std::clamp(roomHeight / bestScale, least, kHighest * least));
     }

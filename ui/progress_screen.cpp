@@ -228,7 +228,7 @@ void frmProgress::arrange(const Sheet& paper) {
     const Twips column = wide ? (inner - 360) / 2 : inner;
     const Twips row = 420 * larger;
     const Twips first = wide ? 1620 : 2340;
-    const Twips chart = first + static_cast<Twips>(kLastCount + 1) * row + (wide ? 720 : 840);
+    const Twips chart = first + static_cast<Twips>(kLastCount + 1) * row + (wide ? 720.F : 840.F);
     const Twips chartHeight = wide ? 2400 : 2700;
     imgBack.place(0, 0, width, height);
     placeViewOnPaper(paper);
@@ -245,7 +245,7 @@ void frmProgress::arrange(const Sheet& paper) {
     const Twips topics = wide ? first : chart + chartHeight + 300;
     lblTopics.place(beside, topics, column, 360 * larger);
     lstTopics.place(beside, topics + 420 * larger, column,
-                    height - (wide ? 420 : 300) - topics - 420 * larger);
+                    height - (wide ? 420.F : 300.F) - topics - 420 * larger);
     lblScores.font = lblTopics.font = style::kText;
     lstTopics.font = style::kField;
     for (Font* font : {&lblScores.font, &lblTopics.font, &lstTopics.font})

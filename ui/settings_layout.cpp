@@ -135,10 +135,10 @@ void frmOptions::arrange(const Sheet& paper) {
     }
     const Twips dot = m.box * 0.4F;
     shpCheck(0).place(m.left + (m.box - dot) / 2, m.firstRow + (m.box - dot) / 2, dot, dot);
-    const Twips side = m.box + (wide ? 120 : 60);
-    const Twips pitch = side + (wide ? 180 : 120);
+    const Twips side = m.box + (wide ? 120.F : 60.F);
+    const Twips pitch = side + (wide ? 180.F : 120.F);
     for (int i = 0; i <= kLastDesign; ++i) {
-        const Twips x = m.left + m.box + (wide ? 2760 : 2940) + pitch * static_cast<Twips>(i);
+        const Twips x = m.left + m.box + (wide ? 2760.F : 2940.F) + pitch * static_cast<Twips>(i);
         const Twips y = m.firstRow + (m.box - side) / 2;
         shpDs(i).place(x, y, side, side);
         lblDs(i).place(x, y, side, side);

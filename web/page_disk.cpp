@@ -47,9 +47,8 @@ std::string keptName(const std::filesystem::path& path) {
 PageDisk::PageDisk() : folders_{"/", kFolder, kBrought} {}
 
 void PageDisk::put(const Path& file, std::string bytes) {
-    Path name = file;
-    if (!name.has_filename()) {
-        folders_.insert(name.parent_path());
+    if (!file.has_filename()) {
+        folders_.insert(file.parent_path());
         return;
     }
     for (Path folder = file.parent_path(); folders_.insert(folder).second;)

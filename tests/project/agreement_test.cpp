@@ -79,7 +79,7 @@ TEST(Manual, TellsOfEveryFileThatTheReadmeTellsOf) {
 TEST(Manual, TellsInBothLanguagesOfEveryKeyThatTheBoxesTellOf) {
     const std::string manual = bytesOf("resources/Quillor-Manual.txt");
     const std::size_t middle = manual.find("\nENGLISH");
-    const std::regex keys("\\b(F[0-9]+|Ctrl\\+[A-Z]|Alt\\+[A-Z][a-z]*|Escape|Supr|Delete)\\b");
+    const std::regex keys(R"(\b(F[0-9]+|Ctrl\+[A-Z]|Alt\+[A-Z][a-z]*|Escape|Supr|Delete)\b)");
     const auto expectAll = [&](TextView box, const std::string& part) {
         const std::string text = toUtf8(box);
         for (std::sregex_iterator each(text.begin(), text.end(), keys), end; each != end; ++each)

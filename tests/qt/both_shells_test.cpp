@@ -106,8 +106,8 @@ TEST_F(BothShells, ShowTheSameInWholeGamesByKeyboardAlone) {
         step("out of the keys", [](Walker& shell) { shell.press(key::kTab, {false, true}); });
         step("to the button", [](Walker& shell) {
             for (int i = 0;
-                 i < 9 && shell.shown().find("lblPlay(0) \"PLAY ANOTHER\" \"\" 0 focus") ==
-                              std::string::npos;
+                 i < 9 &&
+                 shell.shown().find(R"(lblPlay(0) "PLAY ANOTHER" "" 0 focus)") == std::string::npos;
                  ++i)
                 shell.press(key::kTab);
         });

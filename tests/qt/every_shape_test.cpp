@@ -22,7 +22,7 @@ constexpr double kSmallestText = 8;
 
 bool isSpokenOnly(const ControlRef& ref) {
     auto* const* label = std::get_if<Label*>(&ref);
-    return label && (*label)->role == LabelRole::Notification;
+    return label != nullptr && (*label)->role == LabelRole::Notification;
 }
 
 bool isTyped(const ControlRef& ref) {

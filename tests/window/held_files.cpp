@@ -24,6 +24,8 @@ void waitWhileHeld(std::string_view path) {
 }  // namespace
 
 // The names under which the C library offers it; libraries loaded later find ours first.
+// The names of its parameters are not for programs to use.
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name)
 extern "C" {
 
 int open64(const char* path, int flags, ...) {
@@ -43,3 +45,4 @@ int open(const char* path, int flags, ...) {
     return open64(path, flags, mode);
 }
 }
+// NOLINTEND(readability-inconsistent-declaration-parameter-name)
