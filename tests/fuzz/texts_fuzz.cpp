@@ -5,6 +5,7 @@
 #include "core/numbers.h"
 #include "core/text_codec.h"
 #include "core/text_rules.h"
+#include "game/rules/clock.h"
 #include "game/rules/guess.h"
 #include "game/rules/scoring.h"
 #include "tests/fuzz/bytes.h"
