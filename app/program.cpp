@@ -88,6 +88,11 @@ void Program::close(Screen& screen) {
     closed_.push_back(std::move(closing.screen));
 }
 
+void Program::note(bool saved, const TextPair& what) {
+    if (!saved && std::find(unsaved.begin(), unsaved.end(), &what) == unsaved.end())
+        unsaved.push_back(&what);
+}
+
 void Program::end() {
     desktop.end();
 }

@@ -38,6 +38,12 @@ class Program {
     /// Topic files that the program was started with: the menu takes them in.
     std::vector<std::filesystem::path> topicsToTake;
 
+    /// What could not be saved, each once and the oldest first. The game's tip line tells
+    /// it and takes it away; no operation that saves says anything itself.
+    std::vector<const TextPair*> unsaved;
+    /// Notes what `saved` says: whether that was saved.
+    void note(bool saved, const TextPair& what);
+
     GameSettings settings;
     Desktop& desktop;
     const Place folder;

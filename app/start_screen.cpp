@@ -1,6 +1,8 @@
 // The loading sequence in its order, and the progress line that runs after it.
 #include "app/start_screen.h"
 
+#include <stdexcept>
+
 #include "app/program.h"
 #include "core/files.h"
 #include "core/guard.h"
@@ -123,11 +125,14 @@ void frmStart::checkFont() {
 // A folder that cannot be listed may be full of the player's topics: no sample then.
 void frmStart::repairTopicFolder() {
     const Place folder = topicFolder(settings_, program_.folder);
-    if (folder.disk().look(folder).kind == Disk::Kind::Nothing)
-        folder.disk().makeFolder(folder);
+    if (folder.disk().look(folder).kind == Disk::Kind::Nothing &&
+        !quietly("make the topic folder", [&] { folder.disk().makeFolder(folder); })) {
+        program_.note(false, texts::kTopicsUnsaved);
+        throw std::runtime_error("no topic folder");
+    }
     quietly("repairTopicFolder", [&] {
         if (topicFiles(folder).empty())
-            eWriteDemoTopic(settings_, program_.folder);
+            program_.note(eWriteDemoTopic(settings_, program_.folder), texts::kTopicsUnsaved);
     });
 }
 
@@ -138,7 +143,7 @@ void frmStart::writeFirstSettings() {
     settings_.gbUseSounds = true;
     settings_.gbFirstLetter = true;
     settings_.gbSettingsLoaded = true;
-    eSaveSettings(settings_, program_.folder);
+    program_.note(eSaveSettings(settings_, program_.folder), texts::kSettingsUnsaved);
 }
 
 void frmStart::tmrBar_Timer() {

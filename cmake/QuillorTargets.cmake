@@ -20,7 +20,7 @@ else()
     target_compile_options(quillor_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 endif()
 if(QUILLOR_SANITIZE)
-    target_compile_options(quillor_options INTERFACE -fsanitize=address,undefined
+    target_compile_options(quillor_options INTERFACE -fsanitize=address,undefined,float-cast-overflow
                            -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(quillor_options INTERFACE -fsanitize=address,undefined)
 endif()

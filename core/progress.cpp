@@ -181,16 +181,16 @@ std::optional<Progress> readProgress(const Place& programFolder) {
     return progress;
 }
 
-void addToProgress(const Place& programFolder, const Played& played) {
-    quietly("addToProgress", [&] {
+bool addToProgress(const Place& programFolder, const Played& played) {
+    return quietly("addToProgress", [&] {
         Progress progress = readOrPutAside(programFolder);
         count(progress, played);
         writeLines(progressFile(programFolder), written(progress));
     });
 }
 
-void emptyProgress(const Place& programFolder) {
-    quietly("emptyProgress", [&] {
+bool emptyProgress(const Place& programFolder) {
+    return quietly("emptyProgress", [&] {
         Progress empty;
         empty.unknown = readOrPutAside(programFolder).unknown;
         writeLines(progressFile(programFolder), written(empty));

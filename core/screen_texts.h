@@ -165,6 +165,16 @@ inline constexpr TextPair kHelpMissing{u"El archivo de ayuda no se encuentra.",
 inline constexpr TextPair kNothingIsSaved{
     u"No se puede guardar nada en la carpeta del juego. Lo que cambies ahora se perderá al salir.",
     u"Nothing can be saved in the game's folder. What you change now is lost when you leave."};
+// What the game's tip line tells after it.
+inline constexpr TextPair kSettingsUnsaved{
+    u"No se han podido guardar los ajustes. ¿Está lleno el disco?",
+    u"The settings could not be saved. Is the disk full?"};
+inline constexpr TextPair kProgressUnsaved{
+    u"No se ha podido guardar tu progreso. ¿Está lleno el disco?",
+    u"Your progress could not be saved. Is the disk full?"};
+inline constexpr TextPair kTopicsUnsaved{
+    u"No se han podido guardar los temas del juego. ¿Está lleno el disco?",
+    u"The game's topics could not be saved. Is the disk full?"};
 inline constexpr TextPair kFolderIsShared{
     u"Alguien más está jugando con esta carpeta. Los ajustes serán los de quien los cambie por "
     u"último. ¿Quieres jugar también?",

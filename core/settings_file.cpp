@@ -62,13 +62,13 @@ Place settingsFile(const Place& programFolder) {
     return programFolder / "Quillor-Config.ini";
 }
 
-void eSaveSettings(const GameSettings& settings, const Place& programFolder) {
-    quietly("eSaveSettings",
-            [&] { writeLines(settingsFile(programFolder), writtenLines(settings)); });
+bool eSaveSettings(const GameSettings& settings, const Place& programFolder) {
+    return quietly("eSaveSettings",
+                   [&] { writeLines(settingsFile(programFolder), writtenLines(settings)); });
 }
 
-void saveFromSettingsScreen(const GameSettings& settings, const Place& programFolder) {
-    quietly("eSaveData", [&] {
+bool saveFromSettingsScreen(const GameSettings& settings, const Place& programFolder) {
+    return quietly("eSaveData", [&] {
         std::vector<Text> lines = writtenLines(settings);
         lines[kSavedTopicLine].clear();
         writeLines(settingsFile(programFolder), lines);

@@ -10,11 +10,11 @@ namespace quillor {
 /// Where the settings file is, whether there is one or not.
 Place settingsFile(const Place& programFolder);
 
-/// Rewrites the whole file from the record. A failed write is silent.
-void eSaveSettings(const GameSettings& settings, const Place& programFolder);
+/// Rewrites the whole file from the record. Returns whether it is saved; fails silently.
+bool eSaveSettings(const GameSettings& settings, const Place& programFolder);
 
-/// The settings screen's writer: line 10, the saved topic, is left empty.
-void saveFromSettingsScreen(const GameSettings& settings, const Place& programFolder);
+/// The settings screen's writer, the same: but line 10, the saved topic, is left empty.
+bool saveFromSettingsScreen(const GameSettings& settings, const Place& programFolder);
 
 /// The settings screen's reader: flags are only ever switched on, line 10 is
 /// not used. Ends quietly on an error; what was read before it stays.

@@ -59,8 +59,8 @@ std::vector<Place> topicFiles(const Place& folder) {
     return files;
 }
 
-void eWriteDemoTopic(const GameSettings& settings, const Place& programFolder) {
-    quietly("eWriteDemoTopic", [&] {
+bool eWriteDemoTopic(const GameSettings& settings, const Place& programFolder) {
+    return quietly("eWriteDemoTopic", [&] {
         writeNewLines(topicFolder(settings, programFolder) / "DEMO.txt",
                       splitAtStops(eLang(settings, texts::kDemoTopic)));
     });
@@ -70,40 +70,45 @@ namespace {
 
 constexpr const char* kLaidOut = "Quillor-Packs.txt";  // the topics' names, one a line
 
-// Adds the names of those that are there now to `known`.
-void layOutFolder(const Place& from, const Place& to, std::vector<Text>& known) {
+// Adds the names of those that are there now to `known`; false when one could not be
+// laid out.
+bool layOutFolder(const Place& from, const Place& to, std::vector<Text>& known) {
     if (from.disk().look(from).kind != Disk::Kind::Folder)
-        return;
+        return true;
     if (to.disk().look(to).kind == Disk::Kind::Nothing)
         to.disk().makeFolder(to);
+    bool all = true;
     for (const Place& pack : topicFiles(from)) {
         const fs::path name = pack.path().filename();
         const Text line = fromPath(to.path().filename()) + u"/" + fromPath(name);
         if (std::find(known.begin(), known.end(), line) != known.end())
             continue;
-        quietly("lay out a topic", [&] {
+        all &= quietly("lay out a topic", [&] {
             if (const auto bytes = readFile(pack, kMostTopicBytes)) {
                 writeNewFile(to / name, *bytes);
                 known.push_back(line);
             }
         });
     }
+    return all;
 }
 
 }  // namespace
 
-void layOutTopics(const Place& packs, const Place& programFolder) {
-    quietly("layOutTopics", [&] {
+bool layOutTopics(const Place& packs, const Place& programFolder) {
+    bool all = true;
+    all &= quietly("layOutTopics", [&] {
         const Place list = programFolder / kLaidOut;
         std::vector<Text> known;
         if (list.disk().look(list).kind != Disk::Kind::Nothing)
             known = readLines(list, 2 * kMostTopics);
         const std::size_t before = known.size();
         for (const char* folder : {"Temas", "Topics"})
-            layOutFolder(packs / folder, programFolder / folder, known);
+            all &= layOutFolder(packs / folder, programFolder / folder, known);
         if (known.size() > before)
             writeLines(list, known);
     });
+    return all;
 }
 
 ParsedTopic parseTopic(std::string_view bytes) {

@@ -24,15 +24,15 @@ Place topicFolder(const GameSettings& settings, const Place& programFolder);
 std::vector<Place> topicFiles(const Place& folder);
 
 /// Writes the sample topic of the record's language, over no file that is there.
-/// Fails silently.
-void eWriteDemoTopic(const GameSettings& settings, const Place& programFolder);
+/// Returns whether it, or that file, is there; fails silently.
+bool eWriteDemoTopic(const GameSettings& settings, const Place& programFolder);
 
 /// Copies the topics that come with the program, `packs`/Temas and `packs`/Topics, into
 /// the folders of those names in the program folder. Each is laid out once: what the
 /// player has made of it, or that it was removed, stays so, and a topic of that name that
-/// was there before. Which were laid out stands in a file of the program folder. Fails
-/// silently.
-void layOutTopics(const Place& packs, const Place& programFolder);
+/// was there before. Which were laid out stands in a file of the program folder. Returns
+/// whether all are there that should be; what fails does so silently.
+bool layOutTopics(const Place& packs, const Place& programFolder);
 
 /// What a topic file's bytes hold.
 struct ParsedTopic {

@@ -190,6 +190,8 @@ inline constexpr TextPair kHintTwoPhrases{u"El juego quiere al menos dos frases.
 inline constexpr TextPair kHintTooMany{
     u"Con más de 50 frases el juego deja de cargar, también los temas que siguen.",
     u"With more than 50 phrases the game stops loading, later topics too."};
+inline constexpr TextPair kTopicUnsaved{u"El tema no se ha podido guardar. ¿Está lleno el disco?",
+                                        u"The topic could not be saved. Is the disk full?"};
 inline constexpr TextPair kOpen{u"A&BRIR", u"&OPEN"};
 inline constexpr TextPair kOpenTip{u" Seguir escribiendo un tema que ya existe ",
                                    u" Go on writing a topic that exists "};

@@ -102,7 +102,11 @@ void frmGame::tellWay() {
 
 void frmGame::saveSwitches() {
     menu.show(topicDealt_);
-    eSaveSettings(settings_, program_.folder);
+    saveSettings();
+}
+
+void frmGame::saveSettings() {
+    noteSaved(eSaveSettings(settings_, program_.folder), texts::kSettingsUnsaved);
 }
 
 }  // namespace quillor

@@ -2,7 +2,6 @@
 // looked at in one place, `show`, and painted from there.
 #include <utility>
 
-#include "core/settings_file.h"
 #include "core/text_rules.h"
 #include "core/topic_library.h"
 #include "game/game_screen.h"
@@ -95,7 +94,7 @@ void frmGame::ePlayNewGame() {
     showState();
     if (settings_.gbFirstLetter)
         takeHint();
-    eSaveSettings(settings_, program_.folder);
+    saveSettings();
     ePutSomeLucky();
     eChangeTitle();
     // A phrase of one letter and blanks is won by its first-letter hint.
@@ -204,7 +203,7 @@ void frmGame::noteProgress(Played played) {
     played.letters = typed.letters;
     played.answers = typed.answers;
     if (played.won || played.letters + played.answers > 0)
-        addToProgress(program_.folder, played);
+        noteSaved(addToProgress(program_.folder, played), texts::kProgressUnsaved);
 }
 
 void frmGame::showRound() {

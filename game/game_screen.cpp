@@ -13,7 +13,7 @@
 namespace quillor {
 
 namespace {
-constexpr int kTipHold = 4000;  // ms
+constexpr int kUnsavedHold = 8000;  // ms; nobody looks out for that one
 }
 
 frmGame::frmGame(Program& program)
@@ -61,7 +61,7 @@ void frmGame::connect() {
     lblMenu.menu = &menu.mMenu;
     tmrTip.id = "tmrTip";
     tmrTip.interval = kTipHold;
-    tmrTip.onTick = [this] { showTip(); };
+    tmrTip.onTick = [this] { tellNext(); };
     add(tmrTip);
     board.lblBoard.onMouseMove = [this] { mouseLeftButtons(); };
     board.lblBoard.onKeyDown = [this](KeyEvent& event) {
@@ -150,13 +150,27 @@ void frmGame::readBoard() {
         setFocus(board.lblBoard);
 }
 
-// What has just been changed stands in the tip line for a moment, and is said.
-void frmGame::tell(Text what) {
+// It stands in the tip line for a moment, and is said.
+void frmGame::tell(Text what, int hold) {
     lblHey.caption = what;
     // Another interval starts the timer anew.
-    tmrTip.interval = tmrTip.interval == kTipHold ? kTipHold + 1 : kTipHold;
+    tmrTip.interval = tmrTip.interval == hold ? hold + 1 : hold;
     tmrTip.enabled = true;
     speak(std::move(what));
+}
+
+// Told once what the event itself has to show and say has had its time.
+void frmGame::noteSaved(bool saved, const TextPair& what) {
+    program_.note(saved, what);
+    tmrTip.enabled |= !program_.unsaved.empty();
+}
+
+void frmGame::tellNext() {
+    if (program_.unsaved.empty())
+        return showTip();
+    const TextPair& what = *program_.unsaved.front();
+    program_.unsaved.erase(program_.unsaved.begin());
+    tell(program_.lang(what), kUnsavedHold);
 }
 
 void addGameScreens(Program& program) {
@@ -245,8 +259,9 @@ void frmGame::ePutSomeLucky() {
 }
 
 void frmGame::showTip() {
-    tmrTip.enabled = false;
     lblHey.caption = tip_;
+    tmrTip.interval = kTipHold;
+    tmrTip.enabled = !program_.unsaved.empty();
 }
 
 }  // namespace quillor

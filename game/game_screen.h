@@ -27,7 +27,7 @@ class frmGame : public ProgramScreen {
     Label lblBluebar;
     Label lblMenu;  // opens the menu
     Label lblMode;
-    Label lblHey;  // a tip; for a moment, what has just been changed
+    Label lblHey;  // a tip; for a moment, what has been changed or could not be saved
     GameMenu menu;
     Sounds sounds;
     WebSearch webSearch;
@@ -40,7 +40,7 @@ class frmGame : public ProgramScreen {
     StatusLine status;
     PlayButton playButton;
     Announcer announcer;
-    Timer tmrTip;  // how long the tip line shows what has been changed
+    Timer tmrTip;  // how long the tip line shows what it shows now
     Accent accent;
 
     void takePaper(const ImageRef& paper) override;
@@ -120,12 +120,17 @@ class frmGame : public ProgramScreen {
     void mHide_Click();
     void mColor_Click();
     void saveSwitches();
+    void saveSettings();
     void tellWay();
 
     // game_screen.cpp: the tip line and the title.
-    void tell(Text what);
+    void tell(Text what, int hold = kTipHold);
+    void noteSaved(bool saved, const TextPair& what);
+    void tellNext();
     void showTip();
     TextPair modeName() const;
+
+    static constexpr int kTipHold = 4000;  // ms
 
     bool idlePage_ = false;    // nothing is played, and something is drawn in its place
     Text tip_;                 // that the tip line goes back to

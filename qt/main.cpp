@@ -161,11 +161,12 @@ int play(const CommandLine& line, int argc, char** argv) {
         return playTour(line.tour, folder, here);
     }
     std::optional<platform::RunningCopy> copy;
+    bool laidOut = true;
     waiting.during([&, english = systemIsEnglish()] {
         if (folder.empty()) {
             folder = findProgramFolder(here, platform::userDataFolder(), english);
             speakAsTold();
-            layOutTopics({here.shared / "packs", disk}, {folder, disk});
+            laidOut = layOutTopics({here.shared / "packs", disk}, {folder, disk});
         }
         copy.emplace(folder);
     });
@@ -175,6 +176,7 @@ int play(const CommandLine& line, int argc, char** argv) {
         return 0;
     Session session(folder, here);
     session.attend(*copy);
+    session.noteLaidOut(laidOut);
     return session.run(line.files, waiting);
 }
 

@@ -21,6 +21,9 @@ class Session {
     /// Answers those who start the program once more.
     void attend(platform::RunningCopy& copy);
 
+    /// Whether the topics that come with the game could be laid out: the game tells it.
+    void noteLaidOut(bool all) { program_.note(all, texts::kTopicsUnsaved); }
+
     /// Plays until the game is left. What the start screen reads is waited for by `waiting`;
     /// `topics` are files to take in. Returns what the program ends with.
     int run(const QStringList& topics, Waiting& waiting);

@@ -248,16 +248,18 @@ void frmInventor::lblDel_Click() {
 void frmInventor::lblSave_Click() {
     if (!lblSave(0).enabled)
         return;
-    quietly("lblSave_Click", [this] {
-        saveTopic();
-        if (program_.desktop.question(program_.lang(texts::kAskRestart))) {
-            restarting_ = true;
-            eRestartGame(program_, *this);
-            return;
-        }
-        clearAll();
-        setFocus(txtTheme);
-    });
+    if (!quietly("saveTopic", [this] { saveTopic(); })) {
+        lblHint.caption = program_.lang(texts::kTopicUnsaved);
+        speak(lblHint.caption);
+        return;
+    }
+    if (program_.desktop.question(program_.lang(texts::kAskRestart))) {
+        restarting_ = true;
+        eRestartGame(program_, *this);
+        return;
+    }
+    clearAll();
+    setFocus(txtTheme);
 }
 
 void frmInventor::clearAll() {

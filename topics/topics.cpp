@@ -23,7 +23,7 @@ void takeWay(Program& program, std::int16_t way) {
     GameSettings& settings = program.settings;
     eDoWay(settings, way);
     settings.gbTourStarted |= settings.giWay == kTour;
-    eSaveSettings(settings, program.folder);
+    program.note(eSaveSettings(settings, program.folder), texts::kSettingsUnsaved);
 }
 
 }  // namespace

@@ -152,7 +152,8 @@ void frmProgress::showTopics(const Progress& progress) {
 void frmProgress::lblEmpty_Click() {
     if (!program_.desktop.question(program_.lang(texts::kAskEmpty), true))
         return;
-    emptyProgress(program_.folder);
+    if (!emptyProgress(program_.folder))
+        program_.desktop.messageBox(MessageIcon::Critical, program_.lang(texts::kProgressUnsaved));
     show(readProgress(program_.folder).value_or(Progress{}));
 }
 

@@ -119,7 +119,7 @@ void frmOptions::pressByKey(int option) {
 }
 
 void frmOptions::eSaveData() {
-    saveFromSettingsScreen(settings_, program_.folder);
+    program_.note(saveFromSettingsScreen(settings_, program_.folder), texts::kSettingsUnsaved);
 }
 
 // A design that the file should not hold marks no button.

@@ -172,7 +172,7 @@ TEST_F(ProgressFile, IsWrittenWholeOrNotAtAll) {
     for (const auto operation : {FaultyDisk::Operation::Create, FaultyDisk::Operation::Write,
                                  FaultyDisk::Operation::Flush, FaultyDisk::Operation::Replace}) {
         disk.breakDown(operation);
-        addToProgress(place(), victory(2));
+        EXPECT_FALSE(addToProgress(place(), victory(2)));
         disk.mend();
         EXPECT_EQ(folder.read(kFile), before);
         EXPECT_EQ(folder.size(), 1);

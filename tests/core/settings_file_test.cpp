@@ -54,8 +54,8 @@ TEST_F(SettingsFile, IsReplacedWhole) {
 TEST_F(SettingsFile, ThatCannotBeWrittenIsNoMatter) {
     std::filesystem::create_directory(folder / kName);
     settings.giDesign = 2;
-    eSaveSettings(settings, folder.path());
-    saveFromSettingsScreen(settings, folder.path());
+    EXPECT_FALSE(eSaveSettings(settings, folder.path()));
+    EXPECT_FALSE(saveFromSettingsScreen(settings, folder.path()));
     EXPECT_EQ(settings.giDesign, 2);
     EXPECT_TRUE(std::filesystem::is_directory(folder / kName));
 }

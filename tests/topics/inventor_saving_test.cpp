@@ -194,6 +194,8 @@ TEST_P(InventorSavingFault, LosesNothingThatWasTyped) {
     EXPECT_EQ(screen().lstTopics.items.size(), 2U);
     EXPECT_TRUE(screen().lblSave(0).enabled);
     EXPECT_TRUE(std::filesystem::is_empty(folder / "Temas"));
+    EXPECT_EQ(screen().lblHint.caption, texts::kTopicUnsaved.spanish);
+    EXPECT_EQ(screen().lblSpoken.caption, texts::kTopicUnsaved.spanish);
 }
 
 INSTANTIATE_TEST_SUITE_P(

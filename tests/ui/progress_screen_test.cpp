@@ -170,6 +170,18 @@ TEST_F(ProgressTest, IsEmptiedAfterAQuestion) {
     EXPECT_EQ(page().lstTopics.items, std::vector<Text>{u"MY TOPIC: 0 of 2"});
 }
 
+TEST_F(ProgressTest, TellsWhereItCannotBeEmptied) {
+    play(u"WORLD");
+    win(u"WORLD");
+    openPage();
+    run.disk.breakDown(FaultyDisk::Operation::Replace);
+    desktop.answerQuestion(lang(texts::kAskEmpty), true);
+    desktop.expectCritical(lang(texts::kProgressUnsaved));
+    player.click("lblEmpty");
+    EXPECT_EQ(kept().won, 1);
+    EXPECT_EQ(page().lblCount(0).caption, u"Games won: 1");
+}
+
 TEST_F(ProgressTest, LeadsBackToWhereItWasCalledFrom) {
     play(u"WORLD");
     win(u"WORLD");
