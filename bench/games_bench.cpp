@@ -1,11 +1,10 @@
 // Whole games through the real game screen, without a window: what a guess
 // costs with everything that belongs to it.
-#include <chrono>
 #include <filesystem>
-#include <fstream>
 
 #include <benchmark/benchmark.h>
 
+#include "core/memory_disk.h"
 #include "core/random.h"
 #include "game/game_screen.h"
 #include "topics/topics.h"
@@ -13,6 +12,8 @@
 namespace quillor {
 
 namespace {
+
+const std::filesystem::path kFolder = "/program";
 
 /// A machine that shows nothing, hears nothing and says yes.
 class SilentDesktop : public Desktop {
@@ -50,18 +51,14 @@ class SilentDesktop : public Desktop {
 class Table {
   public:
     Table() {
-        std::filesystem::create_directories(folder_);
-        std::ofstream(folder_ / "Quillor-Config.ini")
-            << "0\r\n0\r\n0\r\n0\r\n0\r\n1\r\n0\r\n0\r\n0\r\n0\r\n0\r\n";
+        disk_.put(kFolder / "Quillor-Config.ini",
+                  "0\r\n0\r\n0\r\n0\r\n0\r\n1\r\n0\r\n0\r\n0\r\n0\r\n0\r\n");
         addTopicScreens(program_);
         addGameScreens(program_);
         program_.load(ScreenId::Start);
         game_ = &program_.load(ScreenId::Game);
         program_.settings.giWay = kAnyTopic;
     }
-    ~Table() { std::filesystem::remove_all(folder_); }
-    Table(const Table&) = delete;
-    Table& operator=(const Table&) = delete;
 
     /// Plays one game to its end and returns how many letters it took.
     int playGame() {
@@ -80,12 +77,9 @@ class Table {
     }
 
   private:
-    const std::filesystem::path folder_ =
-        std::filesystem::temp_directory_path() /
-        ("quillor-table-" +
-         std::to_string(std::chrono::steady_clock::now().time_since_epoch().count()));
+    MemoryDisk disk_;  // what a game costs, and not what the machine's disk does
     SilentDesktop desktop_;
-    Program program_{desktop_, folder_};
+    Program program_{desktop_, {kFolder, disk_}};
     Screen* game_ = nullptr;
 };
 
@@ -100,7 +94,8 @@ BENCHMARK(playGames)->Unit(benchmark::kMicrosecond);
 
 void layOutBoard(benchmark::State& state) {
     SilentDesktop desktop;
-    Program program(desktop, std::filesystem::temp_directory_path() / "quillor-no-folder");
+    MemoryDisk disk;
+    Program program(desktop, {kFolder, disk});
     setPalette(program.settings);
     addGameScreens(program);
     auto& game = dynamic_cast<frmGame&>(program.load(ScreenId::Game));

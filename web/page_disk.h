@@ -3,18 +3,15 @@
 #pragma once
 
 #include <functional>
-#include <map>
 #include <set>
 #include <string>
 
-#include "core/disk.h"
+#include "core/memory_disk.h"
 
 namespace quillor {
 
-class PageDisk : public Disk {
+class PageDisk : public MemoryDisk {
   public:
-    using Path = std::filesystem::path;
-
     /// The program's folder, and where files stand that the page has brought along.
     static constexpr const char* kFolder = "/files";
     static constexpr const char* kBrought = "/brought";
@@ -27,29 +24,19 @@ class PageDisk : public Disk {
     std::function<void(const std::string& path)> drop;
 
     /// What storage holds, another tab has kept, or the page has brought along: put there
-    /// without being kept anew.
-    void put(const Path& file, std::string bytes);
-    void forget(const Path& file) { files_.erase(file); }
+    /// without being kept anew. A folder where the path ends with a slash.
+    void put(const Path& path, std::string bytes);
+    void forget(const Path& file) { MemoryDisk::remove(file); }
 
-    Found look(const Path& path) const override { return {kindOf(path), false}; }
-    std::vector<Entry> list(const Path& folder) const override;
-    std::unique_ptr<FileReader> open(const Path& file) const override;
     std::unique_ptr<FileWriter> create(const Path& file) override;
-    void copyPermissions(const Path&, const Path&) override {}
-    Path behindLinks(const Path& path) const override { return path; }
-    void replace(const Path& from, const Path& to) override { move(from, to, false); }
+    void replace(const Path& from, const Path& to) override;
     bool moveToNew(const Path& from, const Path& to) override;
     void remove(const Path& file) override;
-    /// Another tab's files in the making are not seen here.
-    void removeAbandoned(const Path&) override {}
     void makeFolder(const Path& folder) override;
 
   private:
-    Kind kindOf(const Path& path) const;
-    void move(const Path& from, const Path& to, bool isNew);
+    void tellMoved(const Path& from, const Path& to, bool isNew);
 
-    std::map<Path, std::string> files_;
-    std::set<Path> folders_;
     std::set<Path> drafts_;  // in the making: nobody keeps them
 };
 

@@ -79,14 +79,14 @@ void PageShell::tick() {
 }
 
 void PageShell::settle() {
-    if (depth_ > base_ || ended_)
+    if (!events_.areDone() || ended_)
         return;
     if (telling_) {
         again_ = true;
         return;
     }
     refresh();
-    if (depth_ > 0)
+    if (!events_.areIdle())
         return;
     closed_.clear();
     if (onIdle)

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "toolkit/key_route.h"
+#include "toolkit/nested_events.h"
 #include "toolkit/preferences.h"
 #include "toolkit/scheme.h"
 #include "toolkit/timer_clock.h"
@@ -41,9 +42,7 @@ class PageShell {
     void event(Body&& body) {
         if (ended_)
             return;
-        ++depth_;
-        std::forward<Body>(body)();
-        --depth_;
+        events_.run(std::forward<Body>(body));
         settle();
     }
     /// Something that waits inside a handler: a box or a menu. Events meanwhile count as
@@ -52,10 +51,8 @@ class PageShell {
     auto modally(Body&& body) {
         keys.letGo();
         tellNow();
-        const Nesting nesting(*this);
-        return std::forward<Body>(body)();
+        return events_.modally(std::forward<Body>(body));
     }
-    bool isModal() const { return base_ > 0; }
 
     void show(Screen& screen);
     void close(Screen& screen);
@@ -76,13 +73,6 @@ class PageShell {
     void end() { ended_ = true; }
 
   private:
-    struct Nesting {
-        explicit Nesting(PageShell& owner)
-            : shell(owner), outer(std::exchange(owner.base_, owner.depth_)) {}
-        ~Nesting() { shell.base_ = outer; }
-        PageShell& shell;
-        int outer;
-    };
     void settle();
     void refresh();
     void tellFronts(Messages& messages);
@@ -103,8 +93,7 @@ class PageShell {
     std::optional<std::pair<Scheme, Color>> colors_;  // as told last
     std::optional<Language> language_;                // the same
     int front_ = 0;
-    int depth_ = 0;
-    int base_ = 0;  // the depth at which the innermost box or menu was opened
+    NestedEvents events_;
     bool telling_ = false;
     bool again_ = false;
     bool ended_ = false;

@@ -90,14 +90,14 @@ void Shell::end() {
 }
 
 void Shell::settle() {
-    if (depth_ > base_ || ended_)
+    if (!events_.areDone() || ended_)
         return;
     if (syncing_) {
         again_ = true;
         return;
     }
     refresh();
-    if (depth_ > 0)
+    if (!events_.areIdle())
         return;
     deleteClosed();
     if (onIdle)

@@ -16,6 +16,7 @@
 #include "qt/windows/window_memory.h"
 #include "toolkit/focus.h"
 #include "toolkit/key_route.h"
+#include "toolkit/nested_events.h"
 #include "toolkit/preferences.h"
 #include "toolkit/scheme.h"
 
@@ -50,9 +51,7 @@ class Shell {
     void event(Body&& body) {
         if (ended_)
             return;
-        ++depth_;
-        std::forward<Body>(body)();
-        --depth_;
+        events_.run(std::forward<Body>(body));
         settle();
     }
 
@@ -98,10 +97,9 @@ class Shell {
     auto modally(Body&& body) {
         keys.letGo();
         showNow();
-        const Nesting nesting(*this);
-        return std::forward<Body>(body)();
+        return events_.modally(std::forward<Body>(body));
     }
-    bool isModal() const { return base_ > 0; }
+    bool isModal() const { return events_.isModal(); }
 
     /// Of the window that the large screens share; there is none before the first of them.
     bool isFullScreen() const;
@@ -112,14 +110,6 @@ class Shell {
     bool hasEnded() const { return ended_; }
 
   private:
-    struct Nesting {
-        explicit Nesting(Shell& owner)
-            : shell(owner), outer(std::exchange(owner.base_, owner.depth_)) {}
-        ~Nesting() { shell.base_ = outer; }
-        Shell& shell;
-        int outer;
-    };
-
     PageWindow& windowFor(const Screen& screen);
     void settle();
     void refresh();
@@ -130,8 +120,7 @@ class Shell {
     std::vector<Page*> closed_;           // until no handler is running
     std::vector<PageWindow*> dialogs_;    // until they have no page
     std::unique_ptr<PageWindow> window_;  // of all screens that stand over no other
-    int depth_ = 0;
-    int base_ = 0;  // the depth at which the innermost box or menu was opened
+    NestedEvents events_;
     bool byKey_ = false;
     bool syncing_ = false;
     bool again_ = false;

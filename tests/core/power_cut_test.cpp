@@ -1,15 +1,16 @@
 // The power goes at any moment of a save: whatever of it has reached the medium by then, in
 // whatever order, the file is the old one or the new one, whole.
+#include <algorithm>
 #include <functional>
 #include <optional>
 
 #include <gtest/gtest.h>
 
 #include "core/files.h"
+#include "core/memory_disk.h"
 #include "core/progress.h"
 #include "core/settings_file.h"
 #include "core/topic_library.h"
-#include "tests/support/memory_disk.h"
 
 namespace quillor::testing {
 namespace {

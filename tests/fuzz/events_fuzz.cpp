@@ -4,11 +4,11 @@
 #include <limits>
 #include <memory>
 
+#include "core/memory_disk.h"
 #include "core/settings_file.h"
 #include "game/game_screen.h"
 #include "tests/fuzz/bytes.h"
 #include "tests/support/fake_desktop.h"
-#include "tests/support/memory_disk.h"
 #include "topics/topics.h"
 #include "ui/progress_screen.h"
 #include "ui/settings_screen.h"

@@ -1,11 +1,11 @@
 // Files of any content in the program folder: settings, colour, progress and topics.
 // Whatever they hold the program reads them, and reads what it has written itself.
+#include "core/memory_disk.h"
 #include "core/progress.h"
 #include "core/settings_file.h"
 #include "core/text_codec.h"
 #include "core/topic_library.h"
 #include "tests/fuzz/bytes.h"
-#include "tests/support/memory_disk.h"
 #include "topics/topic_check.h"
 
 namespace quillor::testing {

@@ -1,10 +1,10 @@
 // What reaches the shell from outside: the command line and picture files.
 #include <QGuiApplication>
 
+#include "core/memory_disk.h"
 #include "qt/command_line.h"
 #include "qt/paint/picture_loader.h"
 #include "tests/fuzz/bytes.h"
-#include "tests/support/memory_disk.h"
 
 namespace quillor::testing {
 

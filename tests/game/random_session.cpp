@@ -4,12 +4,12 @@
 #include <algorithm>
 #include <array>
 
+#include "core/memory_disk.h"
 #include "core/settings_file.h"
 #include "core/text_codec.h"
 #include "game/game_screen.h"
 #include "tests/game/game_invariants.h"
 #include "tests/support/fake_desktop.h"
-#include "tests/support/memory_disk.h"
 #include "tests/support/player.h"
 #include "topics/topics.h"
 #include "ui/progress_screen.h"

@@ -123,14 +123,12 @@ TimeOfDay FakeDesktop::timeOfDay() {
 void FakeDesktop::deliver(const Callback& event) {
     if (ended)
         return;
-    ++depth_;
-    event();
-    --depth_;
+    events_.run(event);
     settle();
 }
 
 void FakeDesktop::settle() {
-    if (depth_ == 0 && onIdle)
+    if (events_.areIdle() && onIdle)
         onIdle();
     const std::vector<Screen*> screens = openScreens_;
     for (Screen* screen : screens)

@@ -13,6 +13,7 @@
 #include "toolkit/desktop.h"
 #include "toolkit/focus.h"
 #include "toolkit/key_route.h"
+#include "toolkit/nested_events.h"
 #include "toolkit/timer_clock.h"
 
 namespace quillor::testing {
@@ -134,7 +135,7 @@ class FakeDesktop : public Desktop {
     std::int64_t now_ = 0;       // ms since the test began
     std::int64_t dayStart_ = 0;  // what the time of day was at that moment, in ms
     Random random_{1};
-    int depth_ = 0;  // events that run within one another
+    NestedEvents events_;
     std::vector<Screen*> openScreens_;
     std::map<const Screen*, Focus> focus_;
     std::array<std::byte, 7> sounds_;
