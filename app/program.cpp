@@ -94,7 +94,13 @@ void Program::note(bool saved, const TextPair& what) {
 }
 
 void Program::end() {
+    keepPlayed();
     desktop.end();
+}
+
+void Program::keepPlayed() {
+    if (const std::vector<Played> played = std::exchange(played_, {}); !played.empty())
+        note(addToProgress(folder, played), texts::kProgressUnsaved);
 }
 
 int ePasteText(Program& program, TextView text, TextView selected, int caret) {

@@ -6,11 +6,13 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "app/view_entry.h"
 #include "core/disk.h"
 #include "core/game_settings.h"
+#include "core/progress.h"
 #include "core/texts.h"
 #include "toolkit/desktop.h"
 #include "toolkit/screen.h"
@@ -68,8 +70,14 @@ class Program {
     /// Unloads and hides a screen; it is destroyed by `destroyClosed`. One that
     /// is not loaded is left alone.
     void close(Screen& screen);
-    /// Ends the run at once. No screen is unloaded: nothing is saved at the end.
+    /// Ends the run at once. No screen is unloaded: nothing is saved at the end but what
+    /// has been played.
     void end();
+
+    /// Remembers what has been played, until it is kept among the player's results. That
+    /// waits for the disk, so it is not done while an ending is on show.
+    void notePlayed(Played played) { played_.push_back(std::move(played)); }
+    void keepPlayed();
 
     /// Destroys the screens that have been closed. For the shell, once no
     /// handler of theirs is running any more.
@@ -86,6 +94,7 @@ class Program {
     std::map<ScreenId, Factory> factories_;
     std::map<ScreenId, Opened> screens_;
     std::vector<std::unique_ptr<Screen>> closed_;
+    std::vector<Played> played_;  // not kept yet
 };
 
 /// The web search: what is sought stands behind it.

@@ -22,8 +22,9 @@ constexpr TextView kDigits = u"0123456789abcdef";
 constexpr std::size_t kNumberLength = 16;
 constexpr int kTries = 16;
 
+// The system is asked once: that takes longer than a small file takes to write.
 Text nameOfChance() {
-    std::random_device chance;
+    thread_local std::mt19937_64 chance{std::random_device{}()};
     std::uniform_int_distribution<std::size_t> digit(0, kDigits.size() - 1);
     Text name(kStart);
     for (std::size_t i = 0; i < kNumberLength; ++i)

@@ -181,10 +181,11 @@ std::optional<Progress> readProgress(const Place& programFolder) {
     return progress;
 }
 
-bool addToProgress(const Place& programFolder, const Played& played) {
+bool addToProgress(const Place& programFolder, const std::vector<Played>& played) {
     return quietly("addToProgress", [&] {
         Progress progress = readOrPutAside(programFolder);
-        count(progress, played);
+        for (const Played& each : played)
+            count(progress, each);
         writeLines(progressFile(programFolder), written(progress));
     });
 }

@@ -53,7 +53,7 @@ std::optional<Progress> readProgress(const Place& programFolder);
 /// Reads the file, adds to it and writes it, so that several running copies may. A file
 /// that is damaged or another program's gets another name first; one that cannot be read
 /// stays as it is. Returns whether it is saved; fails silently.
-bool addToProgress(const Place& programFolder, const Played& played);
+bool addToProgress(const Place& programFolder, const std::vector<Played>& played);
 
 /// As if nothing had been done yet; lines that are not known stay. The same of failures.
 bool emptyProgress(const Place& programFolder);

@@ -62,15 +62,17 @@ Utf8Step stepUtf8(std::string_view bytes, std::size_t at) {
 }
 
 bool isUtf8BeyondAscii(std::string_view bytes) {
-    bool beyondAscii = false;
-    for (std::size_t at = 0; at < bytes.size();) {
+    const auto beyondAscii =
+        std::find_if(bytes.begin(), bytes.end(), [](char byte) { return (byte & 0x80) != 0; });
+    if (beyondAscii == bytes.end())
+        return false;
+    for (auto at = static_cast<std::size_t>(beyondAscii - bytes.begin()); at < bytes.size();) {
         const Utf8Step step = stepUtf8(bytes, at);
         if (!step.valid)
             return false;
-        beyondAscii |= step.length > 1;
         at += step.length;
     }
-    return beyondAscii;
+    return true;
 }
 
 void appendUtf8(std::string& bytes, char32_t character) {
@@ -100,13 +102,12 @@ Text decodeWindows1252(std::string_view bytes) {
 }
 
 std::optional<std::string> encodeWindows1252(TextView text) {
-    std::string bytes;
-    bytes.reserve(text.size());
-    for (const char16_t character : text) {
-        const std::optional<char> byte = toWindows1252(character);
+    std::string bytes(text.size(), '\0');
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const std::optional<char> byte = toWindows1252(text[i]);
         if (!byte)
             return std::nullopt;
-        bytes.push_back(*byte);
+        bytes[i] = *byte;
     }
     return bytes;
 }

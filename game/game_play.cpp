@@ -184,6 +184,7 @@ void frmGame::endGame(Happened how) {
     const bool tourCompleted = eFinalStep(settings_, round, how);
     const bool dead = how == Happened::Died;
     noteProgress(playedGame(settings_, how));
+    tmrKeep.enabled = true;
     accent.ePutNewColor(dead ? settings_.glRed : settings_.glGreen);
     figure.tmrDead.enabled = dead;
     showState();
@@ -203,7 +204,7 @@ void frmGame::noteProgress(Played played) {
     played.letters = typed.letters;
     played.answers = typed.answers;
     if (played.won || played.letters + played.answers > 0)
-        noteSaved(addToProgress(program_.folder, played), texts::kProgressUnsaved);
+        program_.notePlayed(std::move(played));
 }
 
 void frmGame::showRound() {

@@ -14,7 +14,8 @@ namespace quillor {
 
 namespace {
 constexpr int kUnsavedHold = 8000;  // ms; nobody looks out for that one
-}
+constexpr int kKeepDelay = 2000;    // ms: until an ending has come to rest
+}  // namespace
 
 frmGame::frmGame(Program& program)
     : ProgramScreen("frmGame", program),
@@ -63,6 +64,14 @@ void frmGame::connect() {
     tmrTip.interval = kTipHold;
     tmrTip.onTick = [this] { tellNext(); };
     add(tmrTip);
+    tmrKeep.id = "tmrKeep";
+    tmrKeep.interval = kKeepDelay;
+    tmrKeep.onTick = [this] {
+        tmrKeep.enabled = false;
+        program_.keepPlayed();
+        tellUnsaved();
+    };
+    add(tmrKeep);
     board.lblBoard.onMouseMove = [this] { mouseLeftButtons(); };
     board.lblBoard.onKeyDown = [this](KeyEvent& event) {
         const Text words = board.readCell(round, event.code, settings_);
@@ -162,6 +171,10 @@ void frmGame::tell(Text what, int hold) {
 // Told once what the event itself has to show and say has had its time.
 void frmGame::noteSaved(bool saved, const TextPair& what) {
     program_.note(saved, what);
+    tellUnsaved();
+}
+
+void frmGame::tellUnsaved() {
     tmrTip.enabled |= !program_.unsaved.empty();
 }
 
@@ -211,6 +224,7 @@ void frmGame::onLoad() {
 void frmGame::onUnload() {
     score.keepScore();
     noteProgress({});
+    program_.keepPlayed();
 }
 
 void frmGame::eLoadData() {

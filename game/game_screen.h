@@ -40,7 +40,8 @@ class frmGame : public ProgramScreen {
     StatusLine status;
     PlayButton playButton;
     Announcer announcer;
-    Timer tmrTip;  // how long the tip line shows what it shows now
+    Timer tmrTip;   // how long the tip line shows what it shows now
+    Timer tmrKeep;  // when what has been played is kept
     Accent accent;
 
     void takePaper(const ImageRef& paper) override;
@@ -126,6 +127,7 @@ class frmGame : public ProgramScreen {
     // game_screen.cpp: the tip line and the title.
     void tell(Text what, int hold = kTipHold);
     void noteSaved(bool saved, const TextPair& what);
+    void tellUnsaved();
     void tellNext();
     void showTip();
     TextPair modeName() const;

@@ -61,6 +61,7 @@ void frmProgress::onLoad() {
         label->textColor = settings_.glWhite;
     for (Line& line : lnScore)
         line.color = settings_.glTheme;
+    program_.keepPlayed();
     show(readProgress(program_.folder).value_or(Progress{}));
     tmrSpeak.enabled = true;
 }

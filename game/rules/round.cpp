@@ -86,18 +86,19 @@ bool isOver(const GameSettings& settings) {
 
 Text spelled(const Round& round) {
     Text text;
+    text.reserve(3 * round.cells.size());
     for (const Cell& cell : round.cells) {
         if (!cell.isLetter())
             continue;
         if (cell.startsWord && !text.empty())
             text += u", ";
         if (!cell.isFound())
-            text += u"_ ";
+            text += u'_';
+        else if (round.hiddenLetters && cell.state == CellState::Found)
+            text += u'?';
         else
-            text +=
-                Text(1, round.hiddenLetters && cell.state == CellState::Found ? u'?'
-                                                                              : cell.character) +
-                u" ";
+            text += cell.character;
+        text += u' ';
     }
     return text;
 }

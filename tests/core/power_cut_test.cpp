@@ -216,10 +216,10 @@ TEST_F(PowerCut, LeavesTheOldProgressOrTheNewOne) {
     played.won = true;
     played.topic = u"A";
     played.phrase = u"B";
-    addToProgress(folder, played);
+    addToProgress(folder, {played});
     const std::string old = disk.content(progressFile(folder));
     disk.steps.clear();
-    addToProgress(folder, played);
+    addToProgress(folder, {played});
     EXPECT_TRUE(survives(progressFile(folder), old, disk));
 }
 

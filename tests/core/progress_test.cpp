@@ -81,8 +81,8 @@ class ProgressFile : public ::testing::Test {
 };
 
 TEST_F(ProgressFile, IsReadableByPeople) {
-    addToProgress(place(), victory(1500));
-    addToProgress(place(), defeat(900));
+    addToProgress(place(), {victory(1500)});
+    addToProgress(place(), {defeat(900)});
     EXPECT_EQ(folder.read(kFile),
               "Quillor-Progress 1\r\ngames won: 1\r\ngames lost: 1\r\nvictories in a row: 0\r\n"
               "longest run of victories: 1\r\nbest score: 1500\r\nletters typed: 12\r\n"
@@ -90,8 +90,8 @@ TEST_F(ProgressFile, IsReadableByPeople) {
 }
 
 TEST_F(ProgressFile, IsReadBackAsItWasWritten) {
-    addToProgress(place(), victory(1500));
-    addToProgress(place(), {true, 1, 0, 1600, u"Ω: Ñ", u"UNO: DOS"});
+    addToProgress(place(), {victory(1500)});
+    addToProgress(place(), {{true, 1, 0, 1600, u"Ω: Ñ", u"UNO: DOS"}});
     const Progress progress = read();
     EXPECT_EQ(progress.won, 2);
     EXPECT_EQ(progress.scores, (std::vector<int>{1500, 1600}));
@@ -106,7 +106,7 @@ TEST_F(ProgressFile, ThatIsNotThereMeansNothingDone) {
 
 TEST_F(ProgressFile, KeepsLinesThatItDoesNotKnow) {
     folder.write(kFile, "Quillor-Progress 1\r\ngames won: 4\r\nstars: 7\r\na note of mine\r\n");
-    addToProgress(place(), victory(1));
+    addToProgress(place(), {victory(1)});
     EXPECT_TRUE(folder.read(kFile).ends_with("stars: 7\r\na note of mine\r\n"));
     EXPECT_EQ(read().won, 5);
     emptyProgress(place());
@@ -115,7 +115,7 @@ TEST_F(ProgressFile, KeepsLinesThatItDoesNotKnow) {
 }
 
 TEST_F(ProgressFile, IsEmptied) {
-    addToProgress(place(), victory(1500));
+    addToProgress(place(), {victory(1500)});
     emptyProgress(place());
     const Progress progress = read();
     EXPECT_EQ(progress.won + progress.letters + progress.bestScore + progress.longestRun, 0);
@@ -124,8 +124,8 @@ TEST_F(ProgressFile, IsEmptied) {
 }
 
 TEST_F(ProgressFile, TakesNoPhraseThatWouldDamageIt) {
-    addToProgress(place(), {true, 1, 0, 5, u"T", u"A\tB"});
-    addToProgress(place(), {true, 1, 0, 5, u"T\n", u"AB"});
+    addToProgress(place(), {{true, 1, 0, 5, u"T", u"A\tB"}});
+    addToProgress(place(), {{true, 1, 0, 5, u"T\n", u"AB"}});
     EXPECT_EQ(read().won, 2);
     EXPECT_TRUE(read().solved.empty());
 }
@@ -135,7 +135,7 @@ class DamagedProgress : public ProgressFile, public ::testing::WithParamInterfac
 TEST_P(DamagedProgress, IsPutAsideAndNotOverwritten) {
     folder.write(kFile, GetParam());
     EXPECT_FALSE(readProgress(place()));
-    addToProgress(place(), victory(1));
+    addToProgress(place(), {victory(1)});
     EXPECT_EQ(folder.read(kAside), GetParam());
     EXPECT_EQ(read().won, 1);
 }
@@ -143,7 +143,7 @@ TEST_P(DamagedProgress, IsPutAsideAndNotOverwritten) {
 TEST_P(DamagedProgress, StaysWhereItCannotBePutAside) {
     folder.write(kFile, GetParam());
     disk.breakDown(FaultyDisk::Operation::MoveToNew);
-    addToProgress(place(), victory(1));
+    addToProgress(place(), {victory(1)});
     emptyProgress(place());
     EXPECT_EQ(folder.read(kFile), GetParam());
 }
@@ -159,20 +159,20 @@ INSTANTIATE_TEST_SUITE_P(Contents, DamagedProgress,
                                            "Quillor-Progress 1\r\n\x01\x02\x03\r\n"));
 
 TEST_F(ProgressFile, ThatCannotBeReadStaysAsItIs) {
-    addToProgress(place(), victory(1));
+    addToProgress(place(), {victory(1)});
     const std::string before = folder.read(kFile);
     disk.breakDown(FaultyDisk::Operation::Open);
-    addToProgress(place(), victory(2));
+    addToProgress(place(), {victory(2)});
     EXPECT_EQ(folder.read(kFile), before);
 }
 
 TEST_F(ProgressFile, IsWrittenWholeOrNotAtAll) {
-    addToProgress(place(), victory(1));
+    addToProgress(place(), {victory(1)});
     const std::string before = folder.read(kFile);
     for (const auto operation : {FaultyDisk::Operation::Create, FaultyDisk::Operation::Write,
                                  FaultyDisk::Operation::Flush, FaultyDisk::Operation::Replace}) {
         disk.breakDown(operation);
-        EXPECT_FALSE(addToProgress(place(), victory(2)));
+        EXPECT_FALSE(addToProgress(place(), {victory(2)}));
         disk.mend();
         EXPECT_EQ(folder.read(kFile), before);
         EXPECT_EQ(folder.size(), 1);
@@ -182,7 +182,7 @@ TEST_F(ProgressFile, IsWrittenWholeOrNotAtAll) {
 TEST_F(ProgressFile, PutsEachDamagedOneAsideUnderAnotherName) {
     for (int i = 0; i < 2; ++i) {
         folder.write(kFile, "foreign");
-        addToProgress(place(), victory(1));
+        addToProgress(place(), {victory(1)});
     }
     EXPECT_EQ(folder.read("Quillor-Progress-aside-2.txt"), "foreign");
 }

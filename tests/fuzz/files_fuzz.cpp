@@ -32,7 +32,7 @@ void readProgressFile(const Place& folder) {
     played.topic = u"TITLE";
     played.phrase = u"PHRASE";
     const std::optional<Progress> before = readProgress(folder);
-    addToProgress(folder, played);
+    addToProgress(folder, {played});
     const std::optional<Progress> after = readProgress(folder);
     require(after.has_value(), "what was written is read");
     require(!before || after->unknown == before->unknown, "what is not known stays");

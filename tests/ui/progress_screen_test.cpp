@@ -71,6 +71,30 @@ TEST_F(ProgressTest, CountsLostGamesAndAnswers) {
     EXPECT_TRUE(kept().solved.empty());
 }
 
+TEST_F(ProgressTest, LeavesTheDiskAloneUntilTheEndingHasBeenSeen) {
+    play(u"WORLD");
+    player.type(u"WORLD");
+    EXPECT_EQ(kept().won, 0);
+    desktop.advance(2000);
+    EXPECT_EQ(kept().won, 1);
+    desktop.advance(60'000);
+    EXPECT_EQ(kept().won, 1);
+}
+
+TEST_F(ProgressTest, ShowsAGameThatHasJustEnded) {
+    play(u"WORLD");
+    player.type(u"WORLD");
+    openPage();
+    EXPECT_EQ(page().lblCount(0).caption, u"Games won: 1");
+}
+
+TEST_F(ProgressTest, KeepsAGameThatHasJustEndedWhenTheProgramEnds) {
+    play(u"WORLD");
+    player.type(u"WORLD");
+    run.program.end();
+    EXPECT_EQ(kept().won, 1);
+}
+
 TEST_F(ProgressTest, CountsNoScoreAndTopicOfClassicGames) {
     playClassic(u"WORLD");
     win(u"WORLD");
@@ -120,7 +144,7 @@ TEST_F(ProgressTest, KeepsWhatWasTypedInAGameThatWasLeft) {
 TEST_F(ProgressTest, DrawsALineThroughTheScores) {
     start();
     for (const int score : {1000, 2000, 500})
-        addToProgress(run.folder.path(), {true, 0, 0, score, {}, {}});
+        addToProgress(run.folder.path(), {{true, 0, 0, score, {}, {}}});
     openPage();
     EXPECT_EQ(linesSeen(), 2);
     EXPECT_EQ(page().lblScores.caption, u"Score, arcade games: 3, from 1000 to 500");
@@ -137,7 +161,7 @@ TEST_F(ProgressTest, DrawsALineThroughTheScores) {
 TEST_F(ProgressTest, DrawsFiftyScores) {
     start();
     for (int i = 0; i < 60; ++i)
-        addToProgress(run.folder.path(), {true, 0, 0, 0, {}, {}});
+        addToProgress(run.folder.path(), {{true, 0, 0, 0, {}, {}}});
     openPage();
     EXPECT_EQ(linesSeen(), 49);
 }
@@ -147,7 +171,7 @@ TEST_F(ProgressTest, TellsOfASingleScoreByItselfAndDrawsADot) {
     openPage();
     EXPECT_EQ(linesSeen(), 0);
     player.press(key::kEscape);
-    addToProgress(run.folder.path(), {true, 0, 0, 1840, {}, {}});
+    addToProgress(run.folder.path(), {{true, 0, 0, 1840, {}, {}}});
     openPage();
     EXPECT_EQ(page().lblScores.caption, u"Score, one arcade game: 1840");
     EXPECT_EQ(linesSeen(), 1);
