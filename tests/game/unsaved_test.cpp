@@ -67,6 +67,7 @@ TEST_F(Unsaved, ProgressIsToldAfterTheGame) {
     run.disk.breakDown(Operation::Replace);
     loseGame();
     EXPECT_EQ(settings.giGameState, kDead);
+    desktop.advance(2000);  // then it is kept
     expectTold(texts::kProgressUnsaved);
 }
 
