@@ -37,10 +37,10 @@ class Writer : public FileWriter {
 
 }  // namespace
 
-void MemoryDisk::put(const Path& file, std::string bytes) {
+void MemoryDisk::put(const Path& file, std::string_view bytes) {
     for (Path folder = file.parent_path(); folders_.insert(folder).second;)
         folder = folder.parent_path();
-    files_[file] = std::move(bytes);
+    files_[file] = bytes;
 }
 
 Disk::Kind MemoryDisk::kindOf(const Path& path) const {

@@ -15,7 +15,7 @@ class MemoryDisk : public Disk {
     using Path = std::filesystem::path;
 
     /// Writes a file byte for byte, making the folders it stands in.
-    void put(const Path& file, std::string bytes);
+    void put(const Path& file, std::string_view bytes);
     /// Of a file that is there; std::out_of_range otherwise.
     const std::string& content(const Path& file) const { return files_.at(file); }
 

@@ -1,8 +1,6 @@
 // A file is kept when it gets its name; until then it exists in memory alone.
 #include "web/page_disk.h"
 
-#include <utility>
-
 namespace quillor {
 
 namespace {
@@ -21,9 +19,9 @@ PageDisk::PageDisk() {
         MemoryDisk::makeFolder(folder);
 }
 
-void PageDisk::put(const Path& path, std::string bytes) {
+void PageDisk::put(const Path& path, std::string_view bytes) {
     if (path.has_filename())
-        MemoryDisk::put(path, std::move(bytes));
+        MemoryDisk::put(path, bytes);
     else
         MemoryDisk::makeFolder(path.parent_path());
 }

@@ -25,7 +25,7 @@ class PageDisk : public MemoryDisk {
 
     /// What storage holds, another tab has kept, or the page has brought along: put there
     /// without being kept anew. A folder where the path ends with a slash.
-    void put(const Path& path, std::string bytes);
+    void put(const Path& path, std::string_view bytes);
     void forget(const Path& file) { MemoryDisk::remove(file); }
 
     std::unique_ptr<FileWriter> create(const Path& file) override;
