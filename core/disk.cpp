@@ -91,8 +91,12 @@ Disk::Found Disk::look(const fs::path& path) const {
 std::vector<Disk::Entry> Disk::list(const fs::path& folder) const {
     std::vector<Entry> entries;
     for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+        // Most systems tell it with the name, so that nobody has to look again.
         std::error_code unknown;
-        entries.push_back({entry.path().filename(), kindOf(entry.status(unknown))});
+        const Kind kind = entry.is_regular_file(unknown) ? Kind::File
+                          : entry.is_directory(unknown)  ? Kind::Folder
+                                                         : Kind::Other;
+        entries.push_back({entry.path().filename(), kind});
     }
     return entries;
 }

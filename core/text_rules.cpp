@@ -127,6 +127,46 @@ Text oneLine(TextView text) {
     return line;
 }
 
+namespace {
+
+constexpr char16_t kFirstStrongIsolate = 0x2068;
+constexpr char16_t kPopIsolate = 0x2069;
+
+struct SignRange {
+    char16_t first, last;
+};
+
+template <std::size_t Count>
+bool isIn(const std::array<SignRange, Count>& ranges, char16_t sign) {
+    return std::any_of(ranges.begin(), ranges.end(), [sign](SignRange range) {
+        return sign >= range.first && sign <= range.last;
+    });
+}
+
+// Embeddings, overrides, isolates and marks.
+constexpr std::array<SignRange, 4> kTurning{
+    {{0x061C, 0x061C}, {0x200E, 0x200F}, {0x202A, 0x202E}, {0x2066, 0x2069}}};
+constexpr std::array<SignRange, 3> kEnding{{{0, 0x1F}, {0x7F, 0x9F}, {0x2028, 0x2029}}};
+// Hebrew, Arabic and their like; the last two are halves of signs beyond 16 bits.
+constexpr std::array<SignRange, 5> kFromTheRight{
+    {{0x0590, 0x08FF}, {0xFB1D, 0xFDFF}, {0xFE70, 0xFEFF}, {0xD802, 0xD803}, {0xD83A, 0xD83B}}};
+
+}  // namespace
+
+bool isHiddenSign(char16_t sign) {
+    return isIn(kTurning, sign) || isIn(kEnding, sign);
+}
+
+Text isolated(TextView text) {
+    Text clean;
+    for (const char16_t sign : text)
+        if (!isIn(kTurning, sign))
+            clean += isIn(kEnding, sign) ? u' ' : sign;
+    const bool turns = std::any_of(clean.begin(), clean.end(),
+                                   [](char16_t sign) { return isIn(kFromTheRight, sign); });
+    return turns ? kFirstStrongIsolate + clean + kPopIsolate : clean;
+}
+
 Text replaceAll(TextView text, TextView what, TextView with) {
     Text result;
     std::size_t from = 0;

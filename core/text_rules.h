@@ -24,6 +24,14 @@ Text trimmed(TextView text);
 /// In one line: a line break within the text becomes one blank, those at its ends go.
 Text oneLine(TextView text);
 
+/// Whether it shows nothing and changes what follows: it ends the line, turns its direction,
+/// or controls a terminal.
+bool isHiddenSign(char16_t sign);
+
+/// A text of somebody else's for a place in one of ours: without signs that would end the
+/// line or turn its direction, and isolated where its own letters run from right to left.
+Text isolated(TextView text);
+
 /// The text with every occurrence of `what` replaced; `what` empty changes nothing.
 Text replaceAll(TextView text, TextView what, TextView with);
 

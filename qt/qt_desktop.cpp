@@ -188,9 +188,13 @@ void QtDesktop::end() {
     shell_.end();
 }
 
-// All signs of the phrase are encoded but those that an address may bear anywhere.
+// All signs of the phrase are encoded but those that mean nothing in any part of an address,
+// and that leads to no other page: dots between slashes would go up, and dots alone.
 QString encodedAddress(TextView page, TextView sought) {
-    return toQt(page) + QString::fromLatin1(QUrl::toPercentEncoding(toQt(sought), "/:,;@!$'()*"));
+    QByteArray encoded = QUrl::toPercentEncoding(toQt(sought), ":,;@!$'()*");
+    if (encoded == "." || encoded == "..")
+        encoded += "%20";
+    return toQt(page) + QString::fromLatin1(encoded);
 }
 
 }  // namespace quillor

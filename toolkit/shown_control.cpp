@@ -2,6 +2,8 @@
 // must.
 #include "toolkit/shown_control.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "toolkit/controls.h"
@@ -19,10 +21,19 @@ bool assign(T& shown, T now) {
     return true;
 }
 
+// Never half of a sign that takes two units.
+Text shortened(TextView text) {
+    if (text.size() <= kMostShown)
+        return Text(text);
+    const bool halved = (text[kMostShown - 1] & 0xFC00U) == 0xD800U;
+    return Text(text.substr(0, kMostShown - (halved ? 1 : 0)));
+}
+
 Text nameOf(const ControlRef& ref) {
     const Control& control = controlOf(ref);
     auto* const* label = std::get_if<Label*>(&ref);
-    return label && control.spokenName.empty() ? plainCaption(**label) : control.spokenName;
+    return shortened(label && control.spokenName.empty() ? plainCaption(**label)
+                                                         : control.spokenName);
 }
 
 bool isChecked(const ControlRef& ref) {
@@ -42,7 +53,7 @@ Area areaOf(const Control& control) {
 
 struct LookMaker {
     ShownLook operator()(const Label* l) const {
-        return ShownLabel{isSeen(*l) ? l->caption : Text(),
+        return ShownLabel{isSeen(*l) ? shortened(l->caption) : Text(),
                           l->literal,
                           l->font,
                           l->textColor,
@@ -73,8 +84,13 @@ struct LookMaker {
         return look;
     }
     ShownLook operator()(const ListBox* list) const {
-        return isSeen(*list) ? ShownList{list->font, list->items, list->listIndex()}
-                             : ShownList{list->font, {}, -1};
+        if (!isSeen(*list))
+            return ShownList{list->font, {}, -1};
+        ShownList shown{list->font, {}, list->listIndex()};
+        shown.items.reserve(list->items.size());
+        std::transform(list->items.begin(), list->items.end(), std::back_inserter(shown.items),
+                       shortened);
+        return shown;
     }
 };
 

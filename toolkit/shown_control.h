@@ -7,8 +7,12 @@
 
 namespace quillor {
 
+/// Of a caption, an entry or a name: more than fits on any display. Longer ones, which
+/// come out of files, would hold up whoever sets them in type.
+inline constexpr std::size_t kMostShown = 1000;
+
 // What is seen of each kind beside its place. Captions, texts and entries are
-// empty while the control is not seen.
+// empty while the control is not seen, and end at kMostShown.
 
 struct ShownLabel {
     Text caption;

@@ -116,7 +116,8 @@ Text frmInventor::hintOfPhrase() const {
     for (const Topic& topic : settings_.gaTopicLines)
         if (topicTitle(topic) != trimmed(upperCase(txtTheme.text())) &&
             std::any_of(topic.begin() + 1, topic.end(), same))
-            return replaceAll(program_.lang(texts::kFlawElsewhere), u"%", topicTitle(topic));
+            return replaceAll(program_.lang(texts::kFlawElsewhere), u"%",
+                              isolated(topicTitle(topic)));
     return {};
 }
 
@@ -295,7 +296,7 @@ void frmInventor::lblOpen_Click() {
         if (!quietly("open a topic", [&] { openTopic(file); }))
             program_.desktop.messageBox(MessageIcon::Information,
                                         replaceAll(program_.lang(texts::kShareUnread), u"%",
-                                                   fromPath(file.path().filename())));
+                                                   isolated(fromPath(file.path().filename()))));
     });
 }
 

@@ -22,11 +22,11 @@ constexpr TextView kHexDigits = u"0123456789ABCDEF";
 
 // The text in the language, with the detail in place of its "%".
 Text told(const TextPair& pair, bool english, TextView detail = {}) {
-    return replaceAll(english ? pair.english : pair.spanish, u"%", detail);
+    return replaceAll(english ? pair.english : pair.spanish, u"%", isolated(detail));
 }
 
 bool isControl(char16_t sign) {
-    return sign < u' ' || (sign >= 0x7F && sign <= 0xA0) || sign == 0xFFFD || sign == 0xFEFF;
+    return isHiddenSign(sign) || sign == 0xA0 || sign == 0xFFFD || sign == 0xFEFF;
 }
 
 Text numberOf(char16_t sign) {
@@ -217,10 +217,10 @@ std::vector<Place> allFiles(const std::vector<Place>& given, std::vector<Text>& 
             }
             const std::vector<Place> inside = topicFiles(place);
             if (inside.empty())
-                unread.push_back(fromPath(place));
+                unread.push_back(isolated(fromPath(place)));
             std::for_each(inside.begin(), inside.end(), add);
         } catch (const std::runtime_error&) {
-            unread.push_back(fromPath(place));
+            unread.push_back(isolated(fromPath(place)));
         }
     }
     return files;
@@ -280,10 +280,10 @@ TopicReport checkTopics(const std::vector<Place>& filesAndFolders, bool english)
             std::stable_sort(found.begin(), found.end(),
                              [](const Finding& a, const Finding& b) { return a.line < b.line; });
             for (const Finding& finding : found)
-                report.found.push_back(fromPath(file) + u":" + inDigits(finding.line) + u": " +
-                                       finding.text);
+                report.found.push_back(isolated(fromPath(file)) + u":" + inDigits(finding.line) +
+                                       u": " + finding.text);
         } catch (const std::runtime_error&) {
-            report.unread.push_back(fromPath(file));
+            report.unread.push_back(isolated(fromPath(file)));
         }
     }
     return report;

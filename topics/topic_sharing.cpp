@@ -39,7 +39,9 @@ class Sharing {
     }
 
   private:
-    Text told(const TextPair& text) const { return replaceAll(program_.lang(text), u"%", name_); }
+    Text told(const TextPair& text) const {
+        return replaceAll(program_.lang(text), u"%", isolated(name_));
+    }
     bool refuse(const TextPair& reason, TextView more = {}) {
         program_.desktop.messageBox(MessageIcon::Information, told(reason).append(more));
         return false;

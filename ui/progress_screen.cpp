@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "core/numbers.h"
+#include "core/text_rules.h"
 #include "core/topic_library.h"
 #include "toolkit/style.h"
 
@@ -144,7 +145,7 @@ void frmProgress::showTopics(const Progress& progress) {
     lstTopics.clear();
     for (const Topic& topic : settings_.gaTopicLines)
         lstTopics.items.push_back(
-            topicTitle(topic) + u": " + inDigits(solvedPhrases(progress, topic)) +
+            isolated(topicTitle(topic)) + u": " + inDigits(solvedPhrases(progress, topic)) +
             program_.lang(texts::kProgressOf) + inDigits(countPhrases(topic)));
     if (!lstTopics.items.empty())
         lstTopics.select(0);

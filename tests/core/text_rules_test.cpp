@@ -2,6 +2,7 @@
 // three rows of fourteen.
 #include "core/text_rules.h"
 
+#include <algorithm>
 #include <limits>
 #include <set>
 
@@ -257,6 +258,29 @@ TEST(Wrapping, KeepsTheWordsWholeAndInOrderAndDropsOnlyTheLastOnes) {
         ASSERT_EQ(wrapped.cut, trimmed(phrase) != trimmed(words(wrapped.shown))) << round;
         ASSERT_LE(wrapped.shown.size(), static_cast<std::size_t>(kBoardCells)) << round;
     }
+}
+
+TEST(Isolated, KeepsWhatRunsFromLeftToRight) {
+    for (const TextView text : {u"", u"EL PINGÜINO", u"50 % & <b>\"x\"</b>", u"日本 ΩЖ 😀"})
+        EXPECT_EQ(isolated(text), text);
+}
+
+TEST(Isolated, PutsBordersAroundWhatRunsFromRightToLeft) {
+    EXPECT_EQ(isolated(u"שלום"), u"\u2068שלום\u2069");
+    EXPECT_EQ(isolated(u"A مرحبا"), u"\u2068A مرحبا\u2069");
+    EXPECT_EQ(isolated(u"\U00010800"), u"\u2068\U00010800\u2069");
+}
+
+TEST(Isolated, LeavesNothingThatTurnsOrEndsALine) {
+    Text hostile = u"A";
+    for (int sign = 0; sign < 0x10000; ++sign)
+        if (isHiddenSign(static_cast<char16_t>(sign)))
+            hostile += static_cast<char16_t>(sign);
+    hostile += u"\u202Eש\u2069";
+    const Text clean = isolated(hostile);
+    EXPECT_EQ(clean.front(), 0x2068);
+    EXPECT_EQ(clean.back(), 0x2069);
+    EXPECT_TRUE(std::none_of(clean.begin() + 1, clean.end() - 1, isHiddenSign));
 }
 
 }  // namespace

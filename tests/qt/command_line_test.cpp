@@ -2,6 +2,8 @@
 // where it cannot; addresses for the browser.
 #include "qt/command_line.h"
 
+#include <QRegularExpression>
+#include <QUrl>
 #include <stdexcept>
 
 #include <gtest/gtest.h>
@@ -9,8 +11,10 @@
 #include <unistd.h>
 
 #include "config/version.h"
+#include "core/random.h"
 #include "qt/qt_desktop.h"
 #include "qt/system/program_folder.h"
+#include "qt/windows/qt_values.h"
 #include "tests/support/temp_folder.h"
 
 namespace quillor {
@@ -129,7 +133,36 @@ TEST(Address, EncodesAnArticlesName) {
 TEST(Address, TakesNoSignOfAnArticlesNameForAQuery) {
     EXPECT_EQ(encodedAddress(kArticle, u"what?a=b"), "http://es.wiki.example/wiki/what%3Fa%3Db");
     EXPECT_EQ(encodedAddress(kArticle, u"http://x?y=z"),
-              "http://es.wiki.example/wiki/http://x%3Fy%3Dz");
+              "http://es.wiki.example/wiki/http:%2F%2Fx%3Fy%3Dz");
+}
+
+// Whatever is sought: a browser that has tidied the address up is on the page that was meant.
+TEST(Address, LeadsToNoOtherPage) {
+    const Text signs = u"./\\?#&%@:;=+ \t\r\n\"'<>[]{}|^`~a\u00f1\u202e\u2028\xd83d\xde00";
+    Random random(7);
+    for (int i = 0; i < 3000; ++i) {
+        Text sought;
+        while (random.next() < 0.8)
+            sought +=
+                signs[static_cast<std::size_t>(random.next() * static_cast<double>(signs.size()))];
+        for (const TextView page : {kSearch, kArticle}) {
+            const QString address = encodedAddress(page, sought);
+            const QUrl url = QUrl::fromEncoded(address.toLatin1(), QUrl::StrictMode)
+                                 .adjusted(QUrl::NormalizePathSegments);
+            ASSERT_TRUE(url.isValid()) << address.toStdString();
+            ASSERT_TRUE(url.toString(QUrl::FullyEncoded).startsWith(toQt(page)))
+                << address.toStdString();
+            ASSERT_EQ(address.indexOf(QRegularExpression("[?#]"), static_cast<int>(page.size())),
+                      -1);
+            ASSERT_EQ(url.userInfo(), "");
+        }
+    }
+}
+
+TEST(Address, OfDotsAloneIsTheirs) {
+    EXPECT_EQ(encodedAddress(kArticle, u".."), "http://es.wiki.example/wiki/..%20");
+    EXPECT_EQ(encodedAddress(kArticle, u"../x"), "http://es.wiki.example/wiki/..%2Fx");
+    EXPECT_EQ(encodedAddress(kArticle, u"..."), "http://es.wiki.example/wiki/...");
 }
 
 TEST(Address, MayBeThePageAlone) {

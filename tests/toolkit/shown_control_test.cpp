@@ -67,6 +67,23 @@ TEST(ShownControl, SaysNothingWhileItIsNotSeen) {
     EXPECT_EQ(shown.name, u"D");
 }
 
+TEST(ShownControl, ShowsNoMoreOfALongLineThanCanBeSeen) {
+    Label label;
+    label.literal = true;
+    label.caption = Text(1'000'000, u'A');
+    ListBox list;
+    list.items = {Text(kMostShown - 1, u'A') + u"😀B", u"short"};
+    ShownControl shown;
+    shown.update(&label);
+    EXPECT_EQ(std::get<ShownLabel>(shown.look).caption, Text(kMostShown, u'A'));
+    EXPECT_EQ(shown.name, Text(kMostShown, u'A'));
+    ShownControl shownList;
+    shownList.update(&list);
+    const Text whole(kMostShown - 1, u'A');
+    EXPECT_EQ(std::get<ShownList>(shownList.look).items, (std::vector<Text>{whole, u"short"}));
+    EXPECT_FALSE(shownList.update(&list).any());
+}
+
 TEST(ShownControl, IsNamedByWhatIsSpokenFirst) {
     Label label;
     label.caption = u"a";

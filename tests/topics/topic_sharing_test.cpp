@@ -75,6 +75,11 @@ TEST_F(Sharing, SaysWhatCannotBeRead) {
     dropOnMenu(others / "gone.txt");
 }
 
+TEST_F(Sharing, TellsANameThatWouldTurnTheLineOrEndIt) {
+    expectSaid(texts::kShareNoTopic, u"a b.doc");
+    dropOnMenu(file("\u202Ea\nb.doc", kSound));
+}
+
 TEST_F(Sharing, RefusesATopicThatCannotBePlayed) {
     desktop.expectMessage(
         u"The game cannot use \"short.txt\":\r\nLine 1: there are fewer than two phrases in a row "

@@ -158,6 +158,15 @@ TEST_F(ProgressTest, DrawsALineThroughTheScores) {
                     line->y1 >= page().shpChart.top && line->y2 <= page().shpChart.bottom());
 }
 
+TEST_F(ProgressTest, LetsNoTitleTurnItsLineAround) {
+    addTopic(u"\u202EEVIL\u2069\r\nONE\r\nTWO");
+    addTopic(u"שלום\r\nONE\r\nTWO");
+    openArcade();
+    openPage();
+    EXPECT_EQ(page().lstTopics.items,
+              (std::vector<Text>{u"EVIL: 0 of 2", u"\u2068שלום\u2069: 0 of 2"}));
+}
+
 TEST_F(ProgressTest, DrawsFiftyScores) {
     start();
     for (int i = 0; i < 60; ++i)
