@@ -20,9 +20,9 @@ else()
     target_compile_options(quillor_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 endif()
 if(QUILLOR_SANITIZE)
-    target_compile_options(quillor_options INTERFACE -fsanitize=address,undefined,float-cast-overflow
+    target_compile_options(quillor_options INTERFACE -fsanitize=${QUILLOR_SANITIZERS}
                            -fno-sanitize-recover=all -fno-omit-frame-pointer)
-    target_link_options(quillor_options INTERFACE -fsanitize=address,undefined)
+    target_link_options(quillor_options INTERFACE -fsanitize=${QUILLOR_SANITIZERS})
 endif()
 if(QUILLOR_FUZZ)
     target_compile_options(quillor_options INTERFACE -fsanitize=fuzzer-no-link)

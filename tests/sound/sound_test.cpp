@@ -163,6 +163,20 @@ TEST_F(SoundPlayerTest, EndsWhileTheDeviceHangs) {
     EXPECT_LT(Clock::now() - start, kSoon);
 }
 
+TEST_F(SoundPlayerTest, PlaysAgainOnceADeviceThatHungComesBack) {
+    limit({10s, 1min, 1ms, 1h});
+    std::promise<void> back;
+    script_->playingHangsUntil = back.get_future().share();
+    EXPECT_LT(play(image_), kSoon);
+    expectNoWaiting();
+    EXPECT_EQ(script_->noted(), (Calls{"open 44100 2", "play 200"}));
+    back.set_value();
+    const auto deadline = Clock::now() + kSoon;
+    while (script_->noted().size() < 4 && Clock::now() < deadline)
+        play(image_);
+    EXPECT_EQ(script_->noted(), (Calls{"open 44100 2", "play 200", "open 44100 2", "play 200"}));
+}
+
 TEST_F(SoundPlayerTest, LetsTheDeviceRestAfterAWhileWithoutSounds) {
     limit({1min, 1min, 1min, 1ms});
     play(image_);
