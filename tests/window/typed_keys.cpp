@@ -97,7 +97,7 @@ struct Typist : QObject {
 };
 
 void start() {
-    new Typist;  // as long as the program
+    (new Typist)->setParent(QCoreApplication::instance());
 }
 
 }  // namespace
