@@ -1,11 +1,13 @@
 // Files of any content in the program folder: settings, colour, progress and topics.
 // Whatever they hold the program reads them, and reads what it has written itself.
+#include "app/program.h"
 #include "core/memory_disk.h"
 #include "core/progress.h"
 #include "core/settings_file.h"
 #include "core/text_codec.h"
 #include "core/topic_library.h"
 #include "tests/fuzz/bytes.h"
+#include "tests/support/fake_desktop.h"
 #include "topics/topic_check.h"
 
 namespace quillor::testing {
@@ -49,6 +51,15 @@ void readTopic(std::string_view file) {
             require(finding.line >= 1 && !finding.text.empty(), "a finding says where and what");
 }
 
+// The colour file is read by the start screen.
+void start(const Place& folder) {
+    FakeDesktop desktop;
+    Program program(desktop, folder);
+    desktop.deliver([&] { program.show(ScreenId::Start); });
+    desktop.deliver([&] { program.close(*program.find(ScreenId::Start)); });
+    program.destroyClosed();
+}
+
 }  // namespace
 
 }  // namespace quillor::testing
@@ -57,7 +68,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace quillor;
     using namespace quillor::testing;
     Bytes bytes(data, size);
-    const std::size_t what = bytes.below(3);
+    const std::size_t what = bytes.below(4);
     const std::string_view file = bytes.file();
     MemoryDisk disk;
     const Place folder("/program", disk);
@@ -67,6 +78,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     } else if (what == 1) {
         disk.put(progressFile(folder), file);
         readProgressFile(folder);
+    } else if (what == 2) {
+        disk.put("/program/Color.txt", file);
+        start(folder);
     } else {
         readTopic(file);
     }

@@ -73,6 +73,8 @@ struct Typist : QObject {
     }
 
     static void press(QWindow& window, const QString& word) {
+        if (word.isEmpty())
+            return;
         const bool control = word.size() == 2 && word.startsWith('^');
         const QString name = control ? word.mid(1) : word;
         int key = name.front().toUpper().unicode();
