@@ -147,9 +147,12 @@ int close(int number) {
 int fsync(int number) {
     return called(isWatched(number), SYS_fsync, number);
 }
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wshadow"  // there is a struct of that name
 int flock(int number, int operation) noexcept {
     return called(isWatched(number), SYS_flock, number, operation);
 }
+#pragma GCC diagnostic pop
 int fstat(int number, struct stat* found) noexcept {
     return called(isWatched(number), SYS_newfstatat, number, "", found, AT_EMPTY_PATH);
 }
