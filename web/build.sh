@@ -78,7 +78,7 @@ gather() {
     rm -rf "$made"
     mkdir -p "$made"
     cp "$compiled/web/quillor.mjs" "$compiled/web/quillor.wasm" "$made/"
-    cp "$root"/web/page/*.js "$root"/web/page/style.css "$root"/web/page/manual.css "$made/"
+    cp "$root"/web/page/*.js "$root"/web/page/*.css "$made/"
     rm "$made/sw.js"
     cp "$root"/resources/pictures/*.svg "$root"/resources/icon/quillor.svg \
         "$root"/resources/icon/quillor-{48,256,512}.png "$root"/resources/sounds/10[1-6].wav \
@@ -99,19 +99,21 @@ publish() {
     local digest
     digest=$(cd "$made" && find . -type f | LC_ALL=C sort | xargs -d '\n' sha256sum | sha256sum)
     local name=$version-${digest:0:12}
-    local preloads files
+    local preloads styles files
     preloads=$(cd "$made" && find . -name '*.js' \
         -printf '<link rel="modulepreload" href="@VERSION@/%P">\n' | LC_ALL=C sort)
+    styles=$(cd "$made" && find . -name '*.css' ! -name manual.css \
+        -printf '<link rel="stylesheet" href="@VERSION@/%P">\n' | LC_ALL=C sort)
     files=$(cd "$made" && find . -type f -printf '@VERSION@/%P\n' | LC_ALL=C sort |
         sed ':all; N; $!ball; s/\n/",\n    "/g')
     rm -rf "$output"
     mkdir -p "$output"
     cp -R "$made" "$output/$name"
     fill() {
-        PRELOADS=$preloads FILES=$files NAME=$name python3 -c '
+        PRELOADS=$preloads STYLES=$styles FILES=$files NAME=$name python3 -c '
 import os, sys
 text = sys.stdin.read()
-for mark in ("PRELOADS", "FILES"):
+for mark in ("PRELOADS", "STYLES", "FILES"):
     text = text.replace(f"@{mark}@", os.environ[mark])
 sys.stdout.write(text.replace("@VERSION@", os.environ["NAME"]))' <"$root/web/page/$1" >"$output/$1"
     }

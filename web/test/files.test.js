@@ -107,12 +107,7 @@ test("what one tab saves the other one has", () =>
 test("a storage that is refused is told of, and the game goes on", () =>
     played({ before: () => Object.defineProperty(window, "indexedDB", { value: { open: () => { throw new Error("refused"); } } }) }, async (player) => {
         await player.answer("critical");
-        await player.screen("frmMenu");
-        await player.press("a");
-        await player.screen("frmGame");
-        await player.press("Enter");
-        await player.screen("frmWord2");
-        await player.press("Enter");
+        await player.openGame("");
         await player.says("lblStatus", "PLAYING");
     }));
 

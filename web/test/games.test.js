@@ -5,13 +5,7 @@ import { englishFiles, played } from "./player.js";
 
 test("a game is won by the keyboard alone", () =>
     played({ files: englishFiles }, async (player) => {
-        await player.screen("frmMenu");
-        await player.press("a");
-        await player.screen("frmGame");
-        await player.press("Enter");
-        await player.screen("frmWord2");
-        await player.press("Enter");
-        await player.says("lblTopic", "AARDVARK");
+        await player.openGame();
         await player.guess("atnp");
         await player.says("lblStatus", "VICTORY");
     }));
@@ -48,13 +42,7 @@ test("a phrase of one's own is played by touch on a phone", () =>
 
 test("the answer typed at once ends the game", () =>
     played({ files: englishFiles }, async (player) => {
-        await player.screen("frmMenu");
-        await player.press("a");
-        await player.screen("frmGame");
-        await player.press("Enter");
-        await player.screen("frmWord2");
-        await player.press("Enter");
-        await player.says("lblTopic", "AARDVARK");
+        await player.openGame();
         await player.press("!");
         await player.page.waitForSelector("dialog[data-box='input'] input:focus");
         await player.type("cat nap");

@@ -5,16 +5,6 @@ import { Player, browserName, englishFiles, played } from "./player.js";
 
 const kMostBytes = 450_000;
 
-async function openGame(player) {
-    await player.screen("frmMenu");
-    await player.press("a");
-    await player.screen("frmGame");
-    await player.press("Enter");
-    await player.screen("frmWord2");
-    await player.press("Enter");
-    await player.says("lblTopic", "AARDVARK");
-}
-
 test("the second visit needs no network", async () => {
     const player = await Player.start({ files: englishFiles });
     try {
@@ -26,7 +16,7 @@ test("the second visit needs no network", async () => {
         });
         await player.stopServer();
         await player.reload();
-        await openGame(player);
+        await player.openGame();
         await player.guess("atnp");
         await player.says("lblStatus", "VICTORY");
     } finally {
@@ -79,7 +69,7 @@ test("the first screen is there within a second", { skip: browserName !== "chrom
 
 test("a key is seen within a sixtieth of a second", { skip: browserName !== "chrome" }, () =>
     played({ files: englishFiles }, async (player) => {
-        await openGame(player);
+        await player.openGame();
         // The browser tells of every event that took longer than 16 ms until it was painted.
         await player.page.evaluate(() => {
             window.slow = [];
@@ -132,7 +122,7 @@ function slowSounds() {
 
 test("a sound is played to its end before the next key counts", () =>
     played({ files: englishFiles, before: slowSounds }, async (player) => {
-        await openGame(player);
+        await player.openGame();
         await player.page.evaluate(() => {
             for (const each of window.playing.splice(0)) each.onended();
         });
@@ -147,7 +137,7 @@ test("a sound is played to its end before the next key counts", () =>
 
 test("a player without sound waits for nothing", () =>
     played({ files: englishFiles, before: () => { delete window.AudioContext; } }, async (player) => {
-        await openGame(player);
+        await player.openGame();
         const start = Date.now();
         await player.guess("atnp");
         await player.says("lblStatus", "VICTORY");
@@ -156,7 +146,7 @@ test("a player without sound waits for nothing", () =>
 
 test("timers run on while a box is open", () =>
     played({ files: englishFiles }, async (player) => {
-        await openGame(player);
+        await player.openGame();
         await player.press("!");
         await player.page.waitForSelector("dialog[data-box='input']");
         const dots = () => player.page.evaluate(() => document.querySelector("[data-id='lblStatus']").textContent);
@@ -169,7 +159,7 @@ test("timers run on while a box is open", () =>
 
 test("the search opens another tab, and the manual too", () =>
     played({ files: englishFiles, before: () => { window.opened = []; window.open = (address) => { window.opened.push(address); return null; }; } }, async (player) => {
-        await openGame(player);
+        await player.openGame();
         await player.guess("atnp");
         await player.says("lblStatus", "VICTORY");
         await player.click("lblFinder(0)");

@@ -76,13 +76,7 @@ test("nothing is found during a game, its menus and its boxes", () =>
 
 test("what has happened is said", () =>
     played({ files: englishFiles }, async (player) => {
-        await player.screen("frmMenu");
-        await player.press("a");
-        await player.screen("frmGame");
-        await player.press("Enter");
-        await player.screen("frmWord2");
-        await player.press("Enter");
-        await player.says("lblTopic", "AARDVARK");
+        await player.openGame();
         await player.press("a");
         await player.until(() => {
             const spoken = document.querySelector(".screen[data-name='frmGame'] [role='status']");
@@ -120,13 +114,7 @@ test("a dark scheme and high contrast change the paper", { skip: browserName !==
 
 test("upright on a phone every key is 40 pixels wide and high at least", () =>
     played({ files: englishFiles, width: 360, height: 640 }, async (player) => {
-        await player.screen("frmMenu");
-        await player.press("a");
-        await player.screen("frmGame");
-        await player.press("Enter");
-        await player.screen("frmWord2");
-        await player.press("Enter");
-        await player.says("lblTopic", "AARDVARK");
+        await player.openGame();
         const sizes = await player.page.$$eval(".screen[data-name='frmGame'] button[data-id^='lblKey(']", (keys) =>
             keys.filter((key) => key.checkVisibility()).map((key) => key.getBoundingClientRect()).map(({ width, height }) => Math.min(width, height)),
         );
@@ -144,12 +132,7 @@ test("on a display of 4K all is larger, and nothing has to be scrolled", () =>
 
 test("a window that is turned lays the game out anew and keeps it", () =>
     played({ files: englishFiles, width: 1000, height: 600 }, async (player) => {
-        await player.screen("frmMenu");
-        await player.press("a");
-        await player.screen("frmGame");
-        await player.press("Enter");
-        await player.screen("frmWord2");
-        await player.press("Enter");
+        await player.openGame();
         await player.guess("t");
         const wide = await player.placeOf("lblPlay(0)");
         await player.page.setViewport({ width: 600, height: 1000 });

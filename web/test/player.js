@@ -1,5 +1,6 @@
 // Plays the page in a real browser, as a person does: what cannot be seen cannot be pressed.
 import { once } from "node:events";
+import { after } from "node:test";
 import { fileURLToPath } from "node:url";
 import puppeteer from "puppeteer-core";
 import { serve } from "../serve.js";
@@ -7,7 +8,29 @@ import { serve } from "../serve.js";
 export const browserName = process.env.QUILLOR_BROWSER ?? "chrome";
 const programs = { chrome: "/usr/bin/chromium", firefox: "/usr/bin/firefox-esr" };
 export const folder = fileURLToPath(new URL("../../build/web", import.meta.url));
-const patience = 15_000;
+const patience = 20_000;
+const mostPatience = 150_000; // for a whole test
+
+/** One browser for all tests of a file, and for each of them a context with a storage of its
+ * own: by the language, which Firefox takes at its start alone. @type {Map<string, Promise<any>>} */
+const browsers = new Map();
+after(async () => {
+    for (const browser of browsers.values()) await (await browser).close();
+});
+
+function browserFor(languages) {
+    const known = browsers.get(languages);
+    if (known) return known;
+    const started = puppeteer.launch({
+        browser: browserName,
+        executablePath: programs[browserName],
+        headless: true,
+        args: browserName === "chrome" ? ["--no-sandbox", "--autoplay-policy=no-user-gesture-required"] : [],
+        extraPrefsFirefox: { "intl.accept_languages": languages },
+    });
+    browsers.set(languages, started);
+    return started;
+}
 
 /** What a letter of ours is found in: a topic of one phrase, fifty times. */
 export function topicOf(title, phrase) {
@@ -17,20 +40,14 @@ export function topicOf(title, phrase) {
 export class Player {
     /** Starts a browser and a server. `options`: width, height, touch, languages, before (a
      * function that runs in each page before its script), files (by their paths, in storage
-     * before the first start). */
+     * before the first start), folder (another build of the page). */
     static async start(options = {}) {
         const player = new Player();
-        player.server = await serve(folder);
+        player.server = await serve(options.folder ?? folder);
         player.port = player.server.address().port;
         player.address = `http://127.0.0.1:${player.port}/`;
-        const chrome = browserName === "chrome";
-        player.browser = await puppeteer.launch({
-            browser: browserName,
-            executablePath: programs[browserName],
-            headless: true,
-            args: chrome ? ["--no-sandbox", "--autoplay-policy=no-user-gesture-required"] : [],
-            extraPrefsFirefox: { "intl.accept_languages": options.languages ?? "en" },
-        });
+        const browser = await browserFor(options.languages ?? "en");
+        player.context = await browser.createBrowserContext();
         player.options = options;
         player.troubles = [];
         await player.openTab();
@@ -39,7 +56,7 @@ export class Player {
 
     async openTab() {
         const { width = 1320, height = 810, touch = false, before, files, density = 1 } = this.options;
-        this.page = await this.browser.newPage();
+        this.page = await this.context.newPage();
         this.page.on("pageerror", (error) => this.troubles.push(String(error.stack ?? error)));
         this.page.on("console", (message) => {
             if (message.type() === "error") this.troubles.push(message.text());
@@ -55,6 +72,10 @@ export class Player {
         } else {
             await this.page.setViewport({ width, height });
         }
+        // Firefox keeps what its policy refuses from who listens to the console.
+        await this.page.evaluateOnNewDocument(() =>
+            document.addEventListener("securitypolicyviolation", (event) => console.error(`refused ${event.violatedDirective} ${event.blockedURI}`)),
+        );
         if (before) await this.page.evaluateOnNewDocument(before);
         if (files) await this.putFiles(files);
         await this.page.goto(this.address);
@@ -79,7 +100,7 @@ export class Player {
     }
     /** Also says what the page had to complain of. */
     async stop() {
-        await this.browser.close();
+        await this.context.close();
         if (this.server.listening) await this.stopServer();
         return this.troubles;
     }
@@ -96,6 +117,16 @@ export class Player {
                 ),
             name,
         );
+    }
+    /** Goes from the menu into a game of the arcade mode with the first topic. */
+    async openGame(topic = "AARDVARK") {
+        await this.screen("frmMenu");
+        await this.press("a");
+        await this.screen("frmGame");
+        await this.press("Enter");
+        await this.screen("frmWord2");
+        await this.press("Enter");
+        await this.says("lblTopic", topic);
     }
     async element(id) {
         const handle = await this.page.waitForFunction(
@@ -170,7 +201,7 @@ export class Player {
 
     // Files, in the browser's storage, by a page of ours that runs no script.
     async onQuietPage(work, value) {
-        const quiet = await this.browser.newPage();
+        const quiet = await this.context.newPage();
         await quiet.goto(`${this.address}LICENSE.txt`);
         const result = await quiet.evaluate(work, value);
         await quiet.close();
@@ -222,12 +253,15 @@ export const englishFiles = {
 export async function played(options, body) {
     const player = await Player.start(options);
     let result;
+    // Whatever the browser owes an answer then gets none any more, and says so.
+    const alarm = setTimeout(() => player.context.close(), mostPatience);
     try {
         result = await body(player);
     } catch (error) {
         error.message += `\n${player.troubles.join("\n")}`;
         throw error;
     } finally {
+        clearTimeout(alarm);
         await player.stop();
     }
     if (player.troubles.length > 0) throw new Error(player.troubles.join("\n"));
