@@ -52,12 +52,11 @@ lay_out_folder() {
 
 # Until it is interrupted.
 serve_page() {
-    local address=http://localhost:8642/
+    local opener=xdg-open
+    [ "$(uname)" != Darwin ] || opener=open
+    if ! have_screen || ! command -v "$opener" >/dev/null; then opener=; fi
     "$root/web/build.sh"
-    if have_screen && command -v xdg-open >/dev/null; then
-        (sleep 1 && xdg-open "$address" >/dev/null 2>&1) &
-    fi
-    exec node "$root/web/serve.js" "$root/build/web" 8642
+    QUILLOR_OPENER=$opener exec node "$root/web/serve.js" "$root/build/web"
 }
 
 if [ "${1:-}" = --web ]; then

@@ -239,6 +239,9 @@ inline constexpr TextPair kTopicsBox{
     u"Your topics are kept in this browser. Download those that you want to take along."};
 inline constexpr TextPair kTopicsTake{u"Agregar temas…", u"Add topics…"};
 inline constexpr TextPair kTopicsAll{u"Descargar todos", u"Download all"};
+inline constexpr TextPair kPictureRemove{u"Quitar la imagen", u"Remove the picture"};
+inline constexpr TextPair kNoPicture{u"No se puede usar esa imagen como fondo.",
+                                     u"That picture cannot be used as the background."};
 inline constexpr TextPair kNothingIsKept{
     u"El navegador no deja guardar nada. Puedes jugar, pero los ajustes y los temas se perderán "
     u"al cerrar la página.",

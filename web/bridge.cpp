@@ -1,6 +1,7 @@
 #include "web/bridge.h"
 
 #include <chrono>
+#include <cstdlib>
 
 #include <emscripten.h>
 
@@ -29,8 +30,7 @@ void show(const Messages& messages) {
 }
 
 int wait(const Messages& request) {
-    const std::string copy = request.written();
-    return page_wait(copy.c_str());
+    return page_wait(request.written().c_str());
 }
 
 Text answer() {
@@ -49,7 +49,8 @@ bool isFullScreen() {
 }
 
 std::int64_t milliseconds() {
-    return static_cast<std::int64_t>(emscripten_get_now());
+    using namespace std::chrono;
+    return duration_cast<std::chrono::milliseconds>(steady_clock::now().time_since_epoch()).count();
 }
 
 std::uint64_t clockReading() {

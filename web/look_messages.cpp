@@ -89,6 +89,7 @@ struct LookTeller {
     }
     void operator()(const Picture*) const {
         const auto& look = std::get<ShownPicture>(shown.look);
+        out.key("photo").flag(look.image != nullptr && !scheme.isHighContrast());
         out.key("drawing").word(scheme.isHighContrast() ? "" : look.drawing);
         out.key("drawn").area(look.drawn);
     }

@@ -1,9 +1,13 @@
 // Each wish by way of the script; whatever opens a box runs inside PageShell::modally.
 #include "web/page_desktop.h"
 
+#include <algorithm>
 #include <ctime>
+#include <memory>
 #include <stdexcept>
 
+#include "core/files.h"
+#include "core/numbers.h"
 #include "core/text_rules.h"
 #include "core/texts.h"
 #include "web/bridge.h"
@@ -31,6 +35,22 @@ void tellMenu(Messages& out, const MenuItem& menu, std::vector<MenuItem*>& entri
     out.endList();
 }
 
+/// A picture that the script has.
+class PageImage : public Image {
+  public:
+    explicit PageImage(const std::array<Color, 2>& colours) : colours_(colours) {}
+    std::array<Color, 2> range() const override { return colours_; }
+
+  private:
+    std::array<Color, 2> colours_;
+};
+
+// "DARKEST LIGHTEST", as numbers.
+std::array<Color, 2> coloursIn(const Text& answer) {
+    const std::size_t space = std::min(answer.find(u' '), answer.size());
+    return {toLong(leadingNumber(answer)), toLong(leadingNumber(answer.substr(space)))};
+}
+
 Messages commanded(const char* name) {
     Messages command;
     command.beginObject().key("command").word(name);
@@ -53,9 +73,10 @@ Messages& PageDesktop::begin(Messages& request, const char* box) const {
     return request.beginObject().key("box").word(box);
 }
 
-// The first one is the main one. What is marked is pressed with Alt.
-void PageDesktop::buttons(Messages& request, std::initializer_list<TextPair> captions) const {
-    request.key("buttons").beginList();
+// `main`, counted from 1, is what Return presses. What is marked is pressed with Alt.
+void PageDesktop::buttons(Messages& request, std::initializer_list<TextPair> captions,
+                          int main) const {
+    request.key("main").number(main).key("buttons").beginList();
     for (const TextPair& pair : captions) {
         const Text caption = program_->lang(pair);
         const char16_t access = accessKey(caption);
@@ -80,11 +101,8 @@ void PageDesktop::messageBox(MessageIcon icon, TextView text) {
 bool PageDesktop::question(TextView text, bool yesLoses) {
     Messages request;
     begin(request, "question").key("text").text(replaceAll(text, u"\r\n", u"\n"));
-    if (yesLoses)
-        buttons(request, {texts::kNo, texts::kYes});
-    else
-        buttons(request, {texts::kYes, texts::kNo});
-    return ask(request) == (yesLoses ? 2 : 1);
+    buttons(request, {texts::kYes, texts::kNo}, yesLoses ? 2 : 1);
+    return ask(request) == 1;
 }
 
 Text PageDesktop::inputBox(TextView prompt) {
@@ -112,8 +130,13 @@ void PageDesktop::setClipboard(TextView text) {
     bridge::command(commanded("copy").key("text").text(text).endObject());
 }
 
-ImageRef PageDesktop::loadPicture(const Place&) {
-    throw std::runtime_error("no picture");
+// No event is delivered while it is decoded.
+ImageRef PageDesktop::loadPicture(const Place& file) {
+    Messages request;
+    begin(request, "picture").key("path").text(fromPath(file.path()));
+    if (bridge::wait(request.endObject()) == 0)
+        throw std::runtime_error("no picture");
+    return std::make_shared<PageImage>(coloursIn(bridge::answer()));
 }
 
 // Of all files that are opened only the manual is there.
@@ -173,22 +196,21 @@ void PageDesktop::setFullScreen(bool on) {
 
 void PageDesktop::end() {
     shell_.end();
-    bridge::command(commanded("end").endObject());
+    bridge::command(commanded(startsAnew_ ? "restart" : "end").endObject());
 }
 
-void PageDesktop::topicsBox(Screen& screen,
-                            const std::vector<std::pair<Text, std::string>>& files) {
+bool PageDesktop::topicsBox(const Screen& screen, bool hasPicture) {
+    constexpr int kRemoves = 2;
     Messages request;
     begin(request, "topics").key("text").text(program_->lang(texts::kTopicsBox));
     request.key("takes").flag(screen.takesFiles());
     request.key("takeCaption").text(program_->lang(texts::kTopicsTake));
     request.key("allCaption").text(program_->lang(texts::kTopicsAll));
-    request.key("files").beginList();
-    for (const auto& [name, path] : files)
-        request.beginObject().key("name").text(name).key("path").word(path).endObject();
-    request.endList();
-    buttons(request, {texts::kAccept});
-    ask(request);
+    if (hasPicture)
+        buttons(request, {texts::kAccept, texts::kPictureRemove});
+    else
+        buttons(request, {texts::kAccept});
+    return ask(request) == kRemoves;
 }
 
 }  // namespace quillor

@@ -25,7 +25,7 @@ class PageDesktop : public Desktop {
     void setClipboard(TextView text) override;
     /// The fonts come with the page.
     bool fontPresent(TextView) override { return true; }
-    /// A page has no picture of the player's.
+    /// The script decodes it, and keeps the latest. Throws std::runtime_error when it is none.
     ImageRef loadPicture(const Place& file) override;
     void open(const std::filesystem::path& file) override;
     void openAddress(TextView page, TextView sought) override;
@@ -41,23 +41,25 @@ class PageDesktop : public Desktop {
     void popUp(Screen& screen, MenuItem& menu, const Control* under = nullptr) override;
     bool isFullScreen() const override;
     void setFullScreen(bool on) override;
-    /// Ending the run starts it anew: nobody can close a page but the player.
-    void startProgram() override {}
+    /// What follows the end.
+    void startProgram() override { startsAnew_ = true; }
+    /// Closes the page where the browser lets it; elsewhere, and for a new start, loads it anew.
     void end() override;
 
-    /// Topic files out of the page and into it, by a box of the page's own: `files` are those
-    /// of the folder, each by its name.
-    void topicsBox(Screen& screen, const std::vector<std::pair<Text, std::string>>& files);
+    /// Topic files out of the page and into it, by a box of the page's own. Returns whether
+    /// the player's picture is to go, which is asked where there is one.
+    bool topicsBox(const Screen& screen, bool hasPicture);
 
   private:
     Messages& begin(Messages& request, const char* box) const;
-    void buttons(Messages& request, std::initializer_list<TextPair> captions) const;
+    void buttons(Messages& request, std::initializer_list<TextPair> captions, int main = 1) const;
     int ask(Messages& request);
 
     PageShell& shell_;
     Program* program_ = nullptr;
     Random random_;
     std::array<std::byte, 7> sounds_;
+    bool startsAnew_ = false;
 };
 
 }  // namespace quillor

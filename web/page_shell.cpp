@@ -116,7 +116,7 @@ void PageShell::refresh() {
     tellColorsOnce(messages);
     tellLanguageOnce(messages);
     for (const auto& each : screens_)
-        each->tell(messages, scheme_);
+        each->tell(messages, scheme_, pixelsOfTwip());
     tellFronts(messages);
     std::vector<Screen*> open;
     for (const auto& each : screens_)
@@ -125,6 +125,15 @@ void PageShell::refresh() {
     setAlarm(messages);
     telling_ = false;
     send(messages.endList());
+}
+
+// On the page in front; what stands over it is as large.
+double PageShell::pixelsOfTwip() const {
+    double twip = 0;
+    for (const auto& each : screens_)
+        if (!each->screen().over)
+            twip = std::min(width_ / each->sheet().width, height_ / each->sheet().height);
+    return twip;
 }
 
 // The script shows the last of the large screens, and what stands over it.

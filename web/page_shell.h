@@ -75,6 +75,7 @@ class PageShell {
   private:
     void settle();
     void refresh();
+    double pixelsOfTwip() const;
     void tellFronts(Messages& messages);
     void tellColorsOnce(Messages& messages);
     void tellLanguageOnce(Messages& messages);

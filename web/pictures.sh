@@ -31,7 +31,8 @@ QUILLOR_BROWSER=chrome node "$root/web/test/pictures.js" "$output/page"
 status=0
 for page in "$output"/page/*.png; do
     name=$(basename "$page")
-    window=$output/window/$name
+    # The tour numbers its own.
+    window=$(find "$output/window" -name "[0-9]*-$name")
     montage "$window" "$page" -tile 2x1 -geometry +4+4 "$output/$name"
     difference=$({ compare -metric RMSE <(convert "$window" -resize 132x81! png:-) \
         <(convert "$page" -resize 132x81! png:-) null: 2>&1 || true; } | sed 's/.*(\(.*\))/\1/')

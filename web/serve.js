@@ -1,5 +1,7 @@
 // Serves the page from this machine: node web/serve.js [FOLDER [PORT]]
+// QUILLOR_OPENER  the command that opens an address in a browser (default: none)
 // It compresses as any web server can be told to. For trying the page out, not for the world.
+import { spawn } from "node:child_process";
 import { createReadStream, existsSync, statSync } from "node:fs";
 import { createServer } from "node:http";
 import { extname, join, normalize } from "node:path";
@@ -22,13 +24,29 @@ const types = {
 };
 const compressed = new Set([".html", ".js", ".mjs", ".css", ".json", ".txt", ".svg", ".wasm", ".webmanifest"]);
 
+/** What an address asks for; null where it is none. */
+function fileOf(folder, address) {
+    try {
+        return join(folder, normalize(decodeURIComponent(new URL(address, "http://localhost").pathname)));
+    } catch {
+        return null;
+    }
+}
+
+/** Has this machine's browser open an address, where it can be told how. */
+function open(address, opener) {
+    if (!opener) return;
+    const started = spawn(opener, [address], { stdio: "ignore", detached: true });
+    started.on("error", () => {});
+    started.unref();
+}
+
 /** Starts serving a folder; port 0 is any that is free. Resolves once it listens. */
 export function serve(folder, port = 0) {
     const server = createServer((request, response) => {
-        const path = decodeURIComponent(new URL(request.url, "http://localhost").pathname);
-        let file = join(folder, normalize(path));
-        if (existsSync(file) && statSync(file).isDirectory()) file = join(file, "index.html");
-        if (!file.startsWith(folder) || !existsSync(file)) {
+        let file = fileOf(folder, request.url);
+        if (file && existsSync(file) && statSync(file).isDirectory()) file = join(file, "index.html");
+        if (!file || !file.startsWith(folder) || !existsSync(file)) {
             response.writeHead(404).end();
             return;
         }
@@ -50,6 +68,9 @@ export function serve(folder, port = 0) {
 
 if (process.argv[1] === fileURLToPath(import.meta.url)) {
     const folder = normalize(process.argv[2] ?? fileURLToPath(new URL("../build/web", import.meta.url)));
-    const server = await serve(folder, Number(process.argv[3] ?? 8642));
-    console.log(`http://localhost:${server.address().port}/`);
+    // Another program may have the usual one.
+    const server = await serve(folder, Number(process.argv[3] ?? 8642)).catch(() => serve(folder));
+    const address = `http://localhost:${server.address().port}/`;
+    console.log(`Quillor is at ${address} until you press Ctrl+C.`);
+    open(address, process.env.QUILLOR_OPENER);
 }

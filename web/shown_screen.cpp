@@ -8,6 +8,12 @@
 
 namespace quillor {
 
+namespace {
+
+constexpr double kUsualTwips = 15;  // a pixel, where a point of a font is one of a page
+
+}  // namespace
+
 ShownScreen::ShownScreen(int number, int over, Screen& screen)
     : number_(number),
       over_(over),
@@ -29,7 +35,8 @@ int ShownScreen::indexOf(const Control* control) const {
     return -1;
 }
 
-void ShownScreen::tell(Messages& messages, const Scheme& scheme) {
+void ShownScreen::tell(Messages& messages, const Scheme& scheme, double twip) {
+    twip_ = twip;
     if (!std::exchange(opened_, true))
         tellOpening(messages);
     tellScreen(messages);
@@ -56,6 +63,16 @@ void ShownScreen::tellOpening(Messages& messages) const {
     messages.endList().endObject();
 }
 
+// A screen of one layout stands on a wide page, a dialog on none.
+Sheet ShownScreen::sheet() const {
+    Sheet sheet = screen_.sheet();
+    if (sheet.width <= 0) {
+        sheet.width = over_ != 0 ? screen_.width : std::max(screen_.width, kWideSheet.width);
+        sheet.height = over_ != 0 ? screen_.height : std::max(screen_.height, kWideSheet.height);
+    }
+    return sheet;
+}
+
 void ShownScreen::tellScreen(Messages& messages) {
     const Area size{0, 0, screen_.width, screen_.height};
     const bool same = size == size_ && sheet_ == screen_.sheet() && title_ == screen_.title &&
@@ -66,12 +83,7 @@ void ShownScreen::tellScreen(Messages& messages) {
     sheet_ = screen_.sheet();
     title_ = screen_.title;
     enabled_ = screen_.enabled;
-    // A screen of one layout stands on a wide page, a dialog on none.
-    Sheet sheet = sheet_;
-    if (sheet.width <= 0) {
-        sheet.width = over_ != 0 ? size.width : std::max(size.width, kWideSheet.width);
-        sheet.height = over_ != 0 ? size.height : std::max(size.height, kWideSheet.height);
-    }
+    const Sheet sheet = this->sheet();
     messages.beginObject().key("tell").word("screen").key("screen").number(number_);
     messages.key("title").text(title_).key("enabled").flag(enabled_);
     messages.key("size").numbers({size.width, size.height});
@@ -83,8 +95,14 @@ bool ShownScreen::takeInk(Told& told, const ControlRef& ref, const Scheme& schem
     if (!isSeen(controlOf(ref)))
         return false;
     std::optional<Inked> now;
-    if (auto* const* label = std::get_if<Label*>(&ref); label && !(*label)->caption.empty())
+    if (auto* const* label = std::get_if<Label*>(&ref); label && !(*label)->caption.empty()) {
         now = inked(screen_, **label, scheme);
+        // Letters that are large on a desk may be small on a phone.
+        Font drawn = (*label)->font;
+        drawn.size *= static_cast<float>(twip_ * kUsualTwips);
+        if (twip_ > 0)
+            now->needed = std::max(now->needed, scheme.needed(contrastNeeded(drawn)));
+    }
     if (auto* const* line = std::get_if<Line*>(&ref))
         now = inked(screen_, **line, scheme);
     if (!now || now == told.inked)

@@ -25,8 +25,11 @@ class ShownScreen {
     const ControlRef* at(int index) const;
     int indexOf(const Control* control) const;  // -1: none
 
-    /// Tells of all that has changed since the last call, at the first one of everything.
-    void tell(Messages& messages, const Scheme& scheme);
+    /// What its sheet is, also of a screen that has one layout alone.
+    Sheet sheet() const;
+    /// Tells of all that has changed since the last call, at the first one of everything. `twip`
+    /// is how many pixels one of them has on the page.
+    void tell(Messages& messages, const Scheme& scheme, double twip);
 
   private:
     struct Told {
@@ -52,6 +55,7 @@ class ShownScreen {
     bool enabled_ = true;
     int focused_ = -1;
     Scheme scheme_;
+    double twip_ = 0;
 };
 
 }  // namespace quillor

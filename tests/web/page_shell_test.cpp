@@ -60,6 +60,18 @@ TEST_F(Page, IsToldAfterwardsOnlyOfWhatDiffers) {
     EXPECT_EQ(latest(), R"([{"tell":"set","screen":1,"control":0,"place":[60,0,900,300]}])");
 }
 
+TEST_F(Page, GivesLettersAnEdgeThatAreTooSmallOnAPhoneForTheirGround) {
+    button.font = {Face::Display, 17, true};
+    button.textColor = rgb(250, 250, 250);
+    button.backColor = rgb(250, 30, 30);
+    button.opaque = true;
+    shell.setRoom(1320, 810);
+    open();
+    EXPECT_TRUE(has(latest(), R"("share":0)")) << latest();
+    shell.setRoom(440, 270);
+    EXPECT_TRUE(has(latest(), R"("edge":"#000000","share":0.)")) << latest();
+}
+
 TEST_F(Page, IsToldOfTheFocusAndOfTheNextAlarm) {
     open();
     Timer timer{"tmr", 40, true, {}};

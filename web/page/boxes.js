@@ -34,11 +34,18 @@ function element(name, text) {
     return made;
 }
 
+/** A caption whose access key is underlined. @param {string} caption @param {string} access */
+function marked(caption, access) {
+    const at = access ? caption.toUpperCase().indexOf(access.toUpperCase()) : -1;
+    if (at < 0) return [caption];
+    return [caption.slice(0, at), element("u", caption.charAt(at)), caption.slice(at + 1)];
+}
+
 let boxes = 0;
 
 /** Opens a box, and tells which button it was answered with: 1 is the first one, 0 none.
  * @param {any} request @param {Answered} answered
- * @param {{low: boolean, icon: string, fill?: (form: HTMLFormElement, close: Answered) => void}} how */
+ * @param {{low: boolean, icon: string, byKey: boolean, fill?: (form: HTMLFormElement, close: Answered) => void}} how */
 export function openBox(request, answered, how) {
     const before = document.activeElement;
     const dialog = document.createElement("dialog");
@@ -46,7 +53,7 @@ export function openBox(request, answered, how) {
     boxes += 1;
     const words = element("p", request.text);
     words.id = `box-${boxes}`;
-    dialog.className = "box";
+    dialog.className = how.byKey ? "box by-keys" : "box";
     dialog.dataset.box = request.box;
     dialog.setAttribute("role", request.box === "input" || request.box === "topics" ? "dialog" : "alertdialog");
     dialog.setAttribute("aria-label", request.title ?? "Quillor");
@@ -83,9 +90,10 @@ export function openBox(request, answered, how) {
     row.className = "buttons";
     /** @type {HTMLButtonElement[]} */
     const buttons = request.buttons.map((/** @type {any} */ known, /** @type {number} */ i) => {
-        const button = /** @type {HTMLButtonElement} */ (element("button", known.caption));
-        button.type = i === 0 ? "submit" : "button";
-        button.className = i === 0 ? "push main" : "push";
+        const button = /** @type {HTMLButtonElement} */ (element("button", ""));
+        button.append(...marked(known.caption, known.access));
+        button.type = i + 1 === request.main ? "submit" : "button";
+        button.className = i + 1 === request.main ? "push main" : "push";
         button.dataset.answer = String(i + 1);
         button.addEventListener("click", (event) => {
             event.preventDefault();
@@ -96,7 +104,7 @@ export function openBox(request, answered, how) {
     });
     form.addEventListener("submit", (event) => {
         event.preventDefault();
-        close(1);
+        close(request.main);
     });
     form.append(row);
     dialog.append(form);
@@ -134,5 +142,5 @@ export function openBox(request, answered, how) {
         dialog.style.setProperty("--tall", `${dialog.offsetHeight}px`);
         dialog.classList.add("low");
     }
-    (field ?? buttons[0]).focus();
+    (field ?? buttons[request.main - 1]).focus();
 }

@@ -88,6 +88,12 @@ export function paintPicture(control, scale) {
         w > 0
             ? { left: own.x + x * t, top: own.y + y * t, width: w * t, height: h * t }
             : { left: own.x, top: own.y, width: control.place[2] * t, height: control.place[3] * t };
+    if (control.look.photo) {
+        const { width, height } = area;
+        const photo = drawn("image", { href: control.around.photo, width, height, preserveAspectRatio: "xMidYMid slice" });
+        control.element.replaceChildren(photo);
+        return;
+    }
     const drawing = control.look.drawing ? { name: control.look.drawing, place } : null;
     drawPaper(control.element, area, own.y, t, control.around.colors, drawing, control.around.pictures);
 }

@@ -180,16 +180,16 @@ export class Input {
     /** @param {PointerEvent} event */
     pointerMove(event) {
         this.pointer = { left: event.clientX, top: event.clientY };
-        if (event.pointerType !== "mouse" || this.program.isBusy) return;
-        if (!this.over)
-            requestAnimationFrame(() => {
-                const latest = this.over;
-                this.over = null;
-                const found = latest && this.at(latest.target);
-                if (found?.control && !this.boxIsOpen())
-                    this.program.happen(happening.over, found.screen.number, found.control.index);
-            });
+        if (event.pointerType !== "mouse") return;
+        if (!this.over) requestAnimationFrame(() => this.program.later(() => this.hover()));
         this.over = event;
+    }
+    hover() {
+        const latest = this.over;
+        this.over = null;
+        const found = latest && this.at(latest.target);
+        if (found?.control && !this.boxIsOpen())
+            this.program.happen(happening.over, found.screen.number, found.control.index);
     }
     // Not before the browser says so: what a click opens would get the end of a touch. Assistive
     // tools press without a pointer.

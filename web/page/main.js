@@ -4,18 +4,20 @@ import { openBox } from "./boxes.js";
 import { Input } from "./input.js";
 import { fontsReady } from "./lettering.js";
 import { openMenu } from "./menus.js";
+import { decoded } from "./photo.js";
 import { Program, happening } from "./program.js";
 import { Screens } from "./screens.js";
 import { Sounds } from "./sounds.js";
 import { Storage } from "./storage.js";
-import { chooseFiles, download, watchDrops, zipped } from "./topics.js";
+import { chooseFiles, fillTopics, watchDrops } from "./topics.js";
+import { keepVersion, takenOver } from "./version.js";
 
 const here = new URL(".", import.meta.url).href;
 const kFolder = "/files/";
 const kBrought = "/brought/";
 
 /** @type {import("./controls.js").Surroundings} */
-const around = { colors: {}, pictures: here, close: "", textSize: 1, reducedMotion: false };
+const around = { colors: {}, pictures: here, photo: "", close: "", textSize: 1, reducedMotion: false };
 /** @type {Program} */
 let program;
 /** @type {Screens} */
@@ -110,54 +112,44 @@ function topicFiles() {
             .map(([path, bytes]) => [path.slice(folder.length), bytes]),
     );
 }
-/** @param {any} request @param {HTMLFormElement} form @param {(number: number) => void} close */
-function fillTopics(request, form, close) {
-    const list = document.createElement("ul");
-    list.className = "files";
-    for (const [name, bytes] of [...topicFiles()].sort(([a], [b]) => a.localeCompare(b))) {
-        const row = document.createElement("li");
-        const button = document.createElement("button");
-        button.type = "button";
-        button.textContent = name;
-        button.addEventListener("click", () => download(name, new Blob([/** @type {BlobPart} */ (bytes)], { type: "text/plain" })));
-        row.append(button);
-        list.append(row);
-    }
-    const row = document.createElement("div");
-    row.className = "buttons";
-    const add = (/** @type {string} */ caption, /** @type {string} */ name, /** @type {() => void} */ act) => {
-        const button = document.createElement("button");
-        button.type = "button";
-        button.className = "push";
-        button.dataset.act = name;
-        button.textContent = caption;
-        button.addEventListener("click", act);
-        row.append(button);
-    };
-    if (request.takes)
-        add(request.takeCaption, "take", () =>
-            chooseFiles((chosen) => {
-                close(0);
-                setTimeout(() => bringFiles(chosen));
-            }),
-        );
-    add(request.allCaption, "all", () => download("Quillor.zip", zipped(topicFiles())));
-    form.append(list, row);
+/** Lets the player choose files to bring along. @param {(number: number) => void} close of the box that it is asked in */
+function choose(close) {
+    chooseFiles((chosen) => {
+        close(0);
+        setTimeout(() => bringFiles(chosen));
+    });
 }
 
+/** What the player has brought along, by its whole path. @type {Map<string, Uint8Array>} */
+const brought = new Map();
 /** Puts files where the program reads them, and has it take them in. @param {File[]} chosen */
 async function bringFiles(chosen) {
     const screen = screens.active();
     const names = [];
     for (const file of chosen) {
-        const name = file.name.replaceAll("/", "_");
-        program.put(kBrought + name, new Uint8Array(await file.arrayBuffer()));
+        const name = /^pic\.jpe?g$/i.test(file.name) ? "Pic.jpg" : file.name.replaceAll("/", "_");
+        const bytes = new Uint8Array(await file.arrayBuffer());
+        brought.set(kBrought + name, bytes);
+        program.put(kBrought + name, bytes);
         names.push(name);
     }
     if (screen && names.length > 0) program.happen(happening.files, screen.number, -1, 0, 0, names.join("\n"));
 }
 
-/** A handler waits for a box, a menu or a sound.
+/** @param {string} path @param {(number: number, text?: string) => void} answered */
+function openPhoto(path, answered) {
+    const bytes = path.startsWith(kFolder) ? files.get(path.slice(kFolder.length)) : brought.get(path);
+    decoded(bytes ?? new Uint8Array()).then(
+        ({ address, range }) => {
+            URL.revokeObjectURL(around.photo);
+            around.photo = address;
+            answered(1, range.join(" "));
+        },
+        () => answered(0),
+    );
+}
+
+/** A handler waits for a box, a menu, a sound or a picture.
  * @param {any} request @param {(number: number, text?: string) => void} answered */
 function open(request, answered) {
     switch (request.box) {
@@ -165,6 +157,9 @@ function open(request, answered) {
             return sounds.play(request.sound, () => answered(0));
         case "menu":
             openMenu(request, menuSpot(request), input.byKey, answered);
+            return true;
+        case "picture":
+            openPhoto(request.path, answered);
             return true;
         case "clipboard":
             navigator.clipboard.readText().then(
@@ -176,7 +171,8 @@ function open(request, answered) {
             openBox(request, answered, {
                 low: !screens.active()?.dialog && request.box !== "topics",
                 icon: `${here}quillor.svg`,
-                fill: request.box === "topics" ? (form, close) => fillTopics(request, form, close) : undefined,
+                byKey: input?.byKey ?? false,
+                fill: request.box === "topics" ? (form, close) => fillTopics(request, form, topicFiles(), () => choose(close)) : undefined,
             });
             return true;
     }
@@ -199,8 +195,9 @@ function command(request) {
             else if (document.fullscreenElement) document.exitFullscreen().catch(() => {});
             break;
         case "end":
+        case "restart":
             storage.settled().then(() => {
-                window.close();
+                if (request.command === "end") window.close();
                 location.reload();
             });
             break;
@@ -212,7 +209,7 @@ const called = {
     show: (/** @type {string} */ messages) => screens.show(JSON.parse(messages)),
     wait: (/** @type {string} */ text, /** @type {(answer: number) => void} */ wake, /** @type {any} */ stacks) => {
         const request = JSON.parse(text);
-        program.wait(wake, stacks, request.box === "sound", (answered) => open(request, answered));
+        program.wait(wake, stacks, ["sound", "picture"].includes(request.box), (answered) => open(request, answered));
     },
     get answer() {
         return program.answer;
@@ -236,6 +233,7 @@ async function fetchPacks() {
 }
 
 async function start() {
+    if (await takenOver()) return;
     const [{ default: compiled }, kept, packs] = await Promise.all([
         import(/** @type {string} */ ("./quillor.mjs")),
         storage.load(),
@@ -261,7 +259,7 @@ async function start() {
     watchDrops(() => screens.active() !== undefined && !input.boxIsOpen(), bringFiles);
     if (lostEarly) program.happen(happening.lost);
     document.documentElement.dataset.started = "true";
-    if ("serviceWorker" in navigator) navigator.serviceWorker.register(new URL("../sw.js", here)).catch(() => {});
+    keepVersion(here);
 }
 
 start();

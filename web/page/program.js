@@ -53,6 +53,12 @@ export class Program {
         return this.waiting.length > 0 && this.waiting[this.waiting.length - 1].quiet;
     }
 
+    /** Does something at once, or when the sound that is played is over. @param {() => void} act */
+    later(act) {
+        if (this.isBusy) this.kept.push(act);
+        else act();
+    }
+
     /** Delivers an event, at once or when the sound that is played is over.
      * @param {number} what @param {number} screen @param {number} [control]
      * @param {number} [a] @param {number} [b] @param {string} [text]
@@ -106,7 +112,7 @@ export class Program {
     wait(wake, stacks, quiet, open) {
         this.stacks = stacks;
         /** @type {Waiting} */
-        const waiting = { wake, quiet, stack: null, answered: null };
+        const waiting = { wake, quiet, stack: undefined, answered: null };
         const isOpen = open((number, text = "") => {
             waiting.answered ??= { number, text };
             this.goOn();
@@ -120,12 +126,13 @@ export class Program {
         // By then the compiler has put it aside.
         queueMicrotask(() => {
             waiting.stack = stacks.currData;
+            this.goOn();
         });
     }
     goOn() {
         for (;;) {
             const last = this.waiting[this.waiting.length - 1];
-            if (!last?.answered) break;
+            if (!last?.answered || last.stack === undefined) break;
             this.waiting.pop();
             this.answer = last.answered.text;
             if (this.stacks) this.stacks.currData = last.stack;

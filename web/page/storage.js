@@ -29,6 +29,7 @@ export class Storage {
         this.writing = Promise.resolve();
         this.scheduled = false;
         this.isLost = false;
+        this.isHeld = false;
         this.others = typeof BroadcastChannel === "undefined" ? null : new BroadcastChannel(kName);
         if (this.others)
             this.others.onmessage = (event) => this.tell.changed(event.data.path, event.data.bytes);
@@ -82,10 +83,18 @@ export class Storage {
             return;
         }
         this.isLost = false;
+        this.holdOn();
         for (const change of changes) {
             if (this.waiting.get(change.path) === change) this.waiting.delete(change.path);
             this.others?.postMessage({ path: change.path, bytes: change.bytes });
         }
+    }
+    // Browsers drop what pages keep when they need room, unless they are asked not to. Some ask
+    // the player about it: only one who has done something here would know why.
+    holdOn() {
+        if (this.isHeld || navigator.userActivation?.hasBeenActive === false) return;
+        this.isHeld = true;
+        navigator.storage?.persist?.().catch(() => {});
     }
     /** @param {IDBDatabase} database @param {Change[]} changes @returns {Promise<void>} */
     commit(database, changes) {

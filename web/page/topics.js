@@ -1,4 +1,4 @@
-// Topics out of the page, as downloads, and into it, by choosing or dropping files.
+// Topics out of the page, as downloads, and into it, by choosing or dropping files; pictures too.
 // @ts-check
 
 const table = new Uint32Array(256).map((_, byte) => {
@@ -57,12 +57,12 @@ export function download(name, blob) {
     setTimeout(() => URL.revokeObjectURL(link.href), 60_000);
 }
 
-/** Lets the player choose topic files. @param {(files: File[]) => void} chosen */
+/** Lets the player choose topic files, and a picture. @param {(files: File[]) => void} chosen */
 export function chooseFiles(chosen) {
     const chooser = document.createElement("input");
     chooser.type = "file";
     chooser.multiple = true;
-    chooser.accept = ".txt,text/plain";
+    chooser.accept = ".txt,text/plain,.jpg,.jpeg,image/jpeg";
     chooser.hidden = true;
     document.body.append(chooser);
     chooser.addEventListener("change", () => {
@@ -87,4 +87,35 @@ export function watchDrops(wanted, dropped) {
         event.preventDefault();
         if (wanted()) dropped([...(event.dataTransfer?.files ?? [])]);
     });
+}
+
+/** Fills the box of the topics: a row for each, which downloads it, and buttons for them all.
+ * @param {any} request @param {HTMLFormElement} form @param {Map<string, Uint8Array>} files
+ * @param {() => void} take opens the way in */
+export function fillTopics(request, form, files, take) {
+    const list = document.createElement("ul");
+    list.className = "files";
+    for (const [name, bytes] of [...files].sort(([a], [b]) => a.localeCompare(b))) {
+        const row = document.createElement("li");
+        const button = document.createElement("button");
+        button.type = "button";
+        button.textContent = name;
+        button.addEventListener("click", () => download(name, new Blob([/** @type {BlobPart} */ (bytes)], { type: "text/plain" })));
+        row.append(button);
+        list.append(row);
+    }
+    const row = document.createElement("div");
+    row.className = "buttons";
+    const add = (/** @type {string} */ caption, /** @type {string} */ name, /** @type {() => void} */ act) => {
+        const button = document.createElement("button");
+        button.type = "button";
+        button.className = "push";
+        button.dataset.act = name;
+        button.textContent = caption;
+        button.addEventListener("click", act);
+        row.append(button);
+    };
+    if (request.takes) add(request.takeCaption, "take", take);
+    add(request.allCaption, "all", () => download("Quillor.zip", zipped(files)));
+    form.append(list, row);
 }

@@ -3,18 +3,6 @@ import assert from "node:assert/strict";
 import { test } from "node:test";
 import { englishFiles, played, topicOf } from "./player.js";
 
-async function invent(player, title, phrases) {
-    await player.press("i");
-    await player.screen("frmInventor");
-    await player.type(title);
-    await player.click("txtWord");
-    for (const phrase of phrases) {
-        await player.type(phrase);
-        await player.press("Enter");
-    }
-    await player.click("lblSave(0)");
-}
-
 test("the packs of topics are there from the start, in the browser's language", () =>
     played({ languages: "es" }, async (player) => {
         await player.screen("frmMenu");
@@ -72,7 +60,7 @@ function checks(player) {
 test("an invented topic is played after a reload", () =>
     played({ files: { ...englishFiles, "Topics/Aardvark.txt": topicOf("ZZZ", "dog") } }, async (player) => {
         await player.screen("frmMenu");
-        await invent(player, "AAA MINE", ["owl", "owls"]);
+        await player.invent("AAA MINE", ["owl", "owls"]);
         await player.page.waitForSelector("dialog.box", { visible: true });
         await player.press("Enter");
         await player.settled();
@@ -94,7 +82,7 @@ test("what one tab saves the other one has", () =>
         delete player.options.files;
         await player.openTab();
         await player.screen("frmMenu");
-        await invent(player, "AAA MINE", ["owl", "owls"]);
+        await player.invent("AAA MINE", ["owl", "owls"]);
         await player.page.waitForSelector("dialog.box", { visible: true });
         await player.settled();
         player.page = first;
@@ -176,4 +164,69 @@ test("a click into a field puts the caret there for the next key", () =>
         await player.click("txtFile");
         await player.type("d");
         assert.equal(await player.textOf("txtFile"), "ABCd");
+    }));
+
+test("the browser is asked once to keep the files, when the player has done something", () =>
+    played({ files: englishFiles, before: () => {
+        window.asked = 0;
+        navigator.storage.persist = () => { window.asked += 1; return Promise.resolve(true); };
+        // What the debugger does counts as the player's doing.
+        let active = false;
+        document.addEventListener("keydown", () => { active = true; }, { capture: true });
+        Object.defineProperty(navigator, "userActivation", { value: { get hasBeenActive() { return active; } } });
+    } }, async (player) => {
+        await player.screen("frmMenu");
+        await player.settled();
+        const asked = () => player.page.evaluate(() => window.asked);
+        assert.equal(await asked(), 0);
+        for (const way of ["w", "w"]) {
+            await player.press("s");
+            await player.screen("frmOptions");
+            await player.press(way, "Escape");
+            await player.screen("frmMenu");
+            await player.settled();
+        }
+        assert.equal(await asked(), 1);
+    }));
+
+/** Drops a file on the page: a picture of one colour, or bytes that are none. */
+function dropPicture(player, color) {
+    return player.page.evaluate(async (fill) => {
+        const canvas = new OffscreenCanvas(64, 40);
+        const sheet = canvas.getContext("2d");
+        sheet.fillStyle = fill || "#000";
+        sheet.fillRect(0, 0, 64, 40);
+        const bytes = fill ? await canvas.convertToBlob({ type: "image/jpeg" }) : new Blob(["no picture"]);
+        const data = new DataTransfer();
+        data.items.add(new File([bytes], "pic.JPG", { type: "image/jpeg" }));
+        document.body.dispatchEvent(new DragEvent("drop", { dataTransfer: data, bubbles: true, cancelable: true }));
+    }, color);
+}
+const hasPhoto = () => document.querySelector("[data-id='imgBack'] image")?.getAttribute("href")?.startsWith("blob:") ?? false;
+
+test("a picture of the player's hangs behind the menu, stays, and can be taken down", () =>
+    played({ files: englishFiles }, async (player) => {
+        await player.screen("frmMenu");
+        await dropPicture(player, "#203040");
+        await player.until(hasPhoto);
+        await player.reload();
+        await player.screen("frmMenu");
+        await player.until(hasPhoto);
+        await player.until(() => document.querySelector("[data-id='lblWelcome'] .text").style.webkitTextStroke !== "");
+        await player.click("lblView");
+        await player.choose("mTopics");
+        await player.answer("topics", 2);
+        await player.until(() => document.querySelector("[data-id='imgBack'] image")?.getAttribute("href")?.endsWith("menu.svg"));
+        await player.settled();
+        assert.ok(!("Pic.jpg" in (await player.getFiles())));
+    }));
+
+test("what is no picture is not kept as one", () =>
+    played({ files: englishFiles }, async (player) => {
+        await player.screen("frmMenu");
+        await dropPicture(player, "");
+        await player.answer("information");
+        await player.settled();
+        assert.ok(!("Pic.jpg" in (await player.getFiles())));
+        assert.equal(await player.page.evaluate(hasPhoto), false);
     }));

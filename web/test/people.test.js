@@ -1,78 +1,9 @@
-// Usable by everybody: what assistive technology finds on every screen and box, and what a
-// person has asked the browser for.
+// Usable by everybody: what is said, where the focus is, and what a person has asked the browser
+// for.
 import assert from "node:assert/strict";
-import { readFileSync } from "node:fs";
 import { test } from "node:test";
+import { expectNothing } from "./findings.js";
 import { browserName, englishFiles, played } from "./player.js";
-
-const axe = readFileSync(new URL("../node_modules/axe-core/axe.min.js", import.meta.url), "utf8");
-
-/** What is wrong with the page as it is now. */
-async function findings(player) {
-    // By the debugger, which the page's own policy does not bind.
-    await player.page.evaluate(axe);
-    return player.page.evaluate(async () => {
-        const { violations } = await window.axe.run(document, { resultTypes: ["violations"] });
-        return violations.map((each) => `${each.id}: ${each.nodes.map((node) => node.html.slice(0, 160)).join(" | ")}`);
-    });
-}
-async function expectNothing(player, where) {
-    assert.deepEqual(await findings(player), [], where);
-}
-
-test("nothing is found on any screen", () =>
-    played({ files: englishFiles }, async (player) => {
-        await player.screen("frmMenu");
-        await expectNothing(player, "menu");
-        await player.press("s");
-        await player.screen("frmOptions");
-        await expectNothing(player, "settings");
-        await player.press("Escape");
-        await player.screen("frmMenu");
-        await player.press("i");
-        await player.screen("frmInventor");
-        await expectNothing(player, "inventor");
-        await player.press("Escape");
-        await player.screen("frmMenu");
-        await player.press("c");
-        await player.screen("frmGame");
-        await expectNothing(player, "game");
-        await player.press("Enter");
-        await player.screen("frmWord1");
-        await expectNothing(player, "classic entry");
-        await player.press("Escape");
-        await player.screen("frmGame");
-    }));
-
-test("nothing is found during a game, its menus and its boxes", () =>
-    played({ files: englishFiles }, async (player) => {
-        await player.screen("frmMenu");
-        await player.click("lblView");
-        await expectNothing(player, "menu View");
-        await player.press("Escape");
-        await player.press("a");
-        await player.screen("frmGame");
-        await player.press("Enter");
-        await player.screen("frmWord2");
-        await expectNothing(player, "topics");
-        await player.press("Enter");
-        await player.says("lblTopic", "AARDVARK");
-        await player.guess("ae");
-        await expectNothing(player, "playing");
-        await player.press("!");
-        await player.page.waitForSelector("dialog[data-box='input']");
-        await expectNothing(player, "answer");
-        await player.answer("input", 2);
-        await player.click("lblView");
-        await player.choose("mKeys");
-        await player.page.waitForSelector("dialog[data-box='information']");
-        await expectNothing(player, "keys");
-        await player.answer("information");
-        await player.click("lblView");
-        await player.choose("mTopics");
-        await player.page.waitForSelector("dialog[data-box='topics']");
-        await expectNothing(player, "topic files");
-    }));
 
 test("what has happened is said", () =>
     played({ files: englishFiles }, async (player) => {
@@ -143,4 +74,31 @@ test("a window that is turned lays the game out anew and keeps it", () =>
         await player.says("lblTopic", "AARDVARK");
         await player.guess("acnp");
         await player.says("lblStatus", "VICTORY");
+    }));
+
+test("a box that loses something when it is answered with Yes has No pressed by Return", () =>
+    played({ files: englishFiles }, async (player) => {
+        await player.openGame();
+        await player.press("F2");
+        await player.page.waitForSelector("dialog[data-box='question']", { visible: true });
+        const [buttons, focused, ring] = await player.page.evaluate(() => [
+            [...document.querySelectorAll("dialog[open] .push")].map((each) => each.textContent),
+            document.activeElement.textContent,
+            getComputedStyle(document.activeElement).outlineStyle,
+        ]);
+        assert.deepEqual([buttons, focused, ring], [["Yes", "No"], "No", "solid"]);
+        await player.press("Enter");
+        await player.page.waitForSelector("dialog.box", { hidden: true });
+        await player.says("lblStatus", "PLAYING");
+    }));
+
+test("an access key is underlined, also where its letter has an edge", () =>
+    played({ files: englishFiles }, async (player) => {
+        await player.screen("frmMenu");
+        const line = await player.page.evaluate(() => {
+            const mark = document.querySelector("[data-id='lblOption(1)'] u");
+            const { position, height, backgroundColor, content } = getComputedStyle(mark, "::after");
+            return [mark.textContent, position, parseFloat(height) >= 1, backgroundColor === getComputedStyle(mark).color, content];
+        });
+        assert.deepEqual(line, ["C", "absolute", true, true, '""']);
     }));

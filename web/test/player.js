@@ -7,16 +7,17 @@ import { serve } from "../serve.js";
 
 export const browserName = process.env.QUILLOR_BROWSER ?? "chrome";
 const programs = { chrome: "/usr/bin/chromium", firefox: "/usr/bin/firefox-esr" };
-export const folder = fileURLToPath(new URL("../../build/web", import.meta.url));
+export const folder = process.env.QUILLOR_PAGE ?? fileURLToPath(new URL("../../build/web", import.meta.url));
 const patience = 20_000;
 const mostPatience = 150_000; // for a whole test
+
+/** What the page looked like when a test failed, the latest of them. */
+const failurePicture = fileURLToPath(new URL("../../build/web-failure.png", import.meta.url));
 
 /** One browser for all tests of a file, and for each of them a context with a storage of its
  * own: by the language, which Firefox takes at its start alone. @type {Map<string, Promise<any>>} */
 const browsers = new Map();
-after(async () => {
-    for (const browser of browsers.values()) await (await browser).close();
-});
+after(() => Player.closeBrowsers());
 
 function browserFor(languages) {
     const known = browsers.get(languages);
@@ -38,6 +39,10 @@ export function topicOf(title, phrase) {
 }
 
 export class Player {
+    /** Once no test follows. */
+    static async closeBrowsers() {
+        for (const browser of browsers.values()) await (await browser).close();
+    }
     /** Starts a browser and a server. `options`: width, height, touch, languages, before (a
      * function that runs in each page before its script), files (by their paths, in storage
      * before the first start), folder (another build of the page). */
@@ -128,6 +133,19 @@ export class Player {
         await this.press("Enter");
         await this.says("lblTopic", topic);
     }
+    /** Goes from the menu to the inventor and saves a topic there. */
+    async invent(title, phrases) {
+        await this.screen("frmMenu");
+        await this.press("i");
+        await this.screen("frmInventor");
+        await this.type(title);
+        await this.click("txtWord");
+        for (const phrase of phrases) {
+            await this.type(phrase);
+            await this.press("Enter");
+        }
+        await this.click("lblSave(0)");
+    }
     async element(id) {
         const handle = await this.page.waitForFunction(
             (wanted) =>
@@ -141,6 +159,9 @@ export class Player {
     }
     async click(id) {
         await (await this.element(id)).click();
+    }
+    async rightClick(id) {
+        await (await this.element(id)).click({ button: "right" });
     }
     async tap(id) {
         const place = await this.placeOf(id);
@@ -259,6 +280,7 @@ export async function played(options, body) {
         result = await body(player);
     } catch (error) {
         error.message += `\n${player.troubles.join("\n")}`;
+        await player.page.screenshot({ path: failurePicture }).catch(() => {});
         throw error;
     } finally {
         clearTimeout(alarm);
