@@ -10,7 +10,7 @@ import { Screens } from "./screens.js";
 import { Sounds } from "./sounds.js";
 import { Storage } from "./storage.js";
 import { chooseFiles, fillTopics, watchDrops } from "./topics.js";
-import { keepVersion, takenOver } from "./version.js";
+import { keepVersion } from "./version.js";
 
 const here = new URL(".", import.meta.url).href;
 const kFolder = "/files/";
@@ -233,7 +233,6 @@ async function fetchPacks() {
 }
 
 async function start() {
-    if (await takenOver()) return;
     const [{ default: compiled }, kept, packs] = await Promise.all([
         import(/** @type {string} */ ("./quillor.mjs")),
         storage.load(),

@@ -21,20 +21,6 @@ worker.addEventListener("activate", (event) => {
     );
 });
 
-// A page that finds this version waiting asks for it as long as it has done nothing else. Others
-// that are open go on with the files of theirs.
-worker.addEventListener("message", (event) => {
-    const [port] = event.ports;
-    if (event.data !== "take over" || !port) return;
-    event.waitUntil(
-        worker.clients.matchAll({ type: "window", includeUncontrolled: true }).then((pages) => {
-            const alone = pages.length === 1;
-            port.postMessage(alone);
-            return alone ? worker.skipWaiting() : undefined;
-        }),
-    );
-});
-
 worker.addEventListener("fetch", (event) => {
     const { request } = event;
     if (request.method !== "GET" || new URL(request.url).origin !== worker.location.origin) return;
