@@ -105,6 +105,15 @@ bool isShown(const ShownLook& look, const ControlRef& ref) {
 
 }  // namespace
 
+ShownControl::Changes& ShownControl::Changes::operator|=(const Changes& others) {
+    place |= others.place;
+    words |= others.words;
+    state |= others.state;
+    checked |= others.checked;
+    look |= others.look;
+    return *this;
+}
+
 ShownControl::Changes ShownControl::update(const ControlRef& ref) {
     const Control& control = controlOf(ref);
     const bool seen = isSeen(control);

@@ -108,6 +108,7 @@ struct ShownControl {
         bool checked = false;
         bool look = false;
         bool any() const { return place || words || state || checked || look; }
+        Changes& operator|=(const Changes& others);
     };
     /// Takes over what has become of the control, which is always the same one.
     Changes update(const ControlRef& ref);

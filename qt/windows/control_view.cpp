@@ -67,8 +67,14 @@ bool testIdsWanted() {
 
 }  // namespace
 
+bool ControlView::differs() {
+    changes_ |= shown_.update(ref_);
+    return changes_.any() || control().motions != motions_;
+}
+
 void ControlView::sync(const TwipScale& scale) {
-    const ShownControl::Changes changes = shown_.update(ref_);
+    differs();
+    const ShownControl::Changes changes = std::exchange(changes_, {});
     syncPlace(scale);
     if (changes.words)
         widget().setToolTip(toQt(shown_.toolTip));

@@ -51,6 +51,8 @@ class ControlView {
     virtual QWidget& widget() = 0;
     Control& control() const { return controlOf(ref_); }
 
+    /// Whether it is not shown as it is now.
+    bool differs();
     /// Applies every difference but one: a control that is to be hidden or
     /// disabled stays as it is until `withdraw`, so that the focus can leave it.
     void sync(const TwipScale& scale);
@@ -105,10 +107,11 @@ class ControlView {
     ScreenLink& link_;
     TwipScale scale_;
     ShownControl shown_;
-    bool named_ = false;  // its words have been told once
-    QRect place_;         // where it stands
-    QPointF shift_;       // and how far it is from there, in sizes of its height
-    int motions_ = 0;     // shown so far
+    ShownControl::Changes changes_;  // not applied yet
+    bool named_ = false;             // its words have been told once
+    QRect place_;                    // where it stands
+    QPointF shift_;                  // and how far it is from there, in sizes of its height
+    int motions_ = 0;                // shown so far
 };
 
 }  // namespace quillor

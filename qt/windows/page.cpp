@@ -140,12 +140,20 @@ void Page::layOut() {
     update();
 }
 
-void Page::sync() {
+void Page::sync(Shell::Cause cause) {
     if (!screen_)
         return;
     link_.focus().settle();
     if (!screen_)
         return;
+    if (cause == Shell::Cause::Player || std::ranges::any_of(views_, &ControlView::differs))
+        showAll();
+    else
+        giveFocus();
+    timers_.sync();
+}
+
+void Page::showAll() {
     ControlView* later = fieldToComeTo();
     for (ControlView* each : views_)
         if (each != later)
@@ -155,7 +163,6 @@ void Page::sync() {
         later->sync(scale_);
     for (ControlView* each : views_)
         each->withdraw();
-    timers_.sync();
 }
 
 // A field that is about to get the focus. Its text may change with that, and a screen reader
@@ -303,7 +310,7 @@ void TimerSet::stop() {
 
 void TimerSet::tick() {
     clock_.tick(time_.elapsed(), [this](Screen&, Timer& timer) {
-        link_.event([&](Screen& screen) { screen.tick(timer); });
+        link_.tickEvent([&](Screen& screen) { screen.tick(timer); });
     });
     setAlarm();
 }

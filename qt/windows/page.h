@@ -49,7 +49,7 @@ class Page : public QWidget {
     const TwipScale& scale() const { return scale_; }
 
     /// Applies what has changed on the screen since the last call.
-    void sync();
+    void sync(Shell::Cause cause);
     /// Stands the screen as it suits a room of that size.
     void fit(QSize room);
     /// It is on show from now on, and keys go to it, or no more.
@@ -83,6 +83,7 @@ class Page : public QWidget {
 
   private:
     void makeViews();
+    void showAll();
     void layOut();
     ControlView* fieldToComeTo();
     void giveFocus();

@@ -89,14 +89,14 @@ void Shell::end() {
     QCoreApplication::exit(0);
 }
 
-void Shell::settle() {
+void Shell::settle(Cause cause) {
     if (!events_.areDone() || ended_)
         return;
     if (syncing_) {
         again_ = true;
         return;
     }
-    refresh();
+    refresh(cause);
     if (!events_.areIdle())
         return;
     deleteClosed();
@@ -104,14 +104,14 @@ void Shell::settle() {
         onIdle();
 }
 
-void Shell::refresh() {
+void Shell::refresh(Cause cause) {
     syncing_ = true;
     int rounds = 0;
     do {
         again_ = false;
         // Moving the focus runs handlers, which may open and close screens.
         for (Page* page : std::vector(pages_))
-            page->sync();
+            page->sync(cause);
         turnPages();
     } while (again_ && ++rounds < kMostRounds);
     syncing_ = false;
@@ -162,7 +162,7 @@ void Shell::paintMotions() {
 void Shell::showNow() {
     if (ended_ || syncing_)
         return;
-    refresh();
+    refresh(Cause::Player);
     if (window_)
         window_->repaint();
     for (PageWindow* dialog : dialogs_)

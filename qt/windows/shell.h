@@ -45,14 +45,18 @@ class Shell {
     /// Called when no handler of any screen is running any more.
     std::function<void()> onIdle;
 
+    /// Who an event comes from. Most ticks change nothing, and what only a player can have
+    /// changed, such as a widget's own text, need not be looked at after one.
+    enum class Cause { Player, Clock };
+
     /// Runs one event's handlers. Events may nest: a timer ticks while a box
     /// is open. After `end` it does nothing.
     template <typename Body>
-    void event(Body&& body) {
+    void event(Body&& body, Cause cause = Cause::Player) {
         if (ended_)
             return;
         events_.run(std::forward<Body>(body));
-        settle();
+        settle(cause);
     }
 
     /// The same for the press of a key.
@@ -111,8 +115,8 @@ class Shell {
 
   private:
     PageWindow& windowFor(const Screen& screen);
-    void settle();
-    void refresh();
+    void settle(Cause cause);
+    void refresh(Cause cause);
     void turnPages();
     void deleteClosed();
 
@@ -141,6 +145,13 @@ class ScreenLink {
     void event(Body&& body) {
         if (screen_)
             shell_.event([&] { std::forward<Body>(body)(*screen_); });
+    }
+
+    /// The same for the tick of a timer.
+    template <typename Body>
+    void tickEvent(Body&& body) {
+        if (screen_)
+            shell_.event([&] { std::forward<Body>(body)(*screen_); }, Shell::Cause::Clock);
     }
 
     template <typename Body>

@@ -265,6 +265,52 @@ TEST_F(Windows, RunTimersWhileTheyAreEnabled) {
     EXPECT_EQ(ticks, 3);
 }
 
+// How often a widget is painted.
+class PaintCount : public QObject {
+  public:
+    explicit PaintCount(QWidget& widget) { widget.installEventFilter(this); }
+    int count = 0;
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
+TEST_F(Windows, PaintAfterATickOnlyWhatItHasChanged) {
+    Label changed;
+    Label still;
+    addButton(changed, "lblChanged", 0, 0);
+    addButton(still, "lblStill", 3000, 3000);
+    Timer timer;
+    timer.id = "tmr";
+    timer.enabled = true;
+    int ticks = 0;
+    timer.onTick = [&] { changed.caption = ++ticks < 10 ? u"before" : u"behind"; };
+    screen.add(timer);
+    open();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ticks >= 3; }, 2000));
+    PaintCount changedPaints(widgetOf(changed));
+    PaintCount stillPaints(widgetOf(still));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ticks >= 15 && changedPaints.count > 0; }, 2000));
+    EXPECT_EQ(changedPaints.count, 1);
+    EXPECT_EQ(stillPaints.count, 0);
+}
+
+TEST_F(Windows, FollowATickThatMovesTheFocusAlone) {
+    Label first;
+    Label second;
+    addButton(first, "lblFirst", 0, 0);
+    addButton(second, "lblSecond", 3000, 3000);
+    Timer timer;
+    timer.id = "tmr";
+    timer.enabled = true;
+    timer.onTick = [&] { screen.setFocus(second); };
+    screen.add(timer);
+    open();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return widgetOf(second).hasFocus(); }, 2000));
+}
+
 TEST_F(Windows, DoNotTickATimerInsideItsOwnTick) {
     Timer timer;
     timer.id = "tmr";
