@@ -43,6 +43,12 @@ int indexIn(const EntryIds& entries, const QAccessibleInterface* child) {
     return -1;
 }
 
+QAccessibleInterface* childIn(const EntryIds& entries, int index) {
+    const bool there = index >= 0 && index < static_cast<int>(entries.size());
+    return there ? QAccessible::accessibleInterface(entries[static_cast<std::size_t>(index)])
+                 : nullptr;
+}
+
 /// An entry of a menu that a label opens. The toolkit tells of menus only while they are
 /// open, and of some not even then.
 class AccessibleMenuItem : public QAccessibleInterface, public QAccessibleActionInterface {
@@ -67,11 +73,7 @@ class AccessibleMenuItem : public QAccessibleInterface, public QAccessibleAction
         return QAccessible::accessibleInterface(parent_);
     }
     int childCount() const override { return static_cast<int>(entries().size()); }
-    QAccessibleInterface* child(int index) const override {
-        const bool there = index >= 0 && index < childCount();
-        return there ? QAccessible::accessibleInterface(entries()[static_cast<std::size_t>(index)])
-                     : nullptr;
-    }
+    QAccessibleInterface* child(int index) const override { return childIn(entries(), index); }
     int indexOfChild(const QAccessibleInterface* child) const override {
         return indexIn(entries(), child);
     }
@@ -170,11 +172,7 @@ class AccessibleLabel : public QAccessibleWidget {
 
     // The entries of its menu, which can be read before that is open.
     int childCount() const override { return static_cast<int>(entries().size()); }
-    QAccessibleInterface* child(int index) const override {
-        const bool there = index >= 0 && index < childCount();
-        return there ? QAccessible::accessibleInterface(entries()[static_cast<std::size_t>(index)])
-                     : nullptr;
-    }
+    QAccessibleInterface* child(int index) const override { return childIn(entries(), index); }
     int indexOfChild(const QAccessibleInterface* child) const override {
         return indexIn(entries(), child);
     }
