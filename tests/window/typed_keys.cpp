@@ -57,7 +57,7 @@ struct Typist : QObject {
             return;
         tries_ = 0;
         if (words_.isEmpty())
-            QCoreApplication::quit();
+            QCoreApplication::exit();  // without a question that nobody answers
         else
             words_.removeFirst();
     }
