@@ -77,7 +77,7 @@ void PhraseBoard::ePutDesign(GameSettings& settings) {
 }
 
 void PhraseBoard::layOut(const GameSettings& settings, const Round& round) {
-    plainLine_ = lnLetter(1);
+    plainLine_ = {lnLetter(1).color, lnLetter(1).thickness};
     widestCell_ = 0;
     lblTopic.caption = settings.gsTopicName;
     for (std::size_t i = 0; i < round.cells.size(); ++i)

@@ -44,13 +44,17 @@ class PhraseBoard {
     void clear(const GameSettings& settings);
 
   private:
+    struct Stroke {
+        Color color;
+        Twips thickness;
+    };
     void placeCell(int cell, const Cell& state);
 
     Picture& paper_;
     Twips widestCell_ = 0;
-    std::optional<Line> plainLine_;   // under the letters, as the design has it
-    std::bitset<kBoardCells> shown_;  // the cells whose character is seen
-    std::size_t cursor_ = 0;          // the cell that was read last
+    std::optional<Stroke> plainLine_;  // under the letters, as the design has it
+    std::bitset<kBoardCells> shown_;   // the cells whose character is seen
+    std::size_t cursor_ = 0;           // the cell that was read last
 };
 
 /// The picture in a frame lines up with the one behind the frame.
