@@ -53,7 +53,7 @@ add_results() {
 install_packages "${packages_play[@]}" "${packages_virtual_display[@]}" "${packages_test[@]}"
 use_ccache
 # Tests of windows wait most of their time: for windows, and as a player would.
-run_preset ci 3
+run_preset ci 2
 run_preset asan 1
 
 if [ "$skipped" -gt 0 ]; then
