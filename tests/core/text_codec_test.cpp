@@ -97,7 +97,7 @@ TEST(Decoding, TakesAnyBytes) {
     for (int round = 0; round < 5000; ++round) {
         std::string bytes;
         for (int i = 0; i < 12; ++i)
-            bytes.push_back(static_cast<char>(random.next() * 256));
+            bytes.push_back(static_cast<char>(static_cast<int>(random.next() * 256)));
         ASSERT_LE(decodeText(bytes).size(), bytes.size());
         ASSERT_LE(fromUtf8(bytes).size(), bytes.size());
     }

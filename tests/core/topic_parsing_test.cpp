@@ -85,8 +85,9 @@ TEST(TopicParsing, TakesAnyBytes) {
     for (int round = 0; round < 2000; ++round) {
         std::string bytes;
         for (int i = 0; i < 200; ++i)
-            bytes.push_back(random.next() < 0.3 ? "\r\n"[round % 2]
-                                                : static_cast<char>(random.next() * 256));
+            bytes.push_back(random.next() < 0.3
+                                ? "\r\n"[round % 2]
+                                : static_cast<char>(static_cast<int>(random.next() * 256)));
         const ParsedTopic parsed = parseTopic(bytes);
         ASSERT_LE(parsed.lines, kTopicLines);
         ASSERT_TRUE(!parsed.tooLong || parsed.lines == kTopicLines);
