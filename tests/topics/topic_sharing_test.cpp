@@ -18,7 +18,7 @@ class Sharing : public TopicsTest {
         folder.write("Quillor-Config.ini", "");
         program.close(game());
     }
-    std::filesystem::path file(const char* name, std::string_view bytes) {
+    std::filesystem::path file(const std::filesystem::path& name, std::string_view bytes) {
         others.write(name, bytes);
         return others / name;
     }
@@ -77,7 +77,7 @@ TEST_F(Sharing, SaysWhatCannotBeRead) {
 
 TEST_F(Sharing, TellsANameThatWouldTurnTheLineOrEndIt) {
     expectSaid(texts::kShareNoTopic, u"a b.doc");
-    dropOnMenu(file("\u202Ea\nb.doc", kSound));
+    dropOnMenu(file(u"\u202Ea\u2028b.doc", kSound));
 }
 
 TEST_F(Sharing, RefusesATopicThatCannotBePlayed) {
