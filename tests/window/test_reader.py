@@ -123,12 +123,14 @@ class Blindfold(Player):
         self.ear.expect("MODO ARCADE")
 
     def go(self, key, *words):
-        """Presses a key until those words are heard."""
+        """Presses a key, at least once, until those words are heard."""
+        after = self.ear.settled()
         for _ in range(60):
-            heard = self.ear.words()
+            heard = after
             self.key(key)
             until(lambda: len(self.ear.words()) > len(heard), "something to be heard")
-            for said in self.ear.settled()[len(heard):]:
+            after = self.ear.settled()
+            for said in after[len(heard):]:
                 if all(word in said for word in words):
                     self.ear.new_words()
                     return said
@@ -196,7 +198,7 @@ class Blindfold(Player):
         self.go("Tab", "GUARDAR Y CREAR push button")
         self.key("space")
         self.ear.expect("reiniciar el juego")
-        self.go("Tab", "Sí push button")
+        self.ear.expect("Sí push button")
         self.key("space")
         self.ear.expect("MODO ARCADE")
         self.key("space")
