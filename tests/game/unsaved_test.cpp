@@ -21,6 +21,15 @@ class Unsaved : public GameTest {
         desktop.advance(kWhileTold);
         EXPECT_NE(tipLine(), lang(what));
     }
+
+    // In an empty folder, on to the game.
+    void startForTheFirstTime(Operation broken) {
+        run.folder.write("English.txt", "");
+        run.disk.breakDown(broken);
+        run.show(ScreenId::Start);
+        desktop.advance(2000);
+        player.click("lblOption(0)");
+    }
 };
 
 constexpr Modifiers kControl{.control = true};
@@ -107,21 +116,13 @@ TEST_F(Unsaved, ProgressOfAGameThatWasLeftIsToldInTheNextOne) {
 }
 
 TEST_F(Unsaved, TopicsAndSettingsOfAFirstStartAreTold) {
-    run.folder.write("English.txt", "");
-    run.disk.breakDown(Operation::Write);
-    run.show(ScreenId::Start);
-    desktop.advance(2000);
-    player.click("lblOption(0)");
+    startForTheFirstTime(Operation::Write);
     expectTold(texts::kTopicsUnsaved);
     EXPECT_EQ(tipLine(), lang(texts::kSettingsUnsaved));
 }
 
 TEST_F(Unsaved, TopicFolderThatCannotBeMadeIsTold) {
-    run.folder.write("English.txt", "");
-    run.disk.breakDown(Operation::MakeFolder);
-    run.show(ScreenId::Start);
-    desktop.advance(2000);
-    player.click("lblOption(0)");
+    startForTheFirstTime(Operation::MakeFolder);
     expectTold(texts::kTopicsUnsaved);
 }
 
