@@ -67,13 +67,17 @@ bool testIdsWanted() {
 
 }  // namespace
 
-bool ControlView::differs() {
+void ControlView::look() {
     changes_ |= shown_.update(ref_);
+}
+
+bool ControlView::differs() {
+    look();
     return changes_.any() || control().motions != motions_;
 }
 
 void ControlView::sync(const TwipScale& scale) {
-    differs();
+    look();
     const ShownControl::Changes changes = std::exchange(changes_, {});
     syncPlace(scale);
     if (changes.words)

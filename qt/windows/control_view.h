@@ -99,6 +99,7 @@ class ControlView {
     const Scheme& scheme() const { return link_.shell().scheme; }
 
   private:
+    void look();
     void syncPlace(const TwipScale& scale);
     void put();
     void startMotion();
