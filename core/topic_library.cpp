@@ -97,7 +97,7 @@ bool layOutFolder(const Place& from, const Place& to, std::vector<Text>& known) 
 
 bool layOutTopics(const Place& packs, const Place& programFolder) {
     bool all = true;
-    all &= quietly("layOutTopics", [&] {
+    const bool ended = quietly("layOutTopics", [&] {
         const Place list = programFolder / kLaidOut;
         std::vector<Text> known;
         if (list.disk().look(list).kind != Disk::Kind::Nothing)
@@ -108,7 +108,7 @@ bool layOutTopics(const Place& packs, const Place& programFolder) {
         if (known.size() > before)
             writeLines(list, known);
     });
-    return all;
+    return ended && all;
 }
 
 ParsedTopic parseTopic(std::string_view bytes) {
