@@ -30,7 +30,7 @@ void tellFont(Messages& out, const Font& font) {
 }
 
 // Where the letter stands in the plain caption that the single "&" marks; -1: nowhere.
-int accessPlace(const Label& label) {
+int accessPlace(const ShownLabel& label) {
     if (label.literal)
         return -1;
     int place = 0;
@@ -57,11 +57,11 @@ struct LookTeller {
     const Inked& inked;
     const Scheme& scheme;
 
-    void operator()(const Label* label) const {
+    void operator()(const Label*) const {
         const auto& look = std::get<ShownLabel>(shown.look);
         out.key("caption").text(
-            look.caption.empty() ? Text() : replaceAll(plainCaption(*label), u"\r\n", u"\n"));
-        out.key("access").number(look.caption.empty() ? -1 : accessPlace(*label));
+            replaceAll(look.literal ? look.caption : plainCaption(look.caption), u"\r\n", u"\n"));
+        out.key("access").number(accessPlace(look));
         tellFont(out, look.font);
         out.key("align").number(static_cast<int>(look.align));
         out.key("wrap").flag(look.wordWrap);

@@ -17,8 +17,6 @@ import { drawn, symbol } from "./symbols.js";
  *   reducedMotion: boolean}} Surroundings */
 
 const svgKinds = new Set(["shape", "line", "picture"]);
-/** Of a text that nobody writes, in characters: more is neither seen nor heard. */
-const mostShown = 2000;
 const buttonKinds = new Set(["button", "checkbox", "radio"]);
 
 /** @param {any} known what the program has told of its kind */
@@ -138,10 +136,9 @@ export class Control {
     take(told, scale) {
         const { element } = this;
         if (told.place) this.setPlace(told.place);
-        if (told.name !== undefined) this.name = told.name.slice(0, mostShown);
+        if (told.name !== undefined) this.name = told.name;
         if (told.tip !== undefined) this.setTip(told.tip.trim());
         if (told.look) this.look = told.look;
-        if (told.look?.caption) this.look.caption = told.look.caption.slice(0, mostShown);
         if (told.visible !== undefined) {
             this.visible = told.visible;
             if (this.kind !== "notification") element.toggleAttribute("hidden", !told.visible);

@@ -51,7 +51,7 @@ export function paintList(control) {
     element.setAttribute("aria-label", control.name);
     const rows = [...element.children];
     const same = rows.length === look.items.length;
-    if (!same || look.items.some((/** @type {string} */ item, /** @type {number} */ i) => rows[i].textContent !== shown(item)))
+    if (!same || look.items.some((/** @type {string} */ item, /** @type {number} */ i) => rows[i].textContent !== item))
         element.replaceChildren(...look.items.map((/** @type {string} */ item, /** @type {number} */ i) => rowOf(control, item, i)));
     [...element.children].forEach((row, i) =>
         row.setAttribute("aria-selected", String(i === look.index)),
@@ -61,8 +61,6 @@ export function paintList(control) {
     element.setAttribute("aria-activedescendant", chosen.id);
     chosen.scrollIntoView({ block: "nearest" });
 }
-/** @param {string} item */
-const shown = (item) => item.slice(0, 500); // more than any list is wide
 /** @param {Control} control @param {string} item @param {number} i */
 function rowOf(control, item, i) {
     const row = document.createElement("div");
@@ -70,6 +68,6 @@ function rowOf(control, item, i) {
     row.id = `${control.id}-${i}`;
     row.dataset.row = String(i);
     row.setAttribute("role", "option");
-    row.textContent = shown(item);
+    row.textContent = item;
     return row;
 }
