@@ -24,39 +24,38 @@ async function menu(player, name) {
     await player.page.waitForSelector("dialog.menu-room", { hidden: true });
 }
 
+/** Waits for a screen, and looks at it. */
+async function look(player, screen, name) {
+    await player.screen(screen);
+    await expectNothing(player, name);
+}
+
 /** From screen to screen, beside the games. */
 async function visitScreens(player) {
-    await player.screen("frmMenu");
-    await expectNothing(player, "menu");
+    await look(player, "frmMenu", "menu");
     await player.press("F10");
     await menu(player, "menu View");
     await player.press("s");
-    await player.screen("frmOptions");
-    await expectNothing(player, "settings");
+    await look(player, "frmOptions", "settings");
     await player.press("Escape");
     await player.screen("frmMenu");
     await player.click("lblView");
     await player.choose("mProgress");
-    await player.screen("frmProgress");
-    await expectNothing(player, "progress");
+    await look(player, "frmProgress", "progress");
     await player.press("Escape");
     await player.screen("frmMenu");
     await player.press("i");
-    await player.screen("frmInventor");
-    await expectNothing(player, "inventor");
+    await look(player, "frmInventor", "inventor");
     await player.click("lblOpen");
-    await player.screen("frmOpen");
-    await expectNothing(player, "topics to open");
+    await look(player, "frmOpen", "topics to open");
     await player.press("Escape");
     await player.screen("frmInventor");
     await player.press("Escape");
     await player.screen("frmMenu");
     await player.press("c");
-    await player.screen("frmGame");
-    await expectNothing(player, "game");
+    await look(player, "frmGame", "game");
     await player.press("Enter");
-    await player.screen("frmWord1");
-    await expectNothing(player, "classic entry");
+    await look(player, "frmWord1", "classic entry");
     await player.press("Escape");
     await player.screen("frmGame");
     await player.press("Escape");
@@ -68,8 +67,7 @@ async function visitGame(player) {
     await player.press("a");
     await player.screen("frmGame");
     await player.press("Enter");
-    await player.screen("frmWord2");
-    await expectNothing(player, "topics");
+    await look(player, "frmWord2", "topics");
     await player.press("Enter");
     await player.says("lblTopic", "AARDVARK");
     await player.guess("ae");
@@ -90,8 +88,7 @@ async function visitGame(player) {
     await player.press("F2");
     await box(player, "question", 2);
     await player.guess("tnp");
-    await player.screen("frmGame");
-    await expectNothing(player, "a game that is over");
+    await look(player, "frmGame", "a game that is over");
 }
 
 for (const [name, options] of kinds)
