@@ -29,6 +29,13 @@ test("Tab goes from button to button, and the focus is seen", () =>
         assert.match(ring, /inset/);
     }));
 
+/** As a person does who has set the system to it. */
+async function askForContrast(player) {
+    const client = await player.page.createCDPSession();
+    await client.send("Emulation.setEmulatedMedia", { features: [{ name: "prefers-contrast", value: "more" }] });
+    await player.until(() => /^#(ffffff|000000)$/.test(document.documentElement.style.getPropertyValue("--paper")));
+}
+
 test("a dark scheme and high contrast change the paper", { skip: browserName !== "chrome" }, () =>
     played({ files: englishFiles }, async (player) => {
         await player.screen("frmMenu");
@@ -37,10 +44,22 @@ test("a dark scheme and high contrast change the paper", { skip: browserName !==
         await player.page.emulateMediaFeatures([{ name: "prefers-color-scheme", value: "dark" }]);
         await player.until((before) => document.documentElement.style.getPropertyValue("--paper") !== before, usual);
         await expectNothing(player, "dark");
-        const client = await player.page.createCDPSession();
-        await client.send("Emulation.setEmulatedMedia", { features: [{ name: "prefers-contrast", value: "more" }] });
-        await player.until(() => /^#(ffffff|000000)$/.test(document.documentElement.style.getPropertyValue("--paper")));
+        await askForContrast(player);
         await expectNothing(player, "high contrast");
+    }));
+
+test("a box keeps its contrast under the mouse", { skip: browserName !== "chrome" }, () =>
+    played({ files: englishFiles }, async (player) => {
+        await player.openGame();
+        await askForContrast(player);
+        await player.press("F2");
+        await player.page.waitForSelector('dialog[data-box="question"]', { visible: true });
+        const buttons = await player.page.$$('dialog[data-box="question"] .push');
+        assert.equal(buttons.length, 2);
+        for (const button of buttons) {
+            await button.hover();
+            await expectNothing(player, "a button under the mouse", true);
+        }
     }));
 
 test("upright on a phone every key is 40 pixels wide and high at least", () =>
