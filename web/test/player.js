@@ -9,7 +9,7 @@ export const browserName = process.env.QUILLOR_BROWSER ?? "chrome";
 const programs = { chrome: "/usr/bin/chromium", firefox: "/usr/bin/firefox-esr" };
 export const folder = process.env.QUILLOR_PAGE ?? fileURLToPath(new URL("../../build/web", import.meta.url));
 const patience = 20_000;
-const mostPatience = 150_000; // for a whole test
+const mostPatience = 150_000; // for a whole test, unless it says otherwise
 
 /** What the page looked like when a test failed, the latest of them. */
 const failurePicture = fileURLToPath(new URL("../../build/web-failure.png", import.meta.url));
@@ -45,7 +45,8 @@ export class Player {
     }
     /** Starts a browser and a server. `options`: width, height, touch, languages, before (a
      * function that runs in each page before its script), files (by their paths, in storage
-     * before the first start), folder (another build of the page). */
+     * before the first start), folder (another build of the page), patience (for all of it, in
+     * milliseconds). */
     static async start(options = {}) {
         const player = new Player();
         player.server = await serve(options.folder ?? folder);
@@ -275,7 +276,7 @@ export async function played(options, body) {
     const player = await Player.start(options);
     let result;
     // Whatever the browser owes an answer then gets none any more, and says so.
-    const alarm = setTimeout(() => player.context.close(), mostPatience);
+    const alarm = setTimeout(() => player.context.close(), options.patience ?? mostPatience);
     try {
         result = await body(player);
     } catch (error) {
