@@ -54,7 +54,7 @@ class Box : public QDialog {
         const int margin = px(kMargin);
         rows_->setContentsMargins(margin, margin, margin, margin);
         rows_->setVerticalSpacing(px(kRowGap));
-        rows_->setHorizontalSpacing(px(kColumnGap));
+        rows_->setHorizontalSpacing(0);  // unless something stands beside the texts
         rows_->setSizeConstraint(QLayout::SetFixedSize);
         connect(&buttons_, &QDialogButtonBox::accepted, this, &QDialog::accept);
         connect(&buttons_, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -72,6 +72,7 @@ class Box : public QDialog {
         auto* label = new QLabel;
         label->setObjectName("picture");
         label->setPixmap(picture);
+        rows_->setHorizontalSpacing(px(kColumnGap));
         rows_->addWidget(label, 0, 0, -1, 1, Qt::AlignTop);
     }
     QLabel& addText(QString text, const QFont& font) {

@@ -231,6 +231,16 @@ TEST_F(Boxes, ShowTheFocusOfTheirField) {
     EXPECT_TRUE(opened);
 }
 
+TEST_F(Boxes, HaveTheSameMarginAtBothSidesOfTheirField) {
+    whenOpen([](QDialog& box) {
+        const auto* field = box.findChild<QLineEdit*>();
+        ASSERT_TRUE(field);
+        EXPECT_EQ(field->x(), box.width() - field->x() - field->width());
+    });
+    askText(style, "prompt", "Accept", "Cancel");
+    EXPECT_TRUE(opened);
+}
+
 TEST_F(Boxes, GrowWithTheFont) {
     QSize small;
     QSize large;
