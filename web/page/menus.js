@@ -9,10 +9,10 @@ function check(known) {
     const box = drawn("svg", { viewBox: "0 0 1 1", class: "check", "aria-hidden": "true" });
     if (!known.checkable) return box;
     const round = known.radio ? 0.5 : 0.25;
-    const ground = drawn("rect", { x: 0.03, y: 0.03, width: 0.94, height: 0.94, rx: round });
+    const ground = drawn("rect", { x: 0.037, y: 0.037, width: 0.926, height: 0.926, rx: round });
     ground.style.fill = known.checked ? "var(--accent)" : "var(--white)";
     ground.style.stroke = known.checked ? "var(--white)" : "var(--edge-color)";
-    ground.setAttribute("stroke-width", "0.06");
+    ground.setAttribute("stroke-width", "0.073");
     box.append(ground);
     if (known.checked && known.radio) {
         const dot = drawn("circle", { cx: 0.5, cy: 0.5, r: 0.19 });

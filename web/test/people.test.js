@@ -121,3 +121,30 @@ test("an access key is underlined, also where its letter has an edge", () =>
         });
         assert.deepEqual(line, ["C", "absolute", true, true, '""']);
     }));
+
+test("the words of a box stand beside the middle of its sign, and edges are rounded to whole pixels", () =>
+    played({ files: englishFiles }, async (player) => {
+        await player.openGame();
+        await player.press("F2");
+        await player.page.waitForSelector("dialog[data-box='question']", { visible: true });
+        const [sign, words, edge, thirteenth] = await player.page.evaluate(() => {
+            const middle = (each) => each.getBoundingClientRect().top + each.getBoundingClientRect().height / 2;
+            const box = document.querySelector("dialog[data-box='question']");
+            const { borderTopWidth, fontSize } = getComputedStyle(box);
+            return [middle(box.querySelector(".sign")), middle(box.querySelector("p")), parseFloat(borderTopWidth), parseFloat(fontSize) / 13];
+        });
+        assert.ok(Math.abs(sign - words) <= 1, `${sign} beside ${words}`);
+        assert.equal(edge, Math.round(thirteenth));
+    }));
+
+test("a field that has the focus has one ring, and no edge beside it", () =>
+    played({ files: englishFiles }, async (player) => {
+        await player.screen("frmMenu");
+        await player.press("i");
+        await player.screen("frmInventor");
+        const edges = await player.page.evaluate(() => {
+            const [focused, other] = ["txtTheme", "txtWord"].map((id) => getComputedStyle(document.querySelector(`[data-id='${id}']`)).borderTopColor);
+            return [focused, focused === other];
+        });
+        assert.deepEqual(edges, ["rgb(255, 255, 255)", false]);
+    }));
