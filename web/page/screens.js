@@ -120,9 +120,10 @@ export class Screen {
         const twip = below?.scale?.twip ?? 1;
         const bar = 2.5 * Math.max(14, 240 * twip);
         const edge = 2;
+        // A window can be lower than the bar alone.
         return {
-            width: Math.min(width - edge, this.sheet[0] * twip),
-            height: Math.min(height - bar - edge, this.sheet[1] * twip),
+            width: Math.max(1, Math.min(width - edge, this.sheet[0] * twip)),
+            height: Math.max(1, Math.min(height - bar - edge, this.sheet[1] * twip)),
         };
     }
     /** @param {Control} control */

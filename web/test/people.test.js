@@ -80,6 +80,21 @@ test("on a display of 4K all is larger, and nothing has to be scrolled", () =>
         assert.ok(await player.page.evaluate(() => document.documentElement.scrollHeight <= window.innerHeight));
     }));
 
+test("a window that is lower than a dialog's bar shows it again once it is larger", () =>
+    played({ files: englishFiles }, async (player) => {
+        await player.screen("frmMenu");
+        await player.press("c");
+        await player.screen("frmGame");
+        await player.press("Enter");
+        await player.screen("frmWord1");
+        const before = await player.placeOf("lblOk(0)");
+        // Whatever the page complains of meanwhile fails the test.
+        await player.page.setViewport({ width: 500, height: 20 });
+        await player.until(() => document.documentElement.clientHeight < 100);
+        await player.page.setViewport({ width: 1320, height: 810 });
+        await player.until((height) => document.querySelector("[data-id='lblOk(0)']").getBoundingClientRect().height === height, before.height);
+    }));
+
 test("a window that is turned lays the game out anew and keeps it", () =>
     played({ files: englishFiles, width: 1000, height: 600 }, async (player) => {
         await player.openGame();
