@@ -80,6 +80,21 @@ test("on a display of 4K all is larger, and nothing has to be scrolled", () =>
         assert.ok(await player.page.evaluate(() => document.documentElement.scrollHeight <= window.innerHeight));
     }));
 
+test("a whole game is played on a display of 4K, by the mouse", () =>
+    played({ files: englishFiles, width: 3840, height: 2160 }, async (player) => {
+        await player.screen("frmMenu");
+        await player.click("lblOption(4)");
+        await player.screen("frmGame");
+        await player.click("lblPlay(0)");
+        await player.screen("frmWord2");
+        await player.click("lblOk(0)");
+        await player.says("lblTopic", "AARDVARK");
+        await player.guess("atnp", "click");
+        await player.says("lblStatus", "VICTORY");
+        const key = await player.placeOf(`lblKey(${await player.keyOf("z")})`);
+        assert.ok(key.width >= 200 && key.height >= 150, `${key.width} x ${key.height}`);
+    }));
+
 test("a window that is lower than a dialog's bar shows it again once it is larger", () =>
     played({ files: englishFiles }, async (player) => {
         await player.screen("frmMenu");
