@@ -7,12 +7,15 @@ set(QUILLOR_ID org.quillor.quillor)
 set(share ${CMAKE_INSTALL_DATADIR})
 set(resources ${PROJECT_SOURCE_DIR}/resources)
 
-# Fonts, packs and manual go below QUILLOR_SHARED_DIR.
+# Fonts, packs and manual go below QUILLOR_SHARED_DIR, what the program loads while it runs
+# into QUILLOR_MODULES_DIR.
 if(QUILLOR_PORTABLE)
     set(QUILLOR_PROGRAM_DIR .)
+    set(QUILLOR_MODULES_DIR .)
     set(QUILLOR_SHARED_DIR .)
 else()
     set(QUILLOR_PROGRAM_DIR ${CMAKE_INSTALL_BINDIR})
+    set(QUILLOR_MODULES_DIR ${CMAKE_INSTALL_LIBDIR}/quillor)
     set(QUILLOR_SHARED_DIR ${share}/quillor)
 endif()
 

@@ -23,7 +23,7 @@ Session::Session(const std::filesystem::path& folder, const Installation& here)
     : disk_(platform::systemDisk(), folder),
       fonts_({folder / "fonts", here.executableFolder / "fonts", here.shared / "fonts"}),
       shell_(fonts_),
-      desktop_(shell_, makeSoundPlayer()),
+      desktop_(shell_, makeSoundPlayer(here.modules)),
       program_(desktop_, {folder, disk_}) {
     desktop_.attach(program_);
     disk_.onLoss = [this] { QTimer::singleShot(0, qApp, [this] { tellOfLoss(); }); };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <span>
@@ -21,7 +22,8 @@ class SoundPlayer {
     void play(std::span<const std::byte> waveImage) { play(waveImage, {}); }
 };
 
-/// The player of this build.
-std::unique_ptr<SoundPlayer> makeSoundPlayer();
+/// The player of this build. Where it is a module, `modules` is the folder that it is loaded
+/// from, with the first sound; if it is not there, every sound is over at once.
+std::unique_ptr<SoundPlayer> makeSoundPlayer(const std::filesystem::path& modules);
 
 }  // namespace quillor

@@ -1,4 +1,4 @@
-// The sound player where SDL knows the audio devices: Linux and macOS.
+// The sound device where SDL knows the audio devices: Linux and macOS.
 #define SDL_MAIN_HANDLED
 #include <chrono>
 #include <memory>
@@ -134,10 +134,6 @@ void SdlSoundDevice::rest() {
 
 std::unique_ptr<SoundDevice> makeSoundDevice() {
     return std::make_unique<SdlSoundDevice>();
-}
-
-std::unique_ptr<SoundPlayer> makeSoundPlayer() {
-    return std::make_unique<ThreadedSoundPlayer>(makeSoundDevice());
 }
 
 }  // namespace quillor

@@ -12,7 +12,7 @@ class SilentPlayer : public SoundPlayer {
 
 }  // namespace
 
-std::unique_ptr<SoundPlayer> makeSoundPlayer() {
+std::unique_ptr<SoundPlayer> makeSoundPlayer(const std::filesystem::path&) {
     return std::make_unique<SilentPlayer>();
 }
 

@@ -31,7 +31,7 @@ class WindowsSoundPlayer final : public SoundPlayer {
 
 }  // namespace
 
-std::unique_ptr<SoundPlayer> makeSoundPlayer() {
+std::unique_ptr<SoundPlayer> makeSoundPlayer(const std::filesystem::path&) {
     return std::make_unique<WindowsSoundPlayer>();
 }
 

@@ -59,10 +59,10 @@ carry_libraries() {
     while read -r library path; do
         cp -L "$path" "$stage/lib/$library"
         carried+=("$path" "${path#/usr}" "/usr${path#/usr}")
-    done < <(libraries_of "$stage/quillor" "$stage"/plugins/*/*.so)
+    done < <(libraries_of "$stage/quillor" "$stage"/*.so "$stage"/plugins/*/*.so)
     # Found from where they stand, wherever the folder is put.
     # shellcheck disable=SC2016 # $ORIGIN is the loader's
-    patchelf --force-rpath --set-rpath '$ORIGIN/lib' "$stage/quillor"
+    patchelf --force-rpath --set-rpath '$ORIGIN/lib' "$stage/quillor" "$stage"/*.so
     # shellcheck disable=SC2016
     patchelf --force-rpath --set-rpath '$ORIGIN' "$stage"/lib/*
     # shellcheck disable=SC2016

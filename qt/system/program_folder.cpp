@@ -47,9 +47,11 @@ void bringManual(const fs::path& fromFolder, const fs::path& toFolder) {
 
 Installation findInstallation(const fs::path& executableFolder, bool portable) {
     const fs::path shared = executableFolder / QUILLOR_SHARED_FROM_PROGRAM;
+    const fs::path installed = executableFolder / QUILLOR_MODULES_FROM_PROGRAM;
+    const fs::path modules = isFolder(installed) ? installed : executableFolder;
     if (!portable && isFolder(shared) && !fs::exists(executableFolder / kPortableMarker))
-        return {executableFolder, shared, true};
-    return {executableFolder, executableFolder, false};
+        return {executableFolder, shared, modules, true};
+    return {executableFolder, executableFolder, modules, false};
 }
 
 fs::path useFolder(const fs::path& folder) {

@@ -11,8 +11,9 @@ namespace quillor {
 /// Where the program stands, and what everybody who plays with it shares.
 struct Installation {
     std::filesystem::path executableFolder;
-    std::filesystem::path shared;  // packs, fonts and the manual are in it
-    bool systemWide = false;       // the program's own folder is not the player's
+    std::filesystem::path shared;   // packs, fonts and the manual are in it
+    std::filesystem::path modules;  // what the program loads while it runs
+    bool systemWide = false;        // the program's own folder is not the player's
 };
 
 /// A program that finds its shared files where a system keeps them is installed for

@@ -96,7 +96,8 @@ class StalledDevice : public SoundFile {
 
     /// As the program would play; leaves 0 when nothing has waited for the device.
     [[noreturn]] static void playAndLeave() {
-        auto player = makeSoundPlayer();
+        std::unique_ptr<SoundPlayer> player =
+            std::make_unique<ThreadedSoundPlayer>(makeSoundDevice());
         const Image image = carriedSound(104);
         bool held = play(*player, image) > kSoon;
         held |= play(*player, image) > kSoon;
