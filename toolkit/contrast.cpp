@@ -15,9 +15,21 @@ constexpr Color kBlack = rgb(0, 0, 0);
 constexpr Color kWhite = rgb(255, 255, 255);
 constexpr double kFlare = 0.05;  // light that even black gives back
 
+using Lights = std::array<double, 256>;
+
+Lights makeLights() {
+    Lights lights{};
+    for (std::size_t i = 0; i < lights.size(); ++i) {
+        const double share = static_cast<double>(i) / 255;
+        lights[i] = share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+    }
+    return lights;
+}
+
+// How much light a component gives, 0 to 1. The edge of one caption asks hundreds of times.
 double linear(int component) {
-    const double share = component / 255.0;
-    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+    static const Lights kLights = makeLights();
+    return kLights.at(static_cast<std::size_t>(component));
 }
 
 }  // namespace
@@ -52,22 +64,18 @@ Color mixed(Color under, Color over, double share) {
 
 namespace {
 
-struct Point {
-    Twips x = 0;
-    Twips y = 0;
-};
-
-// A point of a control's parent, on their screen.
-Point onScreen(const Control& control, Point point) {
-    for (const Frame* frame = control.parent; frame; frame = frame->parent)
-        point = {point.x + frame->left, point.y + frame->top};
-    return point;
+// Of a control on its screen.
+Area placeOf(const Control& control) {
+    Area place{control.left, control.top, control.width, control.height};
+    for (const Frame* frame = control.parent; frame; frame = frame->parent) {
+        place.left += frame->left;
+        place.top += frame->top;
+    }
+    return place;
 }
 
-bool covers(const Control& control, Point point) {
-    const Point corner = onScreen(control, {control.left, control.top});
-    return isSeen(control) && point.x >= corner.x && point.x < corner.x + control.width &&
-           point.y >= corner.y && point.y < corner.y + control.height;
+bool covers(const Area& area, Twips x, Twips y) {
+    return x >= area.left && x < area.right() && y >= area.top && y < area.bottom();
 }
 
 // What a control puts behind those in front of it.
@@ -102,30 +110,35 @@ std::optional<double> shareNeeded(Color ink, std::span<const Color> grounds, Col
     return share;
 }
 
-// At a point of the control's parent.
-Ground groundAt(const Screen& screen, const Control& front, Point point) {
-    point = onScreen(front, point);
-    Ground ground{.color = rgb(255, 255, 255)};
-    for (const ControlRef& ref : screen.controls()) {
-        const Control& control = controlOf(ref);
-        if (&control == &front)
-            break;
-        if (const auto found = groundOf(ref); found && covers(control, point))
-            ground = *found;
-    }
-    return ground;
-}
-
 }  // namespace
 
-Ground groundBehind(const Screen& screen, const Label& label) {
-    if (label.opaque)
-        return {.color = label.backColor};
-    return groundAt(screen, label, {label.left + label.width / 2, label.top + label.height / 2});
+Grounds::Grounds(const Screen& screen) {
+    for (const ControlRef& ref : screen.controls()) {
+        const Control& control = controlOf(ref);
+        if (const auto ground = groundOf(ref); ground && isSeen(control))
+            layers_.push_back({control.layer, placeOf(control), *ground});
+    }
 }
 
-Ground groundBehind(const Screen& screen, const Line& line) {
-    return groundAt(screen, line, {(line.x1 + line.x2) / 2, (line.y1 + line.y2) / 2});
+Ground Grounds::behind(const Label& label) const {
+    if (label.opaque)
+        return {.color = label.backColor};
+    return at(label, label.left + label.width / 2, label.top + label.height / 2);
+}
+
+Ground Grounds::behind(const Line& line) const {
+    return at(line, (line.x1 + line.x2) / 2, (line.y1 + line.y2) / 2);
+}
+
+// At a point of the control's parent.
+Ground Grounds::at(const Control& front, Twips x, Twips y) const {
+    const Area place = placeOf(front);
+    x += place.left - front.left;
+    y += place.top - front.top;
+    const auto found = std::find_if(layers_.rbegin(), layers_.rend(), [&](const Layer& each) {
+        return each.layer < front.layer && covers(each.place, x, y);
+    });
+    return found == layers_.rend() ? Ground{.color = rgb(255, 255, 255)} : found->ground;
 }
 
 double contrastNeeded(const Font& font) {

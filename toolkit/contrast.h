@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <vector>
 
 #include "core/types.h"
 #include "toolkit/screen.h"
@@ -37,10 +38,25 @@ struct Ground {
     bool enabled = true;  // false: a face that shows that nothing can be pressed
 };
 
-/// What is seen behind the middle of something that stands on the screen: the next
-/// filled thing behind it, or the ground of an opaque label itself.
-Ground groundBehind(const Screen& screen, const Label& label);
-Ground groundBehind(const Screen& screen, const Line& line);
+/// What lies behind what on a screen: as it is now, and for as long as nothing changes.
+class Grounds {
+  public:
+    explicit Grounds(const Screen& screen);
+    /// What is seen behind the middle of something that stands on the screen: the next
+    /// filled thing behind it, or the ground of an opaque label itself.
+    Ground behind(const Label& label) const;
+    Ground behind(const Line& line) const;
+
+  private:
+    struct Layer {
+        int layer;
+        Area place;  // on the screen
+        Ground ground;
+    };
+    Ground at(const Control& front, Twips x, Twips y) const;
+
+    std::vector<Layer> layers_;  // what is filled and seen, from the back to the front
+};
 
 /// What a text in this font needs: kSmallTextContrast or kLargeTextContrast.
 double contrastNeeded(const Font& font);

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <functional>
+#include <limits>
 #include <memory>
 #include <string>
 #include <variant>
@@ -59,6 +60,7 @@ enum class Motion {
 struct Control {
     std::string id;           // its name in the code, e.g. "lblKey(5)"; unique on its screen
     Frame* parent = nullptr;  // null: stands on the screen itself
+    int layer = std::numeric_limits<int>::max();  // on its screen, from 0 at the back
     Twips left = 0;
     Twips top = 0;
     Twips width = 0;

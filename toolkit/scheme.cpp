@@ -97,8 +97,8 @@ Inked inkedOn(const Ground& ground, Color color, Color face, const Scheme& schem
 
 }  // namespace
 
-Inked inked(const Screen& screen, const Label& label, const Scheme& scheme) {
-    const Ground ground = groundBehind(screen, label);
+Inked inked(const Grounds& grounds, const Label& label, const Scheme& scheme) {
+    const Ground ground = grounds.behind(label);
     const bool enabled = label.enabled && ground.enabled;
     Inked shown = inkedOn(ground, enabled ? label.textColor : style::kInk,
                           enabled ? ground.color : style::kDisabledFace, scheme);
@@ -107,8 +107,8 @@ Inked inked(const Screen& screen, const Label& label, const Scheme& scheme) {
     return shown;
 }
 
-Inked inked(const Screen& screen, const Line& line, const Scheme& scheme) {
-    const Ground ground = groundBehind(screen, line);
+Inked inked(const Grounds& grounds, const Line& line, const Scheme& scheme) {
+    const Ground ground = grounds.behind(line);
     Inked shown = inkedOn(ground, line.color, ground.color, scheme);
     shown.needed = scheme.needed(kLargeTextContrast);
     return shown;

@@ -54,7 +54,7 @@ struct Inked {
     Edge edge() const { return edgeFor(ink, grounds, needed); }
     bool operator==(const Inked&) const = default;
 };
-Inked inked(const Screen& screen, const Label& label, const Scheme& scheme);
-Inked inked(const Screen& screen, const Line& line, const Scheme& scheme);
+Inked inked(const Grounds& grounds, const Label& label, const Scheme& scheme);
+Inked inked(const Grounds& grounds, const Line& line, const Scheme& scheme);
 
 }  // namespace quillor

@@ -117,6 +117,7 @@ class Screen {
     template <typename T>
     T& add(T& control, Frame* parent = nullptr) {
         control.parent = parent;
+        control.layer = static_cast<int>(controls_.size());
         controls_.emplace_back(&control);
         return control;
     }

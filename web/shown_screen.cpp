@@ -42,8 +42,9 @@ void ShownScreen::tell(Messages& messages, const Scheme& scheme, double twip) {
     tellScreen(messages);
     const bool repaint = scheme != scheme_;
     scheme_ = scheme;
+    const Grounds grounds(screen_);
     for (std::size_t i = 0; i < told_.size(); ++i)
-        tellControl(messages, static_cast<int>(i), scheme, repaint);
+        tellControl(messages, static_cast<int>(i), grounds, scheme, repaint);
     if (const int focused = indexOf(focus_.control()); focused != focused_) {
         focused_ = focused;
         messages.beginObject().key("tell").word("focus").key("screen").number(number_);
@@ -91,12 +92,13 @@ void ShownScreen::tellScreen(Messages& messages) {
 }
 
 // Of what is not seen nobody asks.
-bool ShownScreen::takeInk(Told& told, const ControlRef& ref, const Scheme& scheme) const {
+bool ShownScreen::takeInk(Told& told, const ControlRef& ref, const Grounds& grounds,
+                          const Scheme& scheme) const {
     if (!isSeen(controlOf(ref)))
         return false;
     std::optional<Inked> now;
     if (auto* const* label = std::get_if<Label*>(&ref); label && !(*label)->caption.empty()) {
-        now = inked(screen_, **label, scheme);
+        now = inked(grounds, **label, scheme);
         // Letters that are large on a desk may be small on a phone.
         Font drawn = (*label)->font;
         drawn.size *= static_cast<float>(twip_ * kUsualTwips);
@@ -104,20 +106,21 @@ bool ShownScreen::takeInk(Told& told, const ControlRef& ref, const Scheme& schem
             now->needed = std::max(now->needed, scheme.needed(contrastNeeded(drawn)));
     }
     if (auto* const* line = std::get_if<Line*>(&ref))
-        now = inked(screen_, **line, scheme);
+        now = inked(grounds, **line, scheme);
     if (!now || now == told.inked)
         return false;
     told.inked = now;
     return true;
 }
 
-void ShownScreen::tellControl(Messages& messages, int index, const Scheme& scheme, bool repaint) {
+void ShownScreen::tellControl(Messages& messages, int index, const Grounds& grounds,
+                              const Scheme& scheme, bool repaint) {
     const ControlRef& ref = *at(index);
     const Control& control = controlOf(ref);
     Told& told = told_[static_cast<std::size_t>(index)];
     const ShownControl::Changes changes = told.shown.update(ref);
     const bool first = std::exchange(told.first, false);
-    const bool ink = takeInk(told, ref, scheme);
+    const bool ink = takeInk(told, ref, grounds, scheme);
     const bool shape = std::holds_alternative<Shape*>(ref) && changes.state;
     const bool moved = std::exchange(told.motions, control.motions) != control.motions;
     if (!changes.any() && !first && !ink && !repaint && !moved)

@@ -40,8 +40,10 @@ class ShownScreen {
     };
     void tellOpening(Messages& messages) const;
     void tellScreen(Messages& messages);
-    void tellControl(Messages& messages, int index, const Scheme& scheme, bool repaint);
-    bool takeInk(Told& told, const ControlRef& ref, const Scheme& scheme) const;
+    void tellControl(Messages& messages, int index, const Grounds& grounds, const Scheme& scheme,
+                     bool repaint);
+    bool takeInk(Told& told, const ControlRef& ref, const Grounds& grounds,
+                 const Scheme& scheme) const;
 
     const int number_;
     const int over_;

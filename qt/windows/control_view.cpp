@@ -67,17 +67,12 @@ bool testIdsWanted() {
 
 }  // namespace
 
-void ControlView::look() {
-    changes_ |= shown_.update(ref_);
-}
-
 bool ControlView::differs() {
-    look();
+    changes_ |= shown_.update(ref_);
     return changes_.any() || control().motions != motions_;
 }
 
 void ControlView::sync(const TwipScale& scale) {
-    look();
     const ShownControl::Changes changes = std::exchange(changes_, {});
     syncPlace(scale);
     if (changes.words)

@@ -51,9 +51,13 @@ class ControlView {
     virtual QWidget& widget() = 0;
     Control& control() const { return controlOf(ref_); }
 
-    /// Whether it is not shown as it is now.
+    /// Looks at the control; returns whether it is not shown as it is now.
     bool differs();
-    /// Applies every difference but one: a control that is to be hidden or
+    /// Whether what has become of it may show behind other controls, or move them.
+    virtual bool isBehindOthers() const { return true; }
+    /// Whether its widget may have gone other ways than the control.
+    virtual bool mayStray() const { return false; }
+    /// Applies every difference that was seen but one: a control that is to be hidden or
     /// disabled stays as it is until `withdraw`, so that the focus can leave it.
     void sync(const TwipScale& scale);
     void withdraw();
@@ -99,7 +103,6 @@ class ControlView {
     const Scheme& scheme() const { return link_.shell().scheme; }
 
   private:
-    void look();
     void syncPlace(const TwipScale& scale);
     void put();
     void startMotion();

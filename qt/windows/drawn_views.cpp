@@ -65,8 +65,8 @@ void LineView::syncLook() {
               l.color,
               l.roundEnds,
               {}};
-    if (const Screen* screen = link().screen(); screen && l.visible) {
-        const Inked shown = inked(*screen, l, scheme());
+    if (link().isOpen() && l.visible) {
+        const Inked shown = inked(link().grounds(), l, scheme());
         look.color = shown.ink;
         look.edge = shown.edge();
     }
@@ -125,6 +125,7 @@ void PictureView::syncLook() {
     if (look == shown_)
         return;
     shown_ = look;
+    link().shell().papers.clear();  // megabytes, which may be wanted no more
     update();
 }
 
@@ -135,11 +136,10 @@ void PictureView::paintEvent(QPaintEvent* event) {
     if (part.width > 0)
         drawn = QRectF(drawn.topLeft() + QPointF(part.left, part.top) * pixelsPerTwip(),
                        QSizeF(part.width, part.height) * pixelsPerTwip());
-    const QPixmap& pixmap = link().shell().papers.filling(
-        {image, drawing, size(), density, pixelsPerTwip(), drawn, ownPlace().top(), colors});
     QPainter painter(this);
-    const QRectF dirty = event->rect();
-    painter.drawPixmap(dirty, pixmap, QRectF(dirty.topLeft() * density, dirty.size() * density));
+    link().shell().papers.paint(
+        painter, event->rect(),
+        {image, drawing, size(), density, pixelsPerTwip(), drawn, ownPlace().top(), colors});
 }
 
 void PictureView::mouseMoveEvent(QMouseEvent*) {

@@ -30,6 +30,7 @@ class ShapeView : public QWidget, public ControlView {
 
 class LineView : public QWidget, public ControlView {
   public:
+    bool isBehindOthers() const override { return false; }
     LineView(Line& line, ScreenLink& link, QWidget* parent);
     QWidget& widget() override { return *this; }
 

@@ -13,6 +13,8 @@ class FieldView : public QLineEdit, public ControlView {
     FieldView(TextField& field, ScreenLink& link, QWidget* parent);
 
     QWidget& widget() override { return *this; }
+    bool isBehindOthers() const override { return false; }
+    bool mayStray() const override { return true; }
 
     /// A key that is left to the field: it moves the caret, deletes, or serves
     /// the clipboard.

@@ -25,11 +25,10 @@ void LabelView::syncLook() {
 
 // What is not seen needs none.
 void LabelView::takeGround(LabelLook& look) const {
-    const Screen* screen = link().screen();
     look.backColor = scheme().ground(label_.backColor);
-    if (!screen || !label_.visible || label_.caption.empty())
+    if (!link().isOpen() || !label_.visible || label_.caption.empty())
         return;
-    const Inked shown = inked(*screen, label_, scheme());
+    const Inked shown = inked(link().grounds(), label_, scheme());
     look.enabled = shown.enabled;
     look.grounds = shown.grounds;
     look.fades = scheme().isUsual();

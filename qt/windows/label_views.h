@@ -15,6 +15,7 @@ namespace quillor {
 class LabelView : public ControlView {
   public:
     Label& label() const { return label_; }
+    bool isBehindOthers() const override { return label_.opaque || look_.opaque; }
     /// Whether another screen stands over its own.
     bool isCovered() const { return link().screen() != nullptr && !link().screen()->enabled; }
 

@@ -13,6 +13,8 @@ class ListView : public QListWidget, public ControlView {
     ListView(ListBox& list, ScreenLink& link, QWidget* parent);
 
     QWidget& widget() override { return *this; }
+    bool isBehindOthers() const override { return false; }
+    bool mayStray() const override { return true; }
 
     /// A key that is left to the list: it moves the selection.
     void move(QKeyEvent& event);

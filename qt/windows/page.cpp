@@ -134,8 +134,11 @@ void Page::layOut() {
     scale_ = TwipScale::fitting(window_.sheet(*screen_), twips, size());
     if (std::ranges::any_of(views_, [&](ControlView* each) { return each->isHeadBar(twips); }))
         scale_.origin.setY(0);
-    for (ControlView* each : views_)
+    link_.lookBehind();
+    for (ControlView* each : views_) {
+        each->differs();
         each->sync(scale_);
+    }
     QToolTip::setFont(link_.shell().fonts.font(style::kToolTip, scale_.pixels));
     update();
 }
@@ -146,22 +149,38 @@ void Page::sync(Shell::Cause cause) {
     link_.focus().settle();
     if (!screen_)
         return;
-    if (cause == Shell::Cause::Player || std::ranges::any_of(views_, &ControlView::differs))
-        showAll();
+    if (const std::vector<ControlView*> wanted = toSync(cause); !wanted.empty())
+        showChanged(wanted);
     else
         giveFocus();
     timers_.sync();
 }
 
-void Page::showAll() {
+// What lies behind a text decides how it is drawn.
+std::vector<ControlView*> Page::toSync(Shell::Cause cause) {
+    std::vector<ControlView*> changed;
+    bool all = cause == Shell::Cause::Preferences;
+    for (ControlView* each : views_) {
+        const bool differs = each->differs();
+        all |= differs && each->isBehindOthers();
+        if (differs || (cause == Shell::Cause::Player && each->mayStray()))
+            changed.push_back(each);
+    }
+    return all ? views_ : changed;
+}
+
+void Page::showChanged(const std::vector<ControlView*>& changed) {
+    link_.lookBehind();
     ControlView* later = fieldToComeTo();
-    for (ControlView* each : views_)
+    for (ControlView* each : changed)
         if (each != later)
             each->sync(scale_);
     giveFocus();
-    if (later)
+    if (later) {
+        later->differs();
         later->sync(scale_);
-    for (ControlView* each : views_)
+    }
+    for (ControlView* each : changed)
         each->withdraw();
 }
 

@@ -83,7 +83,8 @@ class Page : public QWidget {
 
   private:
     void makeViews();
-    void showAll();
+    std::vector<ControlView*> toSync(Shell::Cause cause);
+    void showChanged(const std::vector<ControlView*>& changed);
     void layOut();
     ControlView* fieldToComeTo();
     void giveFocus();

@@ -149,7 +149,7 @@ void Shell::apply(const Preferences& wanted) {
     scheme = Scheme(wanted);
     fonts.textSize = wanted.textSize;
     motions.wanted = !wanted.reducedMotion;
-    event([] {});
+    event([] {}, Cause::Preferences);
 }
 
 void Shell::paintMotions() {

@@ -14,6 +14,7 @@
 #include "qt/windows/key_mapping.h"
 #include "qt/windows/motions.h"
 #include "qt/windows/window_memory.h"
+#include "toolkit/contrast.h"
 #include "toolkit/focus.h"
 #include "toolkit/key_route.h"
 #include "toolkit/nested_events.h"
@@ -45,9 +46,10 @@ class Shell {
     /// Called when no handler of any screen is running any more.
     std::function<void()> onIdle;
 
-    /// Who an event comes from. Most ticks change nothing, and what only a player can have
-    /// changed, such as a widget's own text, need not be looked at after one.
-    enum class Cause { Player, Clock };
+    /// What an event comes from. Most ticks change nothing, and what only a player can have
+    /// changed, such as a widget's own text, need not be looked at after one. Other
+    /// preferences change everything.
+    enum class Cause { Player, Clock, Preferences };
 
     /// Runs one event's handlers. Events may nest: a timer ticks while a box
     /// is open. After `end` it does nothing.
@@ -134,7 +136,8 @@ class Shell {
 /// How a control's widget reaches its screen, for as long as there is one.
 class ScreenLink {
   public:
-    ScreenLink(Shell& shell, Screen& screen) : shell_(shell), screen_(&screen), focus_(screen) {}
+    ScreenLink(Shell& shell, Screen& screen)
+        : shell_(shell), screen_(&screen), focus_(screen), grounds_(screen) {}
 
     Shell& shell() const { return shell_; }
     /// Not to be asked for anything but its control once the screen is closed.
@@ -165,10 +168,15 @@ class ScreenLink {
     bool isOpen() const { return screen_ != nullptr; }
     void cut() { screen_ = nullptr; }
 
+    /// As of the latest `lookBehind`, for those who show what has changed since then.
+    const Grounds& grounds() const { return grounds_; }
+    void lookBehind() { grounds_ = Grounds(*screen_); }
+
   private:
     Shell& shell_;
     Screen* screen_;
     Focus focus_;
+    Grounds grounds_;
 };
 
 /// Tells the toolkit about our own roles; once is enough, more do no harm.

@@ -103,7 +103,7 @@ class SchemeContrast : public GameTest, public ::testing::WithParamInterface<Ask
         if (label.role == LabelRole::Notification || label.font.face == Face::Comic)
             return;
         // Usually what cannot be pressed is faint.
-        const bool faint = !isUsable(label) || !groundBehind(*page.screen(), label).enabled;
+        const bool faint = !isUsable(label) || !Grounds(*page.screen()).behind(label).enabled;
         if (faint && GetParam().needed == 0)
             return;
         Text caption;

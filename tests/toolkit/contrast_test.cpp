@@ -78,44 +78,44 @@ class Layers : public Screen {
 
 TEST(Ground, IsTheNextFilledThingBehindTheMiddle) {
     Layers layers;
-    EXPECT_EQ(groundBehind(layers, layers.label).color, kRed);
+    EXPECT_EQ(Grounds(layers).behind(layers.label).color, kRed);
     layers.shape.width = 250;
-    EXPECT_EQ(groundBehind(layers, layers.label).picture, &layers.picture);
+    EXPECT_EQ(Grounds(layers).behind(layers.label).picture, &layers.picture);
     layers.frame.opaque = true;
     layers.frame.backColor = kBlue;
-    EXPECT_EQ(groundBehind(layers, layers.label).color, kBlue);
+    EXPECT_EQ(Grounds(layers).behind(layers.label).color, kBlue);
 }
 
 TEST(Ground, IsNothingThatIsNotSeen) {
     Layers layers;
     layers.shape.visible = false;
-    EXPECT_EQ(groundBehind(layers, layers.label).picture, &layers.picture);
+    EXPECT_EQ(Grounds(layers).behind(layers.label).picture, &layers.picture);
     layers.shape.visible = true;
     layers.shape.filled = false;
-    EXPECT_EQ(groundBehind(layers, layers.label).picture, &layers.picture);
+    EXPECT_EQ(Grounds(layers).behind(layers.label).picture, &layers.picture);
 }
 
 TEST(Ground, TellsWhetherItIsTheFaceOfADisabledButton) {
     Layers layers;
-    EXPECT_TRUE(groundBehind(layers, layers.label).enabled);
+    EXPECT_TRUE(Grounds(layers).behind(layers.label).enabled);
     layers.shape.enabled = false;
-    EXPECT_FALSE(groundBehind(layers, layers.label).enabled);
+    EXPECT_FALSE(Grounds(layers).behind(layers.label).enabled);
 }
 
 TEST(Ground, OfAnOpaqueLabelIsItsOwn) {
     Layers layers;
     layers.label.opaque = true;
     layers.label.backColor = kBlue;
-    EXPECT_EQ(groundBehind(layers, layers.label).color, kBlue);
+    EXPECT_EQ(Grounds(layers).behind(layers.label).color, kBlue);
 }
 
 TEST(Ground, OfALineIsFoundAtItsMiddle) {
     Layers layers;
-    EXPECT_EQ(groundBehind(layers, layers.label).color, kRed);
+    EXPECT_EQ(Grounds(layers).behind(layers.label).color, kRed);
     Line line;
     line.parent = &layers.frame;
     line.span(0, 0, 300, 300);
-    EXPECT_EQ(groundBehind(layers, line).color, layers.front.backColor);
+    EXPECT_EQ(Grounds(layers).behind(line).color, layers.front.backColor);
 }
 
 TEST(Edge, IsOnlyGivenWhereItIsNeeded) {

@@ -78,17 +78,17 @@ struct OnAFace : ::testing::Test {
 };
 
 TEST_F(OnAFace, WordsAreInkedAsTheirGroundNeedsIt) {
-    const Inked usual = inked(screen, label, Scheme());
+    const Inked usual = inked(Grounds(screen), label, Scheme());
     EXPECT_EQ(usual.ink, style::kPale);
     EXPECT_EQ(usual.grounds, (ColorRange{face.backColor, face.backColor}));
     EXPECT_GT(usual.edge().share, 0);  // white on the theme is less than small print needs
-    const Inked high = inked(screen, label, Scheme({.highContrast = true}));
+    const Inked high = inked(Grounds(screen), label, Scheme({.highContrast = true}));
     EXPECT_GE(contrast(high.ink, high.grounds[0]), kHighContrast);
 }
 
 TEST_F(OnAFace, WordsOnAFaceThatIsDisabledAreToo) {
     face.enabled = false;
-    const Inked shown = inked(screen, label, Scheme());
+    const Inked shown = inked(Grounds(screen), label, Scheme());
     EXPECT_FALSE(shown.enabled);
     EXPECT_EQ(shown.ink, style::kInk);
 }
@@ -98,7 +98,7 @@ TEST_F(OnAFace, LinesNeedWhatLargeTextsNeed) {
     line.span(0, 150, 900, 150);
     line.color = face.backColor;
     screen.add(line);
-    const Inked shown = inked(screen, line, Scheme());
+    const Inked shown = inked(Grounds(screen), line, Scheme());
     EXPECT_EQ(shown.needed, kLargeTextContrast);
     EXPECT_GT(shown.edge().share, 0);
 }
