@@ -18,6 +18,11 @@ namespace {
 const QString kComicName = QStringLiteral("Comic Sans MS");
 constexpr double kTwipsPerPoint = 20;
 
+// By its name. A filter of the folder would make the system's regular expressions of it.
+bool isFont(const QString& name) {
+    return name.endsWith(".ttf", Qt::CaseInsensitive) || name.endsWith(".otf", Qt::CaseInsensitive);
+}
+
 QString displayName() {
     return toQt(texts::kDisplayFont);
 }
@@ -27,8 +32,9 @@ QString displayName() {
 FontBook::FontBook(const std::vector<std::filesystem::path>& folders) {
     for (const std::filesystem::path& folder : folders) {
         const QDir directory(toQt(fromPath(folder)));
-        for (const QString& name : directory.entryList({"*.ttf", "*.otf"}, QDir::Files, QDir::Name))
-            if (isFile(folder / toPath(fromQt(name))))  // what a link leads to may be a pipe
+        for (const QString& name : directory.entryList(QDir::Files, QDir::Name))
+            // What a link leads to may be a pipe.
+            if (isFont(name) && isFile(folder / toPath(fromQt(name))))
                 load(directory.filePath(name));
     }
 }
@@ -51,10 +57,17 @@ bool FontBook::present(TextView name) const {
 
 QString FontBook::family(Face face) const {
     if (face == Face::Display)
-        return QFontDatabase::hasFamily(displayName()) ? displayName() : rounded_;
+        return firstOf(displayFamily_, displayName(), rounded_);
     if (face == Face::Comic)
-        return QFontDatabase::hasFamily(kComicName) ? kComicName : comic_;
+        return firstOf(comicFamily_, kComicName, comic_);
     return {};
+}
+
+QString FontBook::firstOf(std::optional<QString>& known, const QString& installed,
+                          const QString& loaded) {
+    if (!known)
+        known = QFontDatabase::hasFamily(installed) ? installed : loaded;
+    return *known;
 }
 
 QFont FontBook::font(const Font& font, double pixelsPerTwip) const {

@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QString>
 #include <filesystem>
+#include <optional>
 #include <vector>
 
 #include "toolkit/controls.h"
@@ -28,9 +29,15 @@ class FontBook {
   private:
     void load(const QString& file);
     QString family(Face face) const;
+    static QString firstOf(std::optional<QString>& known, const QString& installed,
+                           const QString& loaded);
 
     QString rounded_;  // loaded families; empty: none
     QString comic_;
+    // What a face is drawn in, once the system has been asked: that takes it longer than
+    // painting a label does.
+    mutable std::optional<QString> displayFamily_;
+    mutable std::optional<QString> comicFamily_;
 };
 
 }  // namespace quillor
