@@ -36,19 +36,32 @@ void paintDrawing(QPainter& painter, const std::string& name, const QRect& place
                                                           Qt::SmoothTransformation));
 }
 
+QSize pixelsOf(const PaperCache::Wish& wish) {
+    return (QSizeF(wish.size) * wish.density).toSize().expandedTo(QSize(1, 1));
+}
+
+// In pixels of the display.
+void paintPage(QPainter& painter, const PaperCache::Wish& wish) {
+    paintNotebook(painter, QRect(QPoint(), pixelsOf(wish)), wish.top * wish.density,
+                  wish.pixelsPerTwip * wish.density, wish.scheme);
+}
+
+bool isPlain(const PaperCache::Wish& wish) {
+    return wish.scheme.isHighContrast() || (!wish.image && wish.drawing.empty());
+}
+
 QPixmap notebook(QSize pixels, const PaperCache::Wish& wish) {
     QPixmap page(pixels);
     const QRectF drawn(wish.drawn.topLeft() * wish.density, wish.drawn.size() * wish.density);
     QPainter painter(&page);
-    paintNotebook(painter, page.rect(), wish.top * wish.density, wish.pixelsPerTwip * wish.density,
-                  wish.scheme);
-    if (wish.scheme.isHighContrast())
+    paintPage(painter, wish);
+    if (isPlain(wish))
         return page;
     paintDrawing(painter, wish.drawing, drawn.isNull() ? page.rect() : drawn.toRect());
     return page;
 }
 
-const QImage& pixelsOf(const ImageRef& image) {
+const QImage& decoded(const ImageRef& image) {
     return static_cast<const DecodedImage&>(*image).image;
 }
 
@@ -82,13 +95,25 @@ std::size_t qHash(const PaperCache::Wish& wish, std::size_t seed) {
 const QPixmap& PaperCache::filling(const Wish& wish) {
     if (const QPixmap* known = copies_.object(wish))
         return *known;
-    const QSize pixels = (QSizeF(wish.size) * wish.density).toSize().expandedTo(QSize(1, 1));
+    const QSize pixels = pixelsOf(wish);
     auto made = std::make_unique<QPixmap>(wish.image && !wish.scheme.isHighContrast()
-                                              ? cropped(pixelsOf(wish.image), pixels)
+                                              ? cropped(decoded(wish.image), pixels)
                                               : notebook(pixels, wish));
     made->setDevicePixelRatio(wish.density);
     copies_.insert(wish, made.release());
     return *copies_.object(wish);
+}
+
+void PaperCache::paint(QPainter& painter, const QRectF& part, const Wish& wish) {
+    if (!isPlain(wish)) {
+        painter.drawPixmap(part, filling(wish),
+                           QRectF(part.topLeft() * wish.density, part.size() * wish.density));
+        return;
+    }
+    painter.save();
+    painter.scale(1 / wish.density, 1 / wish.density);
+    paintPage(painter, wish);
+    painter.restore();
 }
 
 void paintNotebook(QPainter& painter, const QRectF& area, double top, double pixelsPerTwip,

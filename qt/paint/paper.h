@@ -47,6 +47,11 @@ class PaperCache {
     /// The image cropped to fill its size, or the notebook page with its drawing.
     /// Stays until the next call.
     const QPixmap& filling(const Wish& wish);
+    /// The same painted, as much of it as lies in `part`, logical pixels. Only what takes
+    /// its time to draw is kept.
+    void paint(QPainter& painter, const QRectF& part, const Wish& wish);
+    /// Whoever wants a copy again waits for it again.
+    void clear() { copies_.clear(); }
 
   private:
     QCache<Wish, QPixmap> copies_{kKeptCopies};

@@ -18,6 +18,10 @@ namespace quillor::platform {
 /// at once or as soon as the system has answered, in the application's thread.
 void readPreferences(std::function<void(const Preferences&)> told);
 
+/// From now on the memory of a large picture goes back to the system when the picture goes.
+/// To be called before any other is asked for.
+void giveLargeMemoryBack();
+
 /// The command line without the program's own name.
 QStringList arguments(int argc, char** argv);
 

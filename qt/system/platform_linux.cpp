@@ -7,6 +7,7 @@
 #include <QUrl>
 #include <cstdio>
 
+#include <malloc.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -34,6 +35,14 @@ QStringList arguments(int argc, char** argv) {
 
 void print(const QString& text, bool isError) {
     std::fputs(text.toLocal8Bit().constData(), isError ? stderr : stdout);
+}
+
+// Left to itself the C library counts as large what is larger than all that was ever freed:
+// after the first drawing, which is decoded to ten megabytes, no picture would be.
+void giveLargeMemoryBack() {
+#ifdef __GLIBC__
+    mallopt(M_MMAP_THRESHOLD, 256 * 1024);
+#endif
 }
 
 // A desktop gives a socket, a file or nothing.

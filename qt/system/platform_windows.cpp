@@ -73,6 +73,8 @@ void print(const QString& text, bool isError) {
     CloseHandle(console);
 }
 
+void giveLargeMemoryBack() {}
+
 // A console that it was started from counts: what is printed goes there.
 bool isHeard() {
     const bool console = AttachConsole(ATTACH_PARENT_PROCESS) || GetConsoleWindow() != nullptr;

@@ -216,6 +216,25 @@ TEST(Paper, RulesTheWholeOfAnyShape) {
     EXPECT_EQ(page.pixelColor(590, kRule + 5), toQt(style::kPaper));
 }
 
+TEST(Paper, PaintedInPartsLooksAsItDoesAsAWhole) {
+    for (const char* drawing : {"", style::kMenuDrawing})
+        for (const double density : {1.0, 2.0}) {
+            PaperCache papers;
+            const PaperCache::Wish wish{nullptr, drawing, kSize, density, kPixelsPerTwip, {}, 7};
+            const QImage whole = papers.filling(wish).toImage();
+            QImage parts(whole.size(), whole.format());
+            parts.setDevicePixelRatio(density);
+            QPainter painter(&parts);
+            for (const QRect& part :
+                 {QRect(0, 0, 100, 270), QRect(100, 0, 340, 81), QRect(100, 81, 340, 189)}) {
+                painter.setClipRect(part);
+                papers.paint(painter, part, wish);
+            }
+            painter.end();
+            EXPECT_EQ(parts, whole) << drawing << density;
+        }
+}
+
 TEST(Paper, IsPaintedOnceForControlsOfOneSize) {
     PaperCache papers;
     const PaperCache::Wish wish{nullptr, style::kIdleDrawing, kSize, 1, kPixelsPerTwip, {}};
