@@ -1,6 +1,5 @@
 // Starts the program: command line, program folder, fonts, screens.
 #include <QApplication>
-#include <QDir>
 #include <QIcon>
 #include <QLocale>
 #include <QTemporaryDir>
@@ -52,10 +51,11 @@ void onlyFatal(QtMsgType type, const QMessageLogContext&, const QString&) {
     std::_Exit(kBadUsage);
 }
 
+// Every size is handed to the desktop when a window opens; none shows a larger one.
 QIcon programIcon() {
     QIcon icon;
-    for (const QFileInfo& file : QDir(":/icon").entryInfoList({"*.png"}))
-        icon.addFile(file.filePath());
+    for (const int size : {16, 24, 32, 48, 64, 128})
+        icon.addFile(QStringLiteral(":/icon/quillor-%1.png").arg(size));
     return icon;
 }
 
@@ -214,6 +214,7 @@ int tellOfTopics(const CommandLine& line, bool english, int argc, char** argv) {
 }
 
 int run(int argc, char** argv) {
+    platform::giveLargeMemoryBack();
     const bool english = systemIsEnglish();
     const CommandLine line = parseCommandLine(platform::arguments(argc, argv), english);
     switch (line.action) {

@@ -222,7 +222,7 @@ QString askText(const BoxStyle& style, const QString& prompt, const QString& acc
 void showAbout(const BoxStyle& style, const QString& title, const QString& text,
                const QString& accept) {
     Box box(style, QAccessible::AlertMessage);
-    const QIcon program = style.parent ? style.parent->windowIcon() : QIcon();
+    const QIcon program(QStringLiteral(":/icon/quillor-512.png"));
     box.addPicture(program.pixmap(QSize(1, 1) * box.px(kAboutIconSize), box.devicePixelRatioF()));
     QFont large = style.buttonFont;
     large.setPixelSize(box.px(kTitleSize));
