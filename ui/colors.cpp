@@ -55,7 +55,6 @@ Accent::Accent(Program& program, std::function<void(Color)> paint)
     tmrColor.onTick = [this] { tmrColor_Timer(); };
     tmrSmooth.id = "tmrSmooth";
     tmrSmooth.interval = 100;
-    tmrSmooth.enabled = true;
     tmrSmooth.onTick = [this] { tmrSmooth_Timer(); };
 }
 
@@ -77,6 +76,7 @@ void Accent::tmrColor_Timer() {
 
 void Accent::prepareTransition() {
     lblColor.visible = settings_.gbColorTransition;
+    tmrSmooth.enabled = settings_.gbColorTransition;
     eGetRGB(settings_.glThemeNow);
 }
 
@@ -107,7 +107,7 @@ bool Accent::mayRise(const Channel& channel) const {
 }
 
 void Accent::tmrSmooth_Timer() {
-    if (!settings_.gbColorTransition || program_.desktop.preferences().reducedMotion)
+    if (program_.desktop.preferences().reducedMotion)
         return;
     Channel& channel = channels_.at(static_cast<std::size_t>(3 * program_.desktop.draw()));
     if (channel.value + kDriftStep > kDriftHigh || !mayRise(channel))
