@@ -112,12 +112,14 @@ bool layOutTopics(const Place& packs, const Place& programFolder) {
 }
 
 ParsedTopic parseTopic(std::string_view bytes) {
-    const SplitLines split = splitLines(bytes, kTopicLines);
+    SplitLines split = splitLines(bytes, kTopicLines);
     ParsedTopic parsed;
     parsed.tooLong = split.more;
     parsed.lines = static_cast<int>(split.lines.size());
-    std::transform(split.lines.begin(), split.lines.end(), parsed.topic.begin(),
-                   [](const Text& line) { return upperCase(line); });
+    for (Text& line : split.lines)
+        std::transform(line.begin(), line.end(), line.begin(),
+                       [](char16_t c) { return upperCase(c); });
+    std::move(split.lines.begin(), split.lines.end(), parsed.topic.begin());
     return parsed;
 }
 
