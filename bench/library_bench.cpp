@@ -1,6 +1,7 @@
 // What the start waits for (reading the topics) and what each guess costs.
 #include <chrono>
 #include <filesystem>
+#include <fstream>
 #include <string>
 
 #include <benchmark/benchmark.h>
@@ -42,7 +43,23 @@ void loadTopics(benchmark::State& state) {
         benchmark::DoNotOptimize(settings.gaTopicLines);
     }
 }
-BENCHMARK(loadTopics)->Arg(10)->Arg(500)->Unit(benchmark::kMillisecond);
+BENCHMARK(loadTopics)->Arg(1000)->Arg(32767)->Unit(benchmark::kMillisecond);
+
+// What loading them is held against: every file read whole, and nothing made of it.
+void readTopics(benchmark::State& state) {
+    const FullLibrary library(static_cast<int>(state.range(0)));
+    for (auto round : state) {
+        std::size_t bytes = 0;
+        for (const auto& entry : std::filesystem::directory_iterator(library.folder / "Temas")) {
+            std::string content(entry.file_size(), '\0');
+            std::ifstream file(entry.path(), std::ios::binary);
+            bytes +=
+                file.read(content.data(), static_cast<std::streamsize>(content.size())) ? 1 : 0;
+        }
+        benchmark::DoNotOptimize(bytes);
+    }
+}
+BENCHMARK(readTopics)->Arg(1000)->Arg(32767)->Unit(benchmark::kMillisecond);
 
 void foldPhrase(benchmark::State& state) {
     for (auto round : state)

@@ -1,164 +1,128 @@
 #!/usr/bin/python3
-"""The whole program beside one that shows an empty window, in one run and by turns:
-how long it takes to start, how much memory it takes, and what it costs to wait.
+"""The whole program beside one that shows an empty window, in one run and by turns: how long
+it takes to start, how much memory it takes, and what it costs to wait and to guess.
 
-    bench/whole_program.py FOLDER [ROUNDS]
+    bench/whole_program.py [ROUNDS] [--keep]
 
-FOLDER is a build without debugging help, with benchmarks: build/ci. The table has the
-median of the rounds, its goal, and their ratio: above 1 the goal is missed.
+Builds both as they are released. The table has the median of the rounds, its goal and their
+ratio, above 1 the goal is missed; and the ratio to what was kept in bench/baseline.json.
+--keep keeps this run there, and its table in README.md.
 """
 
-import os
+import argparse
+import json
 import statistics
 import subprocess
-import sys
-import time
-from pathlib import Path
 
-ROOT = Path(__file__).resolve().parent.parent
-sys.path.insert(0, str(ROOT / "tests" / "window"))
+from programs import CLOCK, ROOT, TRANSITION, Bench
 
-from harness.virtual_desktop import VirtualDesktop  # noqa: E402
+BUILD = ROOT / "build" / "whole"
+BASELINE = ROOT / "bench" / "baseline.json"
+MARKS = ("<!-- what it costs -->\n", "<!-- end -->\n")
 
-TICKS = os.sysconf("SC_CLK_TCK")
-WAIT = 10  # seconds that the processor's time is counted for
-TOPIC = "LETRAS [ESPAÑOL]\r\n" + "".join(f"UNA FRASE {n}\r\n" for n in "ABCDE")
-CLOCK, TRANSITION = 6, 9  # lines of the settings file
-
-
-class Started:
-    """A program on the virtual desktop, and the milliseconds until its window stood."""
-
-    def __init__(self, desktop, command):
-        self.desktop = desktop
-        begin = time.perf_counter()
-        self.process = subprocess.Popen(
-            list(map(str, command)), env=desktop.environment,
-            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-        )
-        self.until(lambda: self.window() is not None)
-        self.start = (time.perf_counter() - begin) * 1000
-
-    def until(self, holds):
-        end = time.monotonic() + 20
-        while not holds():
-            if time.monotonic() > end:
-                raise TimeoutError("the program does not come on")
-            time.sleep(0.001)
-
-    def window(self):
-        windows = self.desktop.windows
-        found = [each for each in windows.ids() if windows.process(each) == self.process.pid]
-        return found[0] if found else None
-
-    def title(self):
-        window = self.window()
-        return "" if window is None else self.desktop.windows.title(window)
-
-    def key(self, *names):
-        self.desktop.run(["xdotool", "key", "--delay", "60", *names])
-
-    def memory(self):
-        """Megabytes that are resident."""
-        status = Path(f"/proc/{self.process.pid}/status").read_text()
-        return int(status.split("VmRSS:")[1].split()[0]) / 1024
-
-    def waiting(self):
-        """Percent of a core while nobody does anything."""
-        before = self.ticks()
-        time.sleep(WAIT)
-        return (self.ticks() - before) / TICKS / WAIT * 100
-
-    def ticks(self):
-        fields = Path(f"/proc/{self.process.pid}/stat").read_text().rpartition(")")[2].split()
-        return int(fields[11]) + int(fields[12])
-
-    def end(self):
-        self.process.terminate()
-        self.process.wait()
-
-
-class Bench:
-    def __init__(self, build):
-        self.desktop = VirtualDesktop()
-        self.game = build / "qt" / "quillor"
-        self.empty = build / "bench" / "quillor_empty_window"
-        self.folder = self.desktop.scratch / "program"
-        (self.folder / "Temas").mkdir(parents=True)
-        (self.folder / "Temas" / "LETRAS.txt").write_bytes(TOPIC.encode("cp1252"))
-        self.found = {}
-
-    def note(self, what, value):
-        self.found.setdefault(what, []).append(value)
-
-    def settings(self, *switched_on):
-        lines = ["1" if line in switched_on else "0" for line in range(11)]
-        (self.folder / "Quillor-Config.ini").write_text("\r\n".join(lines) + "\r\n")
-
-    def play(self):
-        """Starts a game and brings it to where a phrase is guessed."""
-        game = Started(self.desktop, [self.game, "--folder", self.folder])
-        game.until(lambda: game.title().endswith("Inicio"))
-        time.sleep(1)
-        self.menu_memory = game.memory()
-        game.key("a")
-        game.until(lambda: "arcade" in game.title())
-        time.sleep(0.5)
-        game.key("Return")
-        time.sleep(0.5)
-        game.key("Return")
-        time.sleep(1.5)
-        game.key("a", "z")
-        time.sleep(1.5)  # the letters have come to rest
-        return game
-
-    def round(self):
-        self.settings()
-        empty = Started(self.desktop, [self.empty])
-        time.sleep(1)
-        empty_memory = empty.memory()
-        empty.end()
-        game = self.play()
-        self.note("start", game.start / empty.start)
-        self.note("memory in the menu", self.menu_memory / empty_memory)
-        self.note("memory in a game", game.memory() / empty_memory)
-        game.end()
-
-    def wait(self, name, *switched_on):
-        self.settings(*switched_on)
-        game = self.play()
-        self.note(name, game.waiting())
-        game.end()
-
-
-# What is measured, and what it may be at most.
-GOALS = {
-    "start": ("of the empty window's", 1.3),
-    "memory in the menu": ("of the empty window's", 1.3),
-    "memory in a game": ("of the empty window's", 1.4),
-    "waiting in a game": ("% of a core", 0.1),
-    "waiting with the clock": ("% of a core", 0.15),
-    "waiting with the colour transition": ("% of a core", 0.5),
+# What is measured: as the readers know it, in what unit, and what it may be at most.
+ROWS = {
+    "start": ("from its start to the first screen", "of an empty window's", 1.3),
+    "memory in the menu": ("memory in the menu", "of an empty window's", 1.3),
+    "memory in a game": ("memory in a game", "of an empty window's", 1.4),
+    "word: start": ("from its start to the first screen", "of a window's with a word", None),
+    "word: memory in the menu": ("memory in the menu", "of a window's with a word", None),
+    "word: memory in a game": ("memory in a game", "of a window's with a word", None),
+    "waiting": ("waiting in a game", "% of a core", 0.1),
+    "waiting, clock": ("waiting while the clock runs", "% of a core", 0.15),
+    "waiting, transition": ("waiting while the colour changes", "% of a core", 0.5),
+    "key, median": ("a key at a scale of 200 %, median", "ms of a core", 0.4),
+    "key, 99th percentile": ("a key at a scale of 200 %, 99th percentile", "ms of a core", 2),
+    "1000 topics": ("loading 1,000 topics", "of reading their files", 1.3),
+    "32767 topics": ("loading 32,767 topics", "of reading their files", 1.3),
+    "size": ("the program without what it carries", "MB", 1.2),
+    "guess": ("a guess with all that follows, without a window", "µs", 2.35),
 }
 
 
+def build():
+    options = ["--preset", "release", "-B", BUILD, "-DQUILLOR_BENCH=ON"]
+    subprocess.run(["cmake", *options], cwd=ROOT, check=True, stdout=subprocess.DEVNULL)
+    subprocess.run(["cmake", "--build", BUILD], cwd=ROOT, check=True)
+
+
+def measure_programs(bench, rounds):
+    for _ in range(rounds):
+        bench.one_round()
+    for _ in range(max(rounds // 5, 1)):
+        bench.wait("waiting")
+        bench.wait("waiting, clock", CLOCK)
+        bench.wait("waiting, transition", TRANSITION)
+    bench.keys(games=max(rounds // 2, 1))
+
+
+def measure_pieces(bench, rounds):
+    """Google Benchmark takes the repetitions of all by turns."""
+    command = [
+        BUILD / "bench" / "quillor_bench", "--benchmark_filter=Topics|playGames",
+        f"--benchmark_repetitions={rounds}", "--benchmark_enable_random_interleaving=true",
+        "--benchmark_min_time=0.05", "--benchmark_format=json",
+    ]
+    done = subprocess.run(command, capture_output=True, check=True)
+    times = {}
+    for run in json.loads(done.stdout)["benchmarks"]:
+        if run["run_type"] == "iteration":
+            times.setdefault(run["name"], []).append(run)
+    for count in (1000, 32767):
+        load, read = ([run["real_time"] for run in times[f"{what}Topics/{count}"]]
+                      for what in ("load", "read"))
+        bench.note(f"{count} topics", statistics.median(load) / statistics.median(read))
+    guesses = statistics.median(run["guesses"] for run in times["playGames"])
+    bench.note("guess", 1e6 / guesses)
+
+
+def measure_size(bench):
+    program = bench.desktop.scratch / "quillor"
+    subprocess.run(["strip", "-o", program, bench.game], check=True)
+    symbols = subprocess.run(
+        ["nm", "--print-size", bench.game], capture_output=True, text=True, check=True
+    ).stdout
+    carried = sum(int(line.split()[1], 16) for line in symbols.splitlines()
+                  if "qt_resource_data" in line)
+    bench.note("size", (program.stat().st_size - carried) / 1e6)
+
+
+def table(found, before):
+    lines = ["| | now | | goal | ratio to it | to the baseline |", "|---|---|---|---|---|---|"]
+    for name, (what, unit, goal) in ROWS.items():
+        value = found[name]
+        to_goal = f"{goal:g} | {value / goal:.2f}" if goal else "- | -"
+        to_before = f"{value / before[name]:.2f}" if name in before else "-"
+        lines.append(f"| {what} | {value:.2f} | {unit} | {to_goal} | {to_before} |")
+    return "".join(line + "\n" for line in lines)
+
+
+def keep(found):
+    BASELINE.write_text(json.dumps(found, indent=2) + "\n")
+    readme = ROOT / "README.md"
+    before, rest = readme.read_text().split(MARKS[0])
+    after = rest.split(MARKS[1])[1]
+    readme.write_text(before + MARKS[0] + table(found, {}) + MARKS[1] + after)
+
+
 def main():
-    build = Path(sys.argv[1]).resolve()
-    rounds = int(sys.argv[2]) if len(sys.argv) > 2 else 15
-    bench = Bench(build)
+    words = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    words.add_argument("rounds", nargs="?", type=int, default=15)
+    words.add_argument("--keep", action="store_true")
+    wish = words.parse_args()
+    build()
+    bench = Bench(BUILD)
     try:
-        for _ in range(rounds):
-            bench.round()
-        for _ in range(max(rounds // 5, 1)):
-            bench.wait("waiting in a game")
-            bench.wait("waiting with the clock", CLOCK)
-            bench.wait("waiting with the colour transition", TRANSITION)
+        measure_programs(bench, wish.rounds)
+        measure_pieces(bench, wish.rounds)
+        measure_size(bench)
     finally:
         bench.desktop.close()
-    print(f"{'':36}{'median':>8} {'goal':>8} {'ratio':>7}")
-    for name, (unit, goal) in GOALS.items():
-        median = statistics.median(bench.found[name])
-        print(f"{name:36}{median:8.2f} {goal:8.2f} {median / goal:7.2f}  {unit}")
+    found = {name: round(statistics.median(values), 3) for name, values in bench.found.items()}
+    before = json.loads(BASELINE.read_text()) if BASELINE.exists() else {}
+    print(table(found, before), end="")
+    if wish.keep:
+        keep(found)
 
 
 if __name__ == "__main__":
