@@ -55,6 +55,7 @@ serve_page() {
     local opener=xdg-open
     [ "$(uname)" != Darwin ] || opener=open
     if ! have_screen || ! command -v "$opener" >/dev/null; then opener=; fi
+    echo "Building the page, which takes a few minutes the first time."
     "$root/web/build.sh"
     QUILLOR_OPENER=$opener exec node "$root/web/serve.js" "$root/build/web"
 }

@@ -71,6 +71,8 @@ if (process.argv[1] === fileURLToPath(import.meta.url)) {
     // Another program may have the usual one.
     const server = await serve(folder, Number(process.argv[3] ?? 8642)).catch(() => serve(folder));
     const address = `http://localhost:${server.address().port}/`;
+    const opener = process.env.QUILLOR_OPENER;
     console.log(`Quillor is at ${address} until you press Ctrl+C.`);
-    open(address, process.env.QUILLOR_OPENER);
+    if (!opener) console.log("Open that address in a browser: none can be opened from here.");
+    open(address, opener);
 }

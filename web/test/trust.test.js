@@ -1,8 +1,10 @@
 // Whatever stands in a file is text, and the page asks nobody but its own address.
 import assert from "node:assert/strict";
+import { spawn } from "node:child_process";
 import { readFileSync, readdirSync } from "node:fs";
 import { join } from "node:path";
 import { test } from "node:test";
+import { fileURLToPath } from "node:url";
 import { serve } from "../serve.js";
 import { englishFiles, folder, played, topicOf } from "./player.js";
 
@@ -83,4 +85,19 @@ test("the server answers what is no address, or leads out of its folder, with no
     assert.equal((await fetch(`http://127.0.0.1:${port}/`)).status, 200);
     server.close();
     server.closeAllConnections();
+});
+
+test("the program that serves the page says where it is, and has it opened where a browser can be", async () => {
+    const program = fileURLToPath(new URL("../serve.js", import.meta.url));
+    for (const opener of ["", "/bin/echo"]) {
+        const running = spawn(process.execPath, [program, folder, "0"], { env: { ...process.env, QUILLOR_OPENER: opener } });
+        let said = "";
+        for await (const words of running.stdout) {
+            said += words;
+            if (said.includes(opener ? "\n" : "none can be opened")) break;
+        }
+        running.kill();
+        assert.match(said, /^Quillor is at http:\/\/localhost:\d+\/ until you press Ctrl\+C\.\n/);
+        assert.equal(said.includes("Open that address in a browser"), !opener);
+    }
 });
