@@ -101,3 +101,9 @@ test("the program that serves the page says where it is, and has it opened where
         assert.equal(said.includes("Open that address in a browser"), !opener);
     }
 });
+
+test("no browser offers to translate the page, whose letters are the game", () =>
+    played({ files: englishFiles }, async (player) => {
+        await player.screen("frmMenu");
+        assert.equal(await player.page.evaluate(() => document.documentElement.translate), false);
+    }));
