@@ -77,6 +77,29 @@ test("while nothing happens nothing is done", () =>
         assert.deepEqual(await player.page.evaluate(() => window.work), []);
     }));
 
+test("a game that is over and at rest changes nothing, and has its own timers alone", () =>
+    played({ files: englishFiles, before: countedWork }, async (player) => {
+        await player.openGame();
+        await player.guess("atnp");
+        await player.says("lblStatus", "VICTORY");
+        await player.page.evaluate(() => {
+            window.latest = performance.now();
+            new MutationObserver(() => { window.latest = performance.now(); }).observe(document, { subtree: true, childList: true, attributes: true, characterData: true });
+        });
+        // The score has been counted, and the phrase has been kept.
+        await player.until(() => performance.now() - window.latest > 2500);
+        const work = await player.page.evaluate(async () => {
+            window.work.length = 0;
+            const before = window.latest;
+            await new Promise((resolve) => setInterval(resolve, 1000));
+            return [window.work.filter((each) => each !== "setInterval"), window.latest === before];
+        });
+        assert.deepEqual([...new Set(work[0])], ["setTimeout"]);
+        // Of the two that never stop, ten and two in a second.
+        assert.ok(work[0].length <= 14, String(work[0].length));
+        assert.ok(work[1]);
+    }));
+
 // A player of sounds that ends them when the test says so.
 function slowSounds() {
     window.playing = [];
