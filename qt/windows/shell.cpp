@@ -109,9 +109,10 @@ void Shell::refresh(Cause cause) {
     int rounds = 0;
     do {
         again_ = false;
+        const bool all = std::exchange(preferencesDiffer_, false);
         // Moving the focus runs handlers, which may open and close screens.
         for (Page* page : std::vector(pages_))
-            page->sync(cause);
+            page->sync(all ? Cause::Preferences : cause);
         turnPages();
     } while (again_ && ++rounds < kMostRounds);
     syncing_ = false;
@@ -149,7 +150,8 @@ void Shell::apply(const Preferences& wanted) {
     scheme = Scheme(wanted);
     fonts.textSize = wanted.textSize;
     motions.wanted = !wanted.reducedMotion;
-    event([] {}, Cause::Preferences);
+    preferencesDiffer_ = true;
+    event([] {});
 }
 
 void Shell::paintMotions() {

@@ -130,6 +130,7 @@ class Shell {
     bool byKey_ = false;
     bool syncing_ = false;
     bool again_ = false;
+    bool preferencesDiffer_ = false;  // from those that the pages show
     bool ended_ = false;
 };
 

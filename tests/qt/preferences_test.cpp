@@ -79,6 +79,15 @@ TEST_F(Following, PaperAndFieldsTurnDarkAndBack) {
     EXPECT_GT(paper().lightness(), 200);
 }
 
+TEST_F(Following, PreferencesThatComeInTheMidstOfAnEventReachAllTheSame) {
+    button.opaque = true;
+    button.backColor = rgb(250, 250, 250);
+    open();
+    shell.event([&] { shell.apply({.dark = true}); });
+    const QImage image = widgetOf(button).grab().toImage();
+    EXPECT_LT(image.pixelColor(2, image.height() - 3).lightness(), 100);
+}
+
 TEST_F(Following, HighContrastLeavesPlainPaper) {
     open();
     shell.apply({.highContrast = true});
