@@ -283,6 +283,14 @@ TEST_F(SystemWide, IsPortableWhenToldSo) {
     EXPECT_FALSE(user.has("quillor"));
 }
 
+TEST_F(SystemWide, LoadsItsModulesFromWhereTheSystemKeepsThem) {
+    EXPECT_EQ(findInstallation(system / "bin", true).modules, system / "bin");
+    system.write("bin/" QUILLOR_MODULES_FROM_PROGRAM "/quillor-sound.so", "");
+    for (const bool portable : {false, true})
+        EXPECT_EQ(findInstallation(system / "bin", portable).modules,
+                  system / "bin/" QUILLOR_MODULES_FROM_PROGRAM);
+}
+
 TEST(ProgramFolder, MakesTheGivenFolder) {
     const TempFolder folder;
     EXPECT_EQ(useFolder(folder / "a/b"), folder / "a/b");
