@@ -29,6 +29,9 @@ player_has Temas/Aves.txt
 player_has Topics/Birds.txt
 inside test -z "$(find "$system/usr/games" -name 'Quillor-Config.ini')"
 
+step "has all that its sounds need"
+needs_nothing "$(grep '/quillor-sound\.so$' "$system/tmp/installed")"
+
 step "plays a tour through all its screens"
 on_screen quillor --tour /home/player/pictures
 count_pictures "$system/home/player/pictures"

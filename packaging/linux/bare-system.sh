@@ -71,3 +71,11 @@ count_pictures() {
     count=$(find "$1" -name '*.png' | wc -l)
     [ "$count" -gt 20 ] || fail "the tour left $count pictures"
 }
+
+# needs_nothing FILE: the system has every library that the file loads.
+needs_nothing() {
+    local missing
+    [ -f "$system$1" ] || fail "there is no $1"
+    missing=$(inside ldd "$1" | grep "not found") && fail "$1 lacks $missing"
+    return 0
+}

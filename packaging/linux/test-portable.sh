@@ -23,6 +23,9 @@ for name in Quillor-Config.ini Temas/Aves.txt Topics/Birds.txt; do
     inside test -e "$folder/$name" || fail "$name is not in its folder"
 done
 
+step "has all that its sounds need"
+needs_nothing "$folder/quillor-sound.so"
+
 step "plays a tour through all its screens"
 on_screen "$folder/start.sh" --tour /home/player/pictures
 count_pictures "$system/home/player/pictures"
