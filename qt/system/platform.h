@@ -36,6 +36,10 @@ bool isHeard();
 /// Whether a key pressed together with Alt alone types a character.
 bool altTypesCharacters();
 
+/// Whether the event of a key tells when the key was moved, and not when the program has
+/// come to it: after a sound, many at once.
+bool tellsWhenKeysMove();
+
 /// The digit, 0 to 9, of a key in the row above the letters, by what the system
 /// calls that key; -1 for any other.
 int digitOfKey(unsigned scanCode, unsigned virtualKey);

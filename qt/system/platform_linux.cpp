@@ -56,6 +56,10 @@ bool altTypesCharacters() {
     return false;
 }
 
+bool tellsWhenKeysMove() {
+    return true;
+}
+
 // The same on X11 and Wayland: the kernel's code and 8.
 int digitOfKey(unsigned scanCode, unsigned) {
     constexpr unsigned kFirst = 10;  // of 1; 0 is the tenth

@@ -41,6 +41,10 @@ bool altTypesCharacters() {
     return true;
 }
 
+bool tellsWhenKeysMove() {
+    return true;
+}
+
 int digitOfKey(unsigned, unsigned virtualKey) {
     constexpr unsigned kDigitKeys[] = {29, 18, 19, 20, 21, 23, 22, 26, 28, 25};
     const auto* found = std::find(std::begin(kDigitKeys), std::end(kDigitKeys), virtualKey);

@@ -88,6 +88,10 @@ bool altTypesCharacters() {
     return false;
 }
 
+bool tellsWhenKeysMove() {
+    return false;
+}
+
 int digitOfKey(unsigned, unsigned virtualKey) {
     return virtualKey >= '0' && virtualKey <= '9' ? static_cast<int>(virtualKey - '0') : -1;
 }

@@ -74,8 +74,8 @@ void RepeatFinder::release(const QKeyEvent& event) {
 bool RepeatFinder::isRepeat(const QKeyEvent& press) const {
     constexpr quint64 kSameMoment = 3;  // ms; no finger is as quick
     return press.isAutoRepeat() ||
-           (time_ > 0 && keyId(press) == id_ && press.timestamp() >= time_ &&
-            press.timestamp() - time_ <= kSameMoment);
+           (platform::tellsWhenKeysMove() && time_ > 0 && keyId(press) == id_ &&
+            press.timestamp() >= time_ && press.timestamp() - time_ <= kSameMoment);
 }
 
 KeyPress toKeyPress(const QKeyEvent& event) {
