@@ -59,8 +59,11 @@ class VirtualDesktop:
 
     def _start_manager(self):
         """Without one no window is active and focus is lost after a dialog."""
-        self._start_process(["openbox"])
-        until(self.windows.are_managed, "the window manager")
+        # It says that it manages windows a moment before it does; one that opens just then
+        # is never shown.
+        ready = self.scratch / "managed"
+        self._start_process(["openbox", "--startup", f"touch {ready}"])
+        until(ready.exists, "the window manager")
 
     def _make_environment(self):
         """Nothing of the tester's own desktop gets in, nothing is left in it."""

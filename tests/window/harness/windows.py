@@ -19,9 +19,6 @@ class Windows:
             return None  # the window is gone
         return None if found is None else found.value
 
-    def are_managed(self):
-        return self._property(self._root, "_NET_SUPPORTING_WM_CHECK") is not None
-
     def ids(self):
         """The ordinary windows, oldest first; dialogs are among them."""
         return list(self._property(self._root, "_NET_CLIENT_LIST", Xatom.WINDOW) or [])
